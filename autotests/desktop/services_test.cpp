@@ -1,0 +1,123 @@
+// The clock, the translation files, the printed pages and the keys.
+#include <QFile>
+#include <QKeyEvent>
+#include <QTemporaryDir>
+
+#include "autotests/desktop/desktop_fixture.h"
+#include "platform/qt/qt_clock.h"
+#include "platform/qt/qt_keys.h"
+#include "platform/qt/qt_page_printer.h"
+#include "platform/qt/qt_text.h"
+#include "platform/qt/qt_translations.h"
+
+namespace lorimet {
+namespace {
+
+TEST(QtClockTest, SleepingMovesTheTickCount) {
+  QtClock clock;
+  const std::uint32_t before = clock.TickCount();
+  clock.Sleep(2);
+  const std::uint32_t passed = clock.TickCount() - before;
+  EXPECT_GE(passed, 1U);
+  EXPECT_LT(passed, 5000U);
+}
+
+TEST(QtClockTest, NowIsLocalTime) {
+  QtClock clock;
+  const std::time_t before = std::time(nullptr);
+  std::tm now = clock.Now();
+  now.tm_isdst = -1;
+  EXPECT_NEAR(static_cast<double>(std::mktime(&now)), static_cast<double>(before), 2.0);
+}
+
+TEST(QtTranslationsTest, WithoutFilesNothingIsTranslated) {
+  const QTemporaryDir empty;
+  QtTranslations translations(FromQString(empty.path()));
+  EXPECT_EQ(translations.Lookup(1, "Yes"), "");
+  EXPECT_FALSE(translations.Open());
+  EXPECT_EQ(translations.Lookup(1, "Yes"), "");
+}
+
+TEST(QtPagePrinterTest, PagesGoToAFile) {
+  const QTemporaryDir folder;
+  const QString file = folder.filePath("pages.pdf");
+  QtPagePrinter printer(FromQString(file));
+  printer.SetFont("Arial", 14, true);
+  printer.PrintLine("Title");
+  printer.SetX(1440);
+  printer.Print("left open");
+  printer.PrintLine(", closed");
+  printer.DrawLine(0, printer.PageWidth(), 5);
+  printer.NewPage();
+  printer.PrintLine("Second");
+  EXPECT_GT(printer.TextWidth("    "), 0);
+  EXPECT_NEAR(printer.TextWidth("        "), 2 * printer.TextWidth("    "), 4);
+  EXPECT_GT(printer.PageWidth(), 5 * 1440);
+  printer.EndDocument();
+  QFile written(file);
+  ASSERT_TRUE(written.open(QIODevice::ReadOnly));
+  EXPECT_TRUE(written.readAll().startsWith("%PDF"));
+}
+
+TEST(QtPagePrinterTest, WithoutAPrinterItIsError482) {
+  if (QtPagePrinter::HasPrinter()) GTEST_SKIP() << "this machine has a printer";
+  QtPagePrinter printer;
+  try {
+    printer.PrintLine("x");
+    FAIL() << "printed without a printer";
+  } catch (const RuntimeError& error) {
+    EXPECT_EQ(error.Number(), 482);
+  }
+}
+
+TEST(QtPagePrinterTest, FileThatCannotBeWrittenIsError482) {
+  QtPagePrinter printer("/nonexistent/folder/pages.pdf");
+  EXPECT_THROW(printer.PrintLine("x"), RuntimeError);
+}
+
+TEST(QtKeysTest, KeysHaveTheirVirtualCodes) {
+  struct Row {
+    int key;
+    Qt::KeyboardModifiers modifiers;
+    int code;
+    int shift;
+  };
+  const Row rows[] = {
+      {Qt::Key_A, Qt::NoModifier, 65, 0},
+      {Qt::Key_Z, Qt::ShiftModifier, 90, 1},
+      {Qt::Key_7, Qt::NoModifier, 55, 0},
+      {Qt::Key_7, Qt::KeypadModifier, 103, 0},
+      {Qt::Key_Plus, Qt::KeypadModifier, 107, 0},
+      {Qt::Key_Plus, Qt::NoModifier, 187, 0},
+      {Qt::Key_Enter, Qt::KeypadModifier, 13, 0},
+      {Qt::Key_Left, Qt::KeypadModifier, 37, 0},
+      {Qt::Key_F1, Qt::NoModifier, 112, 0},
+      {Qt::Key_F12, Qt::ControlModifier, 123, 2},
+      {Qt::Key_Delete, Qt::AltModifier, 46, 4},
+      {Qt::Key_Escape, Qt::NoModifier, 27, 0},
+      {Qt::Key_Exclam, Qt::ShiftModifier, 49, 1},
+      {Qt::Key_Backtab, Qt::ShiftModifier, 9, 1},
+      {Qt::Key_VolumeUp, Qt::NoModifier, 255, 0},
+  };
+  for (const Row& row : rows) {
+    const KeyEvent key = TranslateKey(QKeyEvent(QEvent::KeyPress, row.key, row.modifiers));
+    EXPECT_EQ(key.code, row.code) << row.key;
+    EXPECT_EQ(key.shift, row.shift) << row.key;
+  }
+}
+
+TEST(QtKeysTest, MenuKeysAreTheSystemsAndTypingIsNot) {
+  const auto is_system = [](int key, Qt::KeyboardModifiers modifiers) {
+    return IsSystemKey(QKeyEvent(QEvent::KeyPress, key, modifiers));
+  };
+  EXPECT_TRUE(is_system(Qt::Key_Alt, Qt::AltModifier));
+  EXPECT_TRUE(is_system(Qt::Key_F4, Qt::AltModifier));
+  EXPECT_TRUE(is_system(Qt::Key_F10, Qt::NoModifier));
+  EXPECT_FALSE(is_system(Qt::Key_F10, Qt::ShiftModifier));
+  EXPECT_FALSE(is_system(Qt::Key_Q, Qt::AltModifier | Qt::ControlModifier));
+  EXPECT_FALSE(is_system(Qt::Key_F1, Qt::NoModifier));
+  EXPECT_FALSE(is_system(Qt::Key_C, Qt::ControlModifier));
+}
+
+}  // namespace
+}  // namespace lorimet

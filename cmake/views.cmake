@@ -1,0 +1,37 @@
+# Writes the table from which the Qt adapter builds the window of a form: one row a .ui file.
+function(lorimet_generate_views result)
+  set(includes "")
+  set(rows "")
+  foreach(ui ${ARGN})
+    get_filename_component(form ${ui} NAME_WE)
+    file(STRINGS ${ui} top REGEX "^ <widget class=" LIMIT_COUNT 1)
+    string(REGEX REPLACE ".*class=\"([A-Za-z]+)\".*" "\\1" base "${top}")
+    string(APPEND includes "#include \"ui_${form}.h\"\n")
+    string(APPEND rows
+      "    {\"${form}\", [](QWidget* parent) -> QWidget* {\n"
+      "       auto* window = new ${base}(parent);\n"
+      "       Ui::${form}().setupUi(window);\n"
+      "       return window;\n"
+      "     }},\n")
+  endforeach()
+  set(file ${CMAKE_BINARY_DIR}/generated/views.cpp)
+  set(text "// The windows of the forms, one row a .ui file. Generated.
+#include \"platform/qt/views.h\"
+
+#include <QDialog>
+#include <QMainWindow>
+
+${includes}
+namespace lorimet {
+
+const std::map<std::string, ViewFactory>& ViewFactories() {
+  static const std::map<std::string, ViewFactory> table = {
+${rows}  };
+  return table;
+}
+
+}  // namespace lorimet
+")
+  file(CONFIGURE OUTPUT ${file} CONTENT "${text}" @ONLY)
+  set(${result} ${file} PARENT_SCOPE)
+endfunction()

@@ -1,0 +1,85 @@
+#include "simulator/library/files.h"
+
+#include <cstdlib>
+#include <fstream>
+#include <iterator>
+#include <system_error>
+
+namespace lorimet::simulator {
+namespace {
+
+std::string Variable(const char* name) {
+  const char* value = std::getenv(name);
+  return value == nullptr ? std::string() : std::string(value);
+}
+
+std::filesystem::path With(std::filesystem::path path, const char* ending) {
+  path += ending;
+  return path;
+}
+
+}  // namespace
+
+std::optional<std::string> ReadWholeFile(const std::filesystem::path& path) {
+  std::ifstream file(path, std::ios::binary);
+  if (!file) return std::nullopt;
+  std::string text((std::istreambuf_iterator<char>(file)), std::istreambuf_iterator<char>());
+  if (file.bad()) return std::nullopt;
+  return text;
+}
+
+bool ReplaceFile(const std::filesystem::path& path, const std::string& text) {
+  std::error_code error;
+  if (path.has_parent_path()) std::filesystem::create_directories(path.parent_path(), error);
+  const std::filesystem::path temporary = With(path, ".new");
+  {
+    std::ofstream file(temporary, std::ios::binary | std::ios::trunc);
+    file << text;
+    file.close();
+    if (!file) return false;
+  }
+  std::filesystem::rename(temporary, path, error);
+  return !error;
+}
+
+std::filesystem::path ScenarioPath() { return Variable("LORIMET32_SCENARIO"); }
+
+std::filesystem::path ControlPath() { return Variable("LORIMET32_CONTROL"); }
+
+std::filesystem::path StatePath() {
+  const std::string named = Variable("LORIMET32_STATE");
+  if (named == "none") return {};
+  if (!named.empty()) return named;
+#if defined(_WIN32)
+  const std::filesystem::path base = Variable("LOCALAPPDATA");
+#else
+  std::filesystem::path base = Variable("XDG_STATE_HOME");
+  const std::string home = Variable("HOME");
+  if (base.empty() && !home.empty()) base = std::filesystem::path(home) / ".local" / "state";
+#endif
+  if (base.empty()) return {};
+  return base / "norvick-lorimet" / "simulator.state";
+}
+
+void ControlFile::Poll(const std::function<std::string(const std::string&)>& run) {
+  if (path_.empty()) return;
+  std::error_code error;
+  const auto size = std::filesystem::file_size(path_, error);
+  if (error || size == offset_) return;
+  if (size < offset_) offset_ = 0;  // begun anew
+  const auto text = ReadWholeFile(path_);
+  if (!text) return;
+  bool any = false;
+  for (std::size_t end = 0; (end = text->find('\n', offset_)) != std::string::npos;) {
+    const std::string complaint = run(text->substr(offset_, end - offset_));
+    offset_ = end + 1;
+    ++lines_;
+    any = true;
+    if (complaint.empty()) continue;
+    std::ofstream errors(With(path_, ".errors"), std::ios::app);
+    errors << "line " << lines_ << ": " << complaint << '\n';
+  }
+  if (any) ReplaceFile(With(path_, ".done"), std::to_string(lines_) + "\n");
+}
+
+}  // namespace lorimet::simulator

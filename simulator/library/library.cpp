@@ -1,0 +1,100 @@
+#include "simulator/library/library.h"
+
+#include <algorithm>
+#include <string>
+#include <utility>
+
+namespace lorimet::simulator {
+namespace {
+
+constexpr double kLongestCatchUp = 2;  // seconds of trailer time that one tick makes up for
+
+std::string ScenarioText(const std::filesystem::path& path) {
+  if (path.empty()) return {};
+  return ReadWholeFile(path).value_or("");
+}
+
+}  // namespace
+
+Library::Library() : link_(ScenarioText(scenario_path_)) {
+  if (!scenario_path_.empty() && !ReadWholeFile(scenario_path_))
+    link_.SetScenarioError("the file '" + scenario_path_.string() + "' cannot be read");
+  if (!state_path_.empty())
+    if (const auto state = ReadWholeFile(state_path_)) link_.Restore(*state);
+  kept_revision_ = link_.StateRevision();
+  link_.SetStatusSink([this](std::int32_t status) { posted_.push_back(status); });
+  // The caller waits, the trailer does not.
+  link_.SetWaiter([this](double seconds) {
+    if (calling_ == nullptr) return;
+    calling_->unlock();
+    std::this_thread::sleep_for(std::chrono::duration<double>(seconds));
+    calling_->lock();
+  });
+}
+
+Library::~Library() {
+  End();
+  const std::lock_guard lock(mutex_);
+  KeepState();
+}
+
+void Library::Start() {
+  channel_.Open(link_.Handle());
+  posted_.clear();
+  ending_ = false;
+  last_tick_ = std::chrono::steady_clock::now();
+  last_control_ = last_tick_;
+  thread_ = std::thread([this] { Loop(); });
+}
+
+void Library::End() {
+  {
+    const std::lock_guard lock(mutex_);
+    ending_ = true;
+    channel_.Close();
+  }
+  wake_.notify_all();
+  if (thread_.joinable()) thread_.join();
+}
+
+void Library::Loop() {
+  BlockSignalsOfThisThread();
+  std::unique_lock lock(mutex_);
+  while (!wake_.wait_for(lock, kTick, [this] { return ending_; }))
+    Tick(std::chrono::steady_clock::now());
+}
+
+void Library::Tick(TimePoint now) {
+  const double seconds = std::chrono::duration<double>(now - last_tick_).count();
+  last_tick_ = now;
+  if (now - last_control_ >= kControlPeriod) {
+    last_control_ = now;
+    PollControl();
+  }
+  link_.Advance(std::min(seconds, kLongestCatchUp));
+  for (const std::int32_t status : std::exchange(posted_, {})) channel_.Post(status);
+  KeepState();
+}
+
+void Library::PollControl() {
+  control_.Poll([this](const std::string& line) { return Run(line); });
+}
+
+std::string Library::Run(const std::string& line) {
+  if (line != "report" && line != "report\r") return link_.Command(line);
+  std::string report;
+  for (const std::string_view name : kOperationNames)
+    report += std::string(name) + " " + std::to_string(link_.Requests(name)) + "\n";
+  for (const std::string& request : link_.Log().Lines()) report += request + "\n";
+  std::filesystem::path path = ControlPath();
+  path += ".report";
+  return ReplaceFile(path, report) ? "" : "the report cannot be written";
+}
+
+void Library::KeepState() {
+  const std::uint64_t revision = link_.StateRevision();
+  if (state_path_.empty() || revision == kept_revision_) return;
+  if (ReplaceFile(state_path_, link_.State())) kept_revision_ = revision;
+}
+
+}  // namespace lorimet::simulator

@@ -1,0 +1,427 @@
+#include "simulator/library/link.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <cstring>
+
+#include "simulator/library/error_texts.h"
+
+namespace lorimet::simulator {
+namespace {
+
+constexpr std::size_t kReadBuffer = 512;
+constexpr std::size_t kFaultRecordSize = 24;
+constexpr std::size_t kMonitorText = 150;
+constexpr std::size_t kMonitorTiming = 25;
+
+std::string Text(const char* text) { return text == nullptr ? std::string() : text; }
+
+std::string Quoted(const char* text) { return "\"" + Text(text) + "\""; }
+
+std::span<const std::uint8_t> Bytes(const std::uint8_t* data, std::uint8_t count) {
+  if (data == nullptr) return {};
+  return {data, count};
+}
+
+// Overwrites the head of a buffer that is `room` blanks long, and leaves the blanks behind it.
+void PutText(char* buffer, std::size_t room, std::string_view text) {
+  if (buffer != nullptr) std::memcpy(buffer, text.data(), std::min(text.size(), room));
+}
+
+void PutInt(std::uint8_t* at, std::int32_t value) { std::memcpy(at, &value, sizeof value); }
+
+template <typename Record>
+Record* Aligned(void* address) {
+  const auto bits = reinterpret_cast<std::uintptr_t>(address);
+  return bits % 4 == 0 ? static_cast<Record*>(address) : nullptr;
+}
+
+}  // namespace
+
+std::optional<std::int32_t> Link::Disturb(Operation operation, const std::string& arguments,
+                                          std::int32_t silent) {
+  log_.Count(operation);
+  log_.Note(operation, arguments);
+  FailurePlan& failures = simulation_->failures;
+  const auto wait = [&](double seconds) {
+    if (waiter_)
+      waiter_(seconds);
+    else
+      Advance(seconds);
+  };
+  if (const auto failure = failures.Strike(FailureMode::kNeverAnswer, operation)) {
+    wait(failure->value > 0 ? failure->value : 2);
+    return silent;
+  }
+  if (const auto failure = failures.Strike(FailureMode::kAnswerLate, operation))
+    wait(failure->value > 0 ? failure->value : 0.5);
+  if (const auto failure = failures.Strike(FailureMode::kRefuse, operation))
+    return failure->value != 0 ? static_cast<std::int32_t>(failure->value) : kRejected;
+  return std::nullopt;
+}
+
+template <typename Service>
+std::int32_t Link::Serve(Operation operation, const std::string& arguments, Reach reach,
+                         Service service) {
+  if (const auto disturbed = Disturb(operation, arguments, kNoAnswer)) return *disturbed;
+  if (!connected_) return kInvalidClient;
+  if (reach == Reach::kEcu && simulation_->failures.Armed(FailureMode::kCableOut)) return kNoAnswer;
+  if (reach == Reach::kEcu && !simulation_->trailer.Answering()) return kBusy;
+  return service();
+}
+
+// --- Connection ---------------------------------------------------------------------------------
+
+std::int32_t Link::AdapterError(const char* protocol, const char* vendor, std::int32_t device) {
+  FailurePlan& failures = simulation_->failures;
+  const AdapterDemands& demands = simulation_->adapter;
+  if (!scenario_error_.empty()) return kScenarioBroken;
+  if (const auto failure = failures.Strike(FailureMode::kConnectAnswers))
+    return static_cast<std::int32_t>(failure->value);
+  if (failures.Strike(FailureMode::kNoAdapter)) return kHardwareSilent;
+  if (failures.Strike(FailureMode::kWrongVendor)) return kNotInitialised;
+  if (failures.Strike(FailureMode::kWrongDevice)) return kInvalidDevice;
+  if (failures.Strike(FailureMode::kWrongProtocol)) return kInvalidProtocol;
+  if (!demands.vendor.empty() && demands.vendor != Text(vendor)) return kNotInitialised;
+  if (demands.device && *demands.device != device) return kInvalidDevice;
+  if (!demands.protocol.empty() && demands.protocol != Text(protocol)) return kInvalidProtocol;
+  return connected_ ? kAlreadyConnected : simulation_->client_id;
+}
+
+std::int32_t Link::Connect(char* protocol, std::uint32_t hWnd, char* vendor, std::int32_t deviceId,
+                           std::int32_t family, std::uint8_t*, std::uint8_t*, void* linkStatus,
+                           void* ecuData, std::uint8_t*, std::uint8_t*, std::uint8_t*,
+                           std::uint32_t*) {
+  const std::string arguments = Quoted(protocol) + ", " + Quoted(vendor) + ", " +
+                                std::to_string(deviceId) + ", " + std::to_string(family);
+  if (const auto disturbed = Disturb(Operation::Connect, arguments, kHardwareSilent))
+    return *disturbed == kRejected ? kHardwareSilent : *disturbed;
+  const std::int32_t result = AdapterError(protocol, vendor, deviceId);
+  if (simulation_->answered_vendor && vendor != nullptr)
+    std::strcpy(vendor, simulation_->answered_vendor->c_str());
+  if (simulation_->answered_protocol && protocol != nullptr)
+    std::strcpy(protocol, simulation_->answered_protocol->c_str());
+  if (result < 0 || result > 127) return result;
+  connected_ = true;
+  attained_ = false;
+  handle_ = hWnd;
+  link_status_ = Aligned<LinkStatus>(linkStatus);
+  if (link_status_ != nullptr) link_status_->bLinkAttained.Store(0);
+  writer_.Attach(Aligned<ECUData>(ecuData));
+  writer_.WriteNothingKnown();
+  until_reading_ = static_cast<std::int64_t>(kFirstReadingSeconds * 1e6);
+  silence_ = 0;
+  until_link_error_ = 0;
+  until_healthy_ = 0;
+  return result;
+}
+
+std::int32_t Link::Disconnect() {
+  return Serve(Operation::Disconnect, "", Reach::kLibrary, [&] {
+    connected_ = false;
+    reading_job_ = false;
+    fault_locked_ = false;
+    link_status_ = nullptr;
+    writer_.Attach(nullptr);
+    bus_.Close();
+    return kDone;
+  });
+}
+
+std::int32_t Link::GetErrorText(std::int32_t code, char* buffer, std::int32_t length) {
+  log_.Count(Operation::GetErrorText);
+  log_.Note(Operation::GetErrorText, std::to_string(code) + ", " + std::to_string(length));
+  if (buffer == nullptr || length <= 0) return kDone;
+  const auto room = static_cast<std::size_t>(length);
+  FailurePlan& failures = simulation_->failures;
+  if (failures.Strike(FailureMode::kErrorTextUnknown)) return kDone;
+  if (failures.Strike(FailureMode::kErrorTextEmpty)) {
+    buffer[0] = '\0';
+    return kDone;
+  }
+  std::string text(ErrorText(code));
+  if (code == kScenarioBroken && !scenario_error_.empty()) text = "Scenario: " + scenario_error_;
+  if (failures.Strike(FailureMode::kErrorTextUnterminated)) {
+    text += '.';
+    for (std::size_t i = 0; i <= room; ++i) buffer[i] = text[i % text.size()];
+    return kDone;
+  }
+  PutText(buffer, room, text);
+  return kDone;
+}
+
+// --- The ECU as a whole -------------------------------------------------------------------------
+
+std::int32_t Link::ResetECU() {
+  return Serve(Operation::ResetECU, "", Reach::kEcu, [&]() -> Status {
+    if (simulation_->failures.Strike(FailureMode::kResetRefused)) return kConditionsNotCorrect;
+    simulation_->trailer.Reset();
+    fault_locked_ = false;
+    return kDone;
+  });
+}
+
+std::int32_t Link::Trailer_ABS_QOR_ReadStaticData() {
+  return Serve(Operation::Trailer_ABS_QOR_ReadStaticData, "", Reach::kLibrary, [&] {
+    reading_job_ = true;
+    job_left_ = static_cast<std::int64_t>(kStaticReadSeconds * 1e6);
+    job_gives_up_in_ = static_cast<std::int64_t>(kStaticGiveUpSeconds * 1e6);
+    writer_.WriteJobDone(0);
+    return kDone;
+  });
+}
+
+// --- Faults -------------------------------------------------------------------------------------
+
+std::int32_t Link::ClearAllFaults() {
+  return Serve(Operation::ClearAllFaults, "", Reach::kEcu, [&]() -> Status {
+    FailurePlan& failures = simulation_->failures;
+    if (failures.Strike(FailureMode::kClearRefused)) return kConditionsNotCorrect;
+    if (!failures.Strike(FailureMode::kClearIneffective)) simulation_->trailer.ClearFaults();
+    return kDone;
+  });
+}
+
+std::int32_t Link::FaultLock() {
+  return Serve(Operation::FaultLock, "", Reach::kEcu, [&]() -> Status {
+    if (fault_locked_) return kBusy;
+    if (simulation_->failures.Strike(FailureMode::kFaultLockRefused)) return kConditionsNotCorrect;
+    fault_locked_ = true;
+    told_faults_ = 0;
+    locked_faults_ = simulation_->trailer.Faults().Faults();
+    return kDone;
+  });
+}
+
+std::int32_t Link::FaultGetCount() {
+  told_faults_ = 0;
+  // An answer that never comes counts nothing.
+  if (const auto disturbed = Disturb(Operation::FaultGetCount, "", 0)) return *disturbed;
+  if (!connected_) return 0;
+  const auto held = static_cast<std::int32_t>(fault_locked_ ? locked_faults_.size() : 0);
+  const auto failure = simulation_->failures.Strike(FailureMode::kFaultCountIs);
+  const std::int32_t count = failure ? static_cast<std::int32_t>(failure->value) : held;
+  told_faults_ = static_cast<std::size_t>(std::clamp(count, 0, held));
+  return count;
+}
+
+std::int32_t Link::FaultGetData(void* firstRecord) {
+  return Serve(Operation::FaultGetData, "", Reach::kLibrary, [&]() -> Status {
+    FailurePlan& failures = simulation_->failures;
+    if (!fault_locked_ || firstRecord == nullptr) return kConditionsNotCorrect;
+    if (failures.Strike(FailureMode::kFaultReadRefused)) return kRejected;
+    std::vector<std::uint8_t> bytes(told_faults_ * kFaultRecordSize, 0);
+    for (std::size_t i = 0; i < told_faults_; ++i) {
+      std::uint8_t* record = bytes.data() + i * kFaultRecordSize;
+      PutInt(record + 4, locked_faults_[i].sid);
+      PutInt(record + 8, locked_faults_[i].fmi);
+      PutInt(record + 16, locked_faults_[i].status);
+      PutInt(record + 20, locked_faults_[i].times);
+    }
+    if (failures.Strike(FailureMode::kFaultRecordsShort))
+      bytes.resize(bytes.size() - std::min(bytes.size(), kFaultRecordSize + 12));
+    if (!bytes.empty()) std::memcpy(firstRecord, bytes.data(), bytes.size());
+    return kDone;
+  });
+}
+
+std::int32_t Link::FaultUnlock() {
+  return Serve(Operation::FaultUnlock, "", Reach::kLibrary, [&]() -> Status {
+    if (!fault_locked_) return kConditionsNotCorrect;
+    fault_locked_ = false;
+    return kDone;
+  });
+}
+
+// --- Bus monitor --------------------------------------------------------------------------------
+
+std::int32_t Link::BusMonitorOpen() {
+  return Serve(Operation::BusMonitorOpen, "", Reach::kLibrary, [&] {
+    bus_.Open();
+    return kDone;
+  });
+}
+
+std::int32_t Link::BusMonitorClose() {
+  return Serve(Operation::BusMonitorClose, "", Reach::kLibrary, [&] {
+    bus_.Close();
+    return kDone;
+  });
+}
+
+std::int32_t Link::BusMonitorGetData(char* text, char* timing, std::int32_t showIdleTime,
+                                     std::int32_t showTimestamp) {
+  const std::string arguments = std::to_string(showIdleTime) + ", " + std::to_string(showTimestamp);
+  return Serve(Operation::BusMonitorGetData, arguments, Reach::kLibrary, [&]() -> Status {
+    BusMessage message;
+    if (!bus_.IsOpen()) return kConditionsNotCorrect;
+    if (!bus_.Take(message)) return kDone;
+    PutText(text, kMonitorText, message.text);
+    char words[64] = "";
+    if (showIdleTime != 0 && showTimestamp != 0)
+      std::snprintf(words, sizeof words, " %.3f %.3f", message.idle, message.time);
+    else if (showIdleTime != 0 || showTimestamp != 0)
+      std::snprintf(words, sizeof words, " %.3f", showIdleTime != 0 ? message.idle : message.time);
+    PutText(timing, kMonitorTiming, words);
+    return kDone;
+  });
+}
+
+// The recording of the monitor and the transfers are not part of this trailer's link.
+std::int32_t Link::BusMonitorStartRecord(char* file, char* comments, std::int32_t zero) {
+  return Serve(Operation::BusMonitorStartRecord,
+               Quoted(file) + ", " + Quoted(comments) + ", " + std::to_string(zero),
+               Reach::kLibrary, [] { return kCommandNotSupported; });
+}
+
+std::int32_t Link::BusMonitorStopRecord() {
+  return Serve(Operation::BusMonitorStopRecord, "", Reach::kLibrary,
+               [] { return kCommandNotSupported; });
+}
+
+std::int32_t Link::Trailer_ABS_QOR_DeleteODRData(std::uint8_t selector) {
+  return Serve(Operation::Trailer_ABS_QOR_DeleteODRData, HexByte(selector), Reach::kEcu,
+               [] { return kCommandNotSupported; });
+}
+
+std::int32_t Link::Trailer_OVG_UploadData(char* text) {
+  return Serve(Operation::Trailer_OVG_UploadData, Quoted(text), Reach::kEcu,
+               [] { return kCommandNotSupported; });
+}
+
+std::int32_t Link::Trailer_OVG_UploadODRData(std::uint8_t step, std::uint8_t code,
+                                             std::int32_t zero) {
+  return Serve(Operation::Trailer_OVG_UploadODRData,
+               std::to_string(step) + ", " + HexByte(code) + ", " + std::to_string(zero),
+               Reach::kEcu, [] { return kCommandNotSupported; });
+}
+
+std::int32_t Link::Trailer_OVG_ExportODRData(char* file) {
+  return Serve(Operation::Trailer_OVG_ExportODRData, Quoted(file), Reach::kEcu,
+               [] { return kCommandNotSupported; });
+}
+
+// --- Session and services -----------------------------------------------------------------------
+
+std::int32_t Link::Trailer_ABS_KWP_StartSession(std::uint8_t session) {
+  return Serve(Operation::Trailer_ABS_KWP_StartSession, HexByte(session), Reach::kEcu,
+               [&] { return simulation_->trailer.Diagnosis().Start(session); });
+}
+
+std::int32_t Link::Trailer_ABS_KWP_StopSession() {
+  return Serve(Operation::Trailer_ABS_KWP_StopSession, "", Reach::kEcu, [&] {
+    simulation_->trailer.Diagnosis().Stop();
+    return kDone;
+  });
+}
+
+std::int32_t Link::Trailer_ABS_KWP_Password() {
+  return Serve(Operation::Trailer_ABS_KWP_Password, "", Reach::kEcu,
+               [&] { return simulation_->trailer.Diagnosis().Password(); });
+}
+
+std::int32_t Link::Trailer_ABS_KWP_SwitchDiagMode(std::uint8_t mode) {
+  return Serve(Operation::Trailer_ABS_KWP_SwitchDiagMode, HexByte(mode), Reach::kEcu,
+               [&] { return simulation_->trailer.Diagnosis().Permit(false); });
+}
+
+std::int32_t Link::Trailer_ABS_KWP_StartRoutineByLocId(std::uint8_t id, std::uint8_t count,
+                                                       std::uint8_t* data) {
+  constexpr std::uint8_t kFinish = 0x05;
+  const auto bytes = Bytes(data, count);
+  return Serve(Operation::Trailer_ABS_KWP_StartRoutineByLocId,
+               HexByte(id) + ", " + std::to_string(count) + ", " + HexBytes(bytes), Reach::kEcu,
+               [&]() -> Status {
+                 Trailer& trailer = simulation_->trailer;
+                 if (id == kFinish && simulation_->failures.Strike(FailureMode::kChecksumsFail))
+                   return trailer.Diagnosis().Permit(false);
+                 return trailer.StartRoutine(id, bytes);
+               });
+}
+
+std::int32_t Link::Trailer_ABS_KWP_WriteMemoryByLocId(std::uint8_t id, std::uint8_t count,
+                                                      std::uint8_t* data) {
+  const auto bytes = Bytes(data, count);
+  return Serve(Operation::Trailer_ABS_KWP_WriteMemoryByLocId,
+               HexByte(id) + ", " + std::to_string(count) + ", " + HexBytes(bytes), Reach::kEcu,
+               [&]() -> Status {
+                 FailurePlan& failures = simulation_->failures;
+                 if (failures.Strike(FailureMode::kWriteRefused, std::nullopt, id))
+                   return kRejected;
+                 if (failures.Strike(FailureMode::kWriteDropped, std::nullopt, id)) return kDone;
+                 return simulation_->trailer.WriteBlock(id, bytes);
+               });
+}
+
+std::int32_t Link::Trailer_ABS_KWP_WriteMemoryByAddress(std::uint8_t high, std::uint8_t middle,
+                                                        std::uint8_t low, std::uint8_t count,
+                                                        std::uint8_t* data) {
+  const auto bytes = Bytes(data, count);
+  return Serve(Operation::Trailer_ABS_KWP_WriteMemoryByAddress,
+               HexByte(high) + ", " + HexByte(middle) + ", " + HexByte(low) + ", " +
+                   std::to_string(count) + ", " + HexBytes(bytes),
+               Reach::kEcu, [&] {
+                 return simulation_->trailer.WriteWord(Address(high, middle, low), bytes);
+               });
+}
+
+std::int32_t Link::Trailer_ABS_KWP_ReadMemoryByAddress(std::uint8_t high, std::uint8_t middle,
+                                                       std::uint8_t low, std::uint8_t* wordHigh,
+                                                       std::uint8_t* wordLow) {
+  return Serve(Operation::Trailer_ABS_KWP_ReadMemoryByAddress,
+               HexByte(high) + ", " + HexByte(middle) + ", " + HexByte(low), Reach::kEcu, [&] {
+                 const std::uint16_t word =
+                     simulation_->trailer.ReadWord(Address(high, middle, low));
+                 if (wordHigh != nullptr) *wordHigh = static_cast<std::uint8_t>(word >> 8);
+                 if (wordLow != nullptr) *wordLow = static_cast<std::uint8_t>(word & 0xFF);
+                 return kDone;
+               });
+}
+
+std::int32_t Link::Trailer_ABS_KWP_IOControlByLocId(std::uint8_t id, std::uint8_t count,
+                                                    std::uint8_t* data) {
+  // The buffer takes the answer, which is longer than the request's count.
+  constexpr std::size_t kAnswer = 4;
+  return Serve(Operation::Trailer_ABS_KWP_IOControlByLocId,
+               HexByte(id) + ", " + std::to_string(count) + ", " + HexBytes(Bytes(data, count)),
+               Reach::kEcu, [&]() -> Status {
+                 if (data == nullptr) return kSubfunctionNotSupported;
+                 return simulation_->trailer.IoControl(id, std::span(data, kAnswer));
+               });
+}
+
+std::int32_t Link::ReadBlock(std::uint8_t id, std::uint8_t* count, std::uint8_t* data) {
+  FailurePlan& failures = simulation_->failures;
+  if (count == nullptr || data == nullptr) return kSubfunctionNotSupported;
+  if (failures.Strike(FailureMode::kReadRefused, std::nullopt, id)) return kRejected;
+  std::uint8_t asked = id;
+  if (const auto failure = failures.Strike(FailureMode::kOtherBlock, std::nullopt, id))
+    asked = failure->value != 0 ? static_cast<std::uint8_t>(failure->value) : kEol7;
+  std::vector<std::uint8_t> bytes;
+  const Status status = simulation_->trailer.ReadBlock(asked, bytes);
+  if (status != kDone) return status;
+  if (const auto failure = failures.Strike(FailureMode::kAnswerShort, std::nullopt, id)) {
+    const auto wanted = static_cast<std::size_t>(failure->value);
+    bytes.resize(std::min(bytes.size(), failure->value != 0 ? wanted : bytes.size() / 2));
+  }
+  if (failures.Strike(FailureMode::kAnswerLong, std::nullopt, id)) bytes.resize(kReadBuffer, 0xEE);
+  std::copy(bytes.begin(), bytes.end(), data);
+  *count = static_cast<std::uint8_t>(std::min<std::size_t>(bytes.size(), 255));
+  return kDone;
+}
+
+std::int32_t Link::Trailer_OVG_ReadDataByLocId(std::uint8_t id, std::uint8_t* count,
+                                               std::uint8_t* data) {
+  return Serve(Operation::Trailer_OVG_ReadDataByLocId, HexByte(id), Reach::kEcu,
+               [&] { return ReadBlock(id, count, data); });
+}
+
+std::int32_t Link::Trailer_OVG_StopLightActivation(std::int32_t trailer, std::int32_t state) {
+  return Serve(Operation::Trailer_OVG_StopLightActivation,
+               std::to_string(trailer) + ", " + std::to_string(state), Reach::kEcu, [&] {
+                 simulation_->trailer.SetStopLight(state != 0);
+                 return kDone;
+               });
+}
+
+}  // namespace lorimet::simulator

@@ -1,0 +1,88 @@
+// Everything that can go wrong with the link, by name, and the plan of what goes wrong when.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "simulator/trailer/operations.h"
+
+namespace lorimet::simulator {
+
+enum class FailureMode {
+  kNoAdapter,
+  kWrongDevice,
+  kWrongProtocol,
+  kWrongVendor,
+  kConnectAnswers,
+  kErrorTextUnterminated,
+  kErrorTextEmpty,
+  kErrorTextUnknown,
+  kCableOut,
+  kLostMessage,
+  kLinkNotAttained,
+  kStaticReadNeverEnds,
+  kRefuse,
+  kAnswerLate,
+  kNeverAnswer,
+  kAnswerShort,
+  kAnswerLong,
+  kOtherBlock,
+  kReadRefused,
+  kWriteRefused,
+  kWriteDropped,
+  kChecksumsFail,
+  kResetRefused,
+  kClearRefused,
+  kClearIneffective,
+  kFaultLockRefused,
+  kFaultReadRefused,
+  kFaultCountIs,
+  kFaultRecordsShort,
+};
+
+// What narrows a failure down, and what else it needs to be told.
+enum class FailureTarget { kNone, kOperation, kBlock, kValue };
+
+struct FailureFacts {
+  FailureMode mode;
+  std::string_view name;
+  FailureTarget target;
+  std::string_view meaning;
+};
+
+// One row a mode, in the order of the enumeration.
+const std::vector<FailureFacts>& FailureTable();
+const FailureFacts* FindFailure(std::string_view name);
+const FailureFacts& FactsOf(FailureMode mode);
+
+constexpr int kAlways = -1;
+
+struct Failure {
+  FailureMode mode = FailureMode::kRefuse;
+  std::optional<Operation> operation = {};  // nothing: every operation
+  std::optional<int> block = {};            // a local identifier; nothing: every block
+  double value = 0;                         // what the mode's meaning says; 0: the mode's own default
+  int times = kAlways;                      // how often it strikes
+};
+
+class FailurePlan {
+ public:
+  void Arm(const Failure& failure) { armed_.push_back(failure); }
+  void Heal(FailureMode mode);
+  void HealAll() { armed_.clear(); }
+
+  // The first armed failure of that mode that fits, counted as one strike; nothing when none does.
+  std::optional<Failure> Strike(FailureMode mode,
+                                std::optional<Operation> operation = std::nullopt,
+                                std::optional<int> block = std::nullopt);
+  // Whether one is armed; no strike.
+  bool Armed(FailureMode mode) const;
+
+ private:
+  std::vector<Failure> armed_;
+};
+
+}  // namespace lorimet::simulator

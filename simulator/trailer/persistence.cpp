@@ -1,0 +1,113 @@
+#include "simulator/trailer/persistence.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <sstream>
+#include <vector>
+
+#include "simulator/trailer/command.h"
+
+namespace lorimet::simulator {
+namespace {
+
+constexpr std::string_view kHeading = "lorimet32-simulator-state 1";
+
+std::uint64_t Fingerprint(std::string_view text) {
+  std::uint64_t hash = 0xCBF29CE484222325u;
+  for (const char c : text) hash = (hash ^ static_cast<unsigned char>(c)) * 0x100000001B3u;
+  return hash;
+}
+
+std::string Hex(std::span<const std::uint8_t> bytes) {
+  constexpr char kDigits[] = "0123456789ABCDEF";
+  std::string text;
+  for (const std::uint8_t byte : bytes) {
+    text += kDigits[byte >> 4];
+    text += kDigits[byte & 15];
+  }
+  return text;
+}
+
+std::optional<std::vector<std::uint8_t>> FromHex(const std::string& text) {
+  std::vector<std::uint8_t> bytes;
+  if (text.size() % 2 != 0) return std::nullopt;
+  for (std::size_t i = 0; i < text.size(); i += 2) {
+    const auto byte = ParseInteger("0x" + text.substr(i, 2), 0, 255);
+    if (!byte) return std::nullopt;
+    bytes.push_back(static_cast<std::uint8_t>(*byte));
+  }
+  return bytes;
+}
+
+struct Loaded {
+  ParameterStore parameters;
+  std::vector<Fault> faults;
+  std::uint8_t flag = 0;
+};
+
+bool ReadLine(const std::vector<std::string>& words, Loaded& loaded) {
+  const auto integer = [&](std::size_t i) { return ParseInteger(words[i], INT32_MIN, INT32_MAX); };
+  if (words.size() == 4 && words[0] == "block") {
+    const auto id = ParseInteger("0x" + words[1], 0, 255);
+    const auto bytes = FromHex(words[3]);
+    return id && bytes &&
+           loaded.parameters.Restore(static_cast<std::uint8_t>(*id), *bytes, words[2] == "right");
+  }
+  if (words.size() == 5 && words[0] == "fault") {
+    const auto sid = integer(1), fmi = integer(2), status = integer(3), times = integer(4);
+    if (!sid || !fmi || !status || !times) return false;
+    loaded.faults.push_back({static_cast<std::int32_t>(*sid), static_cast<std::int32_t>(*fmi),
+                             static_cast<std::int32_t>(*status),
+                             static_cast<std::int32_t>(*times)});
+    return true;
+  }
+  if (words.size() != 2 || words[0] != "flag") return false;
+  const auto flag = ParseInteger(words[1], 0, 255);
+  if (flag) loaded.flag = static_cast<std::uint8_t>(*flag);
+  return flag.has_value();
+}
+
+}  // namespace
+
+std::string SaveState(const Trailer& trailer, std::string_view scenario) {
+  std::ostringstream body;
+  body.imbue(std::locale::classic());
+  body << kHeading << '\n' << "scenario " << Fingerprint(scenario) << '\n';
+  for (const BlockFacts& block : kBlocks) {
+    const std::uint8_t id[] = {block.id};
+    body << "block " << Hex(id) << ' '
+         << (trailer.Parameters().ChecksumRight(block.id) ? "right " : "wrong ")
+         << Hex(*trailer.Parameters().Read(block.id)) << '\n';
+  }
+  for (const Fault& fault : trailer.Faults().Faults())
+    body << "fault " << fault.sid << ' ' << fault.fmi << ' ' << fault.status << ' ' << fault.times
+         << '\n';
+  body << "flag " << int{trailer.EndOfLineFlag()} << '\n';
+  const std::string text = body.str();
+  return text + "end " + std::to_string(Fingerprint(text)) + "\n";
+}
+
+bool RestoreState(Trailer& trailer, std::string_view scenario, std::string_view state) {
+  const std::size_t end = state.rfind("end ");
+  if (end == std::string_view::npos) return false;
+  if (state.substr(end) != "end " + std::to_string(Fingerprint(state.substr(0, end))) + "\n")
+    return false;
+  std::istringstream lines{std::string(state.substr(0, end))};
+  std::string line;
+  if (!std::getline(lines, line) || line != kHeading) return false;
+  if (!std::getline(lines, line) || line != "scenario " + std::to_string(Fingerprint(scenario)))
+    return false;
+  Loaded loaded{trailer.Parameters(), {}, trailer.EndOfLineFlag()};
+  while (std::getline(lines, line)) {
+    const auto words = SplitWords(line);
+    if (!words || !ReadLine(*words, loaded)) return false;
+  }
+  trailer.Parameters() = loaded.parameters;
+  trailer.Faults().Restore(loaded.faults);
+  trailer.SetEndOfLineFlag(loaded.flag);
+  return true;
+}
+
+}  // namespace lorimet::simulator

@@ -1,0 +1,80 @@
+// The program on a real desktop: Qt and the platform's own calls under the program's ports.
+#pragma once
+
+#include <QSocketNotifier>
+#include <cstdlib>
+#include <memory>
+
+#include "platform/qt/qt_clock.h"
+#include "platform/qt/qt_desktop.h"
+#include "platform/qt/qt_help_viewer.h"
+#include "platform/qt/qt_translations.h"
+#include "program.h"
+#include "session/loaded_link_library.h"
+
+#if defined(_WIN32)
+#include "platform/windows/windows_help_viewer.h"
+#include "platform/windows/windows_message_hook.h"
+#include "platform/windows/windows_process.h"
+#include "platform/windows/windows_profile_file.h"
+#include "platform/windows/windows_registry.h"
+#include "platform/windows/windows_shared_library.h"
+#else
+#include "platform/posix/posix_message_hook.h"
+#include "platform/posix/posix_process.h"
+#include "platform/posix/posix_profile_file.h"
+#include "platform/posix/posix_registry.h"
+#include "platform/posix/posix_shared_library.h"
+#endif
+
+namespace lorimet {
+
+// Needs a QApplication.
+class DesktopProgram {
+ public:
+  DesktopProgram() {
+    desktop.on_unhandled_error = [this](const RuntimeError& error) {
+      program.OnUnhandledError(error);
+      // Nothing of what stands on the stack may run again.
+      std::_Exit(program.ExitStatus());
+    };
+    const auto language_changed = program.dictionary.on_language_changed;
+    program.dictionary.on_language_changed = [this, language_changed] {
+      language_changed();
+      help_viewer.SetLanguage(program.dictionary.Language());
+    };
+#if !defined(_WIN32)
+    notifier_ = std::make_unique<QSocketNotifier>(hook.ReadDescriptor(), QSocketNotifier::Read);
+    QObject::connect(notifier_.get(), &QSocketNotifier::activated, notifier_.get(),
+                     [this] { desktop.RunEvent([this] { hook.Drain(); }); });
+#endif
+  }
+
+  QtDesktop desktop;
+  QtClock clock;
+  QtTranslations translations;
+#if defined(_WIN32)
+  WindowsRegistry registry;
+  WindowsMessageHook hook;
+  WindowsProcess process;
+  WindowsProfileFile profile_file;
+  WindowsLibraryLoader loader;
+#else
+  PosixRegistry registry;
+  PosixMessageHook hook;
+  PosixProcess process;
+  PosixProfileFile profile_file;
+  PosixLibraryLoader loader;
+#endif
+  LoadedLinkLibrary link{loader};
+  QtHelpViewer help_viewer{process.ProgramFolder(), [this](const std::string& text) {
+                             return program.dictionary.Translate(text);
+                           }};
+  Program program{{desktop, clock, registry, hook, process, link, help_viewer, translations,
+                   profile_file}};
+
+ private:
+  std::unique_ptr<QSocketNotifier> notifier_;
+};
+
+}  // namespace lorimet

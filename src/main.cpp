@@ -1,0 +1,16 @@
+// Composition root: starts the program on this desktop.
+#include <QApplication>
+
+#include "desktop_program.h"
+#include "platform/qt/qt_style.h"
+
+int main(int argc, char** argv) {
+  QApplication application(argc, argv);
+  QApplication::setApplicationName("Norvick Lorimet");
+  QApplication::setQuitOnLastWindowClosed(false);
+  lorimet::ApplyStyle(application);
+  lorimet::DesktopProgram desktop_program;
+  if (desktop_program.program.Start() == lorimet::EntryResult::kRunning)
+    desktop_program.desktop.Run();
+  return desktop_program.program.ExitStatus();
+}

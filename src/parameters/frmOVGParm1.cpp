@@ -1,0 +1,313 @@
+#include "parameters/frmOVGParm1.h"
+
+#include "parameters/block_writes.h"
+#include "parameters/frmGIOSelection.h"
+#include "parameters/frmOVGParm2.h"
+#include "parameters/parameter_reading.h"
+#include "session/ecu_data.h"
+#include "support/dictionary.h"
+
+namespace lorimet {
+namespace {
+
+constexpr int kRows = 5;   // of the axle definition
+constexpr int kAxles = 3;  // with a record in the image
+constexpr const char* kBlank = " ";
+constexpr unsigned kStopLightBit = 0x20;  // EOL2(2)
+constexpr unsigned kCableBit = 0x04;      // EOL9(2)
+
+// The diagram row of an axle by the number of axles, one to three; -1 is not drawn.
+// clang-format off
+constexpr int kDiagramRow[kAxles][3] = {
+    { 1,  1, 0},
+    {-1,  2, 1},
+    {-1, -1, 2},
+};
+// clang-format on
+
+// The letters of a diagram row, by sensors and mounting.
+struct Letters {
+  const char* left;
+  const char* right;
+};
+constexpr Letters kLetters[][2] = {
+    {{"c", "d"}, {"d", "c"}},  // rear, forward
+    {{"e", "f"}, {"f", "e"}},
+};
+
+// The record can hold a number that no item stands for; the array then stays without a selection.
+void Select(const ControlArray<OptionButton>& options, int index) {
+  if (index >= 0 && index < options.Size()) options[index].SetValue(true);
+}
+
+}  // namespace
+
+frmOVGParm1::frmOVGParm1(const WizardParts& parts)
+    : Form(parts.desktop, "frmOVGParm1"), parts_(parts) {
+  optVehicleType.OnClick([this](int index) { OnVehicleType(index); });
+  optNumAxles.OnClick([this](int index) { OnNumAxles(index); });
+  optABSSystem.OnClick([this](int index) { OnABSSystem(index); });
+  optSuspensionType.OnClick([this](int index) { OnSuspensionType(index); });
+  chkModularMounting.on_click = [this] { OnModularMounting(); };
+  optSensorCD.OnClick([this](int) { UpdateDisplay(); });
+  optSensorEF.OnClick([this](int) { UpdateDisplay(); });
+  optSLAC.OnClick([this](int) { OnStopLightCable(); });
+  cmdNext.on_click = [this] { OnNext(); };
+  cmdClose.on_click = [this] { Unload(); };
+}
+
+// --- Loading -------------------------------------------------------------------------------------
+
+void frmOVGParm1::OnLoad() {
+  bLoading = true;
+  nAxlePos = {};
+  parts_.dictionary.TranslateForm(*this);
+  CenterOnScreen();
+  Select(optVehicleType, parts_.ecu_data.nVehicleType.Load());
+  LoadMounting();
+  for (auto& box : txtSensor) box->SetText(parts_.dictionary.Translate("N/A"));
+  LoadNumAxles();
+  LoadABSSystem();
+  Select(optSuspensionType, parts_.ecu_data.nMechanicalSuspension.Load());
+  LoadAxles();
+  LoadStopLightCable();
+  bLoading = false;
+}
+
+void frmOVGParm1::LoadMounting() {
+  const std::int16_t mounting = parts_.ecu_data.nMounting.Load();
+  if (mounting != 0 && mounting != 1) return;
+  chkModularMounting.SetValue(mounting == 0);
+  ShowMounting();
+}
+
+void frmOVGParm1::LoadNumAxles() {
+  const std::int16_t n = parts_.ecu_data.nNumAxles.Load();
+  parts_.image.nNumAxlesSelected = n;
+  if (n < 1 || n > kRows) {
+    optNumAxles[1].SetValue(true);
+    return;
+  }
+  optNumAxles[n - 1].SetValue(true);
+  for (int row = n; row < kRows; ++row) {
+    optSensorCD[row].SetEnabled(false);
+    optSensorEF[row].SetEnabled(false);
+    chkLiftAxle1[row].SetEnabled(false);
+  }
+  if (n == 1) {
+    optABSSystem[1].SetEnabled(false);
+    nAxlePos[0] = 1;
+  } else if (n == 2) {
+    nAxlePos[0] = 1;
+    nAxlePos[1] = 2;
+  } else if (n == 3) {
+    nAxlePos[0] = 0;
+    nAxlePos[1] = 1;
+    nAxlePos[2] = 2;
+  }
+}
+
+void frmOVGParm1::LoadABSSystem() {
+  const int sensors = parts_.ecu_data.bNumSensors.Load();
+  const int modulators = parts_.ecu_data.bNumModulators.Load();
+  if (sensors == 2 && modulators == 1) {
+    optABSSystem[4].SetEnabled(true);
+    optABSSystem[0].SetEnabled(false);
+    optABSSystem[1].SetEnabled(false);
+    optABSSystem[4].SetValue(true);
+  } else if (sensors == 2) {
+    optABSSystem[0].SetEnabled(true);
+    optABSSystem[1].SetEnabled(false);
+    optABSSystem[4].SetEnabled(false);
+    optABSSystem[0].SetValue(true);
+  } else if (modulators == 2) {
+    optABSSystem[0].SetEnabled(true);
+    optABSSystem[1].SetEnabled(true);
+    optABSSystem[4].SetEnabled(false);
+    optABSSystem[1].SetValue(true);
+  }
+}
+
+void frmOVGParm1::LoadAxles() {
+  for (int axle = 0; axle < kAxles; ++axle) {
+    const auto at = static_cast<std::size_t>(axle);
+    const std::int16_t sensors = parts_.ecu_data.nAxleSensors[at].Load();
+    if (sensors == 1) optSensorCD[axle].SetValue(true);
+    if (sensors == 2) optSensorEF[axle].SetValue(true);
+    if (sensors == 1 || sensors == 2) DisplayAxle(nAxlePos[at], sensors);
+    const std::int16_t lift = parts_.ecu_data.nAxleLift[at].Load();
+    if (lift == 1) chkLiftAxle1[axle].SetValue(true);
+    if (lift == 3) chkLiftAxle2[axle].SetValue(true);
+  }
+}
+
+void frmOVGParm1::LoadStopLightCable() {
+  const ParameterImage& image = parts_.image;
+  const bool present = image.EOL9.bNumBytes != 0;
+  const bool configured = present && (image.EOL9(2) & kCableBit) != 0 && image.EOL9(15) == 'I' &&
+                          image.EOL3(33) == 3 && image.EOL5(18) > 0 &&
+                          (image.EOL2(2) & kStopLightBit) != 0;
+  frameSLAC.SetEnabled(present);
+  const int item = image.EOL5(18) == 177 ? 1 : 0;
+  optSLAC[configured ? item : 2].SetValue(true);
+  parts_.image.bStopLightCable = configured;
+}
+
+void frmOVGParm1::OnQueryUnload(bool& cancel, UnloadMode) {
+  if (bLoading) cancel = true;
+}
+
+// --- Choices -------------------------------------------------------------------------------------
+
+void frmOVGParm1::OnVehicleType(int index) {
+  if (bLoading) return;
+  SetBits(parts_.image.EOL1, 1, 0x03, static_cast<unsigned>(index));
+}
+
+void frmOVGParm1::OnModularMounting() {
+  if (bLoading) return;
+  SetBits(parts_.image.EOL1, 1, 0xC0, chkModularMounting.Value() ? 0u : 0x80u);
+  ShowMounting();
+  UpdateDisplay();
+}
+
+// Runs while the page loads, too.
+void frmOVGParm1::OnABSSystem(int index) {
+  const bool two_sensors = index == 0 || index == 4;
+  optNumAxles[0].SetEnabled(two_sensors);
+  if (two_sensors) {
+    for (auto& option : optSensorEF) option->SetEnabled(false);
+  } else {
+    optSensorEF[0].SetEnabled(true);
+    optSensorEF[1].SetEnabled(true);
+  }
+  SetBits(parts_.image.EOL1, 1, 0x1C, static_cast<unsigned>(index) << 2);
+  UpdateDisplay();
+}
+
+void frmOVGParm1::OnSuspensionType(int index) {
+  if (bLoading) return;
+  SetBits(parts_.image.EOL1, 1, 0x20, static_cast<unsigned>(index) << 5);
+  SetBits(parts_.image.EOL2, 3, 0xC0, 0);
+  ApplySuspension(index == 1);
+}
+
+// Touches no block, and runs while the page loads, too.
+void frmOVGParm1::OnNumAxles(int index) {
+  parts_.image.nNumAxlesSelected = static_cast<std::int16_t>(index + 1);
+  if (index == 0) {
+    if (optABSSystem[1].Value()) {
+      optABSSystem[1].SetEnabled(false);
+      optABSSystem[1].SetValue(false);
+      optABSSystem[0].SetValue(true);
+      for (auto& option : optSensorEF) option->SetEnabled(false);
+    }
+    HideAxle(0);
+    nAxlePos[0] = 1;
+    HideAxle(2);
+  } else {
+    optABSSystem[1].SetEnabled(true);
+    if (index == 1) HideAxle(0);
+    const std::int16_t first = index == 1 ? 1 : 0;
+    nAxlePos[0] = first;
+    nAxlePos[1] = static_cast<std::int16_t>(first + 1);
+    if (index != 1) nAxlePos[2] = 2;
+  }
+  UpdateDisplay();
+  const bool with_ef = index != 0 && parts_.ecu_data.bNumModulators.Load() > 1;
+  for (int row = 0; row < kRows; ++row) {
+    const bool used = row <= index;
+    optSensorCD[row].SetEnabled(used);
+    chkLiftAxle1[row].SetEnabled(used);
+    if (!used || with_ef) optSensorEF[row].SetEnabled(used);
+  }
+}
+
+void frmOVGParm1::OnStopLightCable() {
+  parts_.image.bStopLightCable = optSLAC[0].Value() || optSLAC[1].Value();
+}
+
+void frmOVGParm1::ApplySuspension(bool mechanical) {
+  ParameterImage& image = parts_.image;
+  SetBits(image.EOL2, 4, 0x03, mechanical ? 1u : 0u);
+  SetBits(image.EOL2, 5, 0x10, mechanical ? 0u : 0x10u);
+  const bool one_modulator = parts_.ecu_data.bNumModulators.Load() == 1;
+  const std::uint8_t sensor = one_modulator ? 20 : 148;
+  image.EOL5(34) = mechanical ? sensor : std::uint8_t{0};
+}
+
+// --- The diagram ---------------------------------------------------------------------------------
+
+void frmOVGParm1::ShowMounting() {
+  picOVG_ECU.SetImage(chkModularMounting.Value() ? "picOVGFwd" : "picOVGRear");
+}
+
+void frmOVGParm1::HideAxle(int nPos) {
+  for (const int box : {nPos, nPos + 3}) {
+    txtSensor[box].SetText(kBlank);
+    txtSensor[box].SetEnabled(false);
+    txtSensor[box].SetVisible(false);
+  }
+}
+
+void frmOVGParm1::DisplayAxle(int nPos, int nSensors) {
+  if (nPos < 0) return;
+  const bool lettered = nSensors == 1 || nSensors == 2;
+  const Letters letters = lettered ? kLetters[nSensors - 1][chkModularMounting.Value() ? 1 : 0]
+                                   : Letters{kBlank, kBlank};
+  txtSensor[nPos].SetText(letters.left);
+  txtSensor[nPos + 3].SetText(letters.right);
+  for (const int box : {nPos, nPos + 3}) {
+    txtSensor[box].SetEnabled(true);
+    txtSensor[box].SetVisible(lettered);
+  }
+}
+
+void frmOVGParm1::UpdateDisplay() {
+  if (bLoading) return;
+  for (int row = 0; row < 3; ++row) HideAxle(row);
+  DisplayAxle(1, 0);
+  int last = 0;
+  if (optNumAxles[1].Value()) {
+    DisplayAxle(2, 0);
+    last = 1;
+  } else if (optNumAxles[2].Value()) {
+    DisplayAxle(0, 0);
+    DisplayAxle(2, 0);
+    last = 2;
+  }
+  for (int axle = 0; axle <= last; ++axle) {
+    const int row = kDiagramRow[axle][last];
+    if (optSensorCD[axle].Value()) {
+      DisplayAxle(row, 1);
+      chkLiftAxle1[axle].SetEnabled(false);
+    }
+    if (optABSSystem[1].Value() && optSensorEF[axle].Value()) {
+      DisplayAxle(row, 2);
+      chkLiftAxle1[axle].SetEnabled(true);
+    }
+  }
+}
+
+// --- Leaving -------------------------------------------------------------------------------------
+
+void frmOVGParm1::StoreAxle(int axle) {
+  unsigned bits = 0;
+  if (optSensorCD[axle].Value() && optSensorCD[axle].Enabled()) bits += 0x10;
+  if (optSensorEF[axle].Value() && optSensorEF[axle].Enabled()) bits += 0x20;
+  if (chkLiftAxle1[axle].Value()) bits += 1;
+  if (chkLiftAxle2[axle].Value()) bits += 3;
+  SetBits(parts_.image.EOL1, AxleByte(axle), 0x37, bits);
+}
+
+void frmOVGParm1::OnNext() {
+  for (int axle = 0; axle < kAxles; ++axle) StoreAxle(axle);
+  ApplySuspension(optSuspensionType[1].Value());
+  Hide();
+  if (parts_.ecu_data.bNumModulators.Load() == 1)
+    ContinueWith(*parts_.pages.load_sensing);
+  else
+    ContinueWith(*parts_.pages.gio);
+}
+
+}  // namespace lorimet

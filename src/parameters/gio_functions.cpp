@@ -1,0 +1,183 @@
+#include "parameters/gio_functions.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <string_view>
+
+#include "parameters/block_writes.h"
+#include "parameters/function_blocks.h"
+
+namespace lorimet {
+namespace {
+
+constexpr int kFirstConnector = 85;
+constexpr int kLastConnector = 108;
+constexpr std::uint8_t kNoConnector = 255;
+
+struct GioWrite {
+  int item;
+  BlockWrite write;
+};
+
+// The bytes outside the function blocks. The rows of the special functions hold for the box that is
+// not checked.
+// clang-format off
+constexpr GioWrite kGioWrites[] = {
+    {0, PutByte(kEOL2,   8,   6)},
+    {0, PutByte(kEOL2,   2, 128)},
+    {0, PutByte(kEOL5,  20,  65)},
+    {0, PutByte(kEOL5,  39, 209)},
+    {0, PutByte(kEOL5,  40, 211)},
+    {0, PutByte(kEOL5,  41, 212)},
+    {0, PutByte(kEOL5, 103, 161)},
+
+    {1, PutBits(kEOL2,   7, 0xF8)},
+    {1, PutByte(kEOL3,  35,   7)},
+    {1, PutByte(kEOL3,  38,   0)},
+    {1, PutByte(kEOL5,  20,   0)},
+    {1, PutByte(kEOL5,  89, 179)},
+    {1, PutByte(kEOL5,  99, 177)},
+
+    {2, PutBits(kEOL2,   8, 0x02)},
+    {2, PutByte(kEOL5,  20,   0)},
+    {2, PutByte(kEOL5, 105,  65)},
+
+    {3, PutByte(kEOL5,  20,   0)},
+
+    {4, PutByte(kEOL5,  39,   0)},
+    {4, PutByte(kEOL5,  40,   0)},
+    {4, PutByte(kEOL5,  41,   0)},
+    {4, PutByte(kEOL2,   7, 224)},
+    {4, PutByte(kEOL2,   8,   3)},
+    {4, PutByte(kEOL5,  91, 145)},
+    {4, PutByte(kEOL5,  94, 177)},
+
+    {5, PutByte(kEOL2,   7, 248)},
+    {5, PutByte(kEOL2,   8,   3)},
+    {5, PutBits(kEOL2,   3, 0x40)},
+    {5, PutByte(kEOL5,  91, 145)},
+    {5, PutByte(kEOL5,  94, 177)},
+    {5, PutByte(kEOL5,  85, 161)},
+
+    {6, PutByte(kEOL2,   2, 128)},
+    {6, PutByte(kEOL2,   7, 248)},
+    {6, PutByte(kEOL2,   8,   1)},
+    {6, PutByte(kEOL5,  93, 145)},
+    {6, PutByte(kEOL5,  96, 161)},
+    {6, PutByte(kEOL5,  98, 147)},
+    {6, PutByte(kEOL3,  35,   3)},
+    {6, PutByte(kEOL3,  36,   3)},
+
+    {8, ClearBits(kEOL2, 3, 0x41)},
+    {8, PutByte(kEOL2,   5, 176)},
+    {8, PutByte(kEOL5,  30,   0)},
+    {8, PutByte(kEOL5,  31,   0)},
+    {8, PutByte(kEOL5,  21,   0)},
+    {8, ClearBits(kEOL2, 1, 0x01)},
+    {8, PutByte(kEOL3,   1,  15)},
+    {8, PutByte(kEOL3,   2,  10)},
+    {8, PutByte(kEOL3,   3,   2)},
+    {8, PutByte(kEOL5,   1,   0)},
+};
+// clang-format on
+
+struct FcfByte {
+  std::uint8_t index;  // 0 ends the list: the local identifier is no recipe's
+  std::uint8_t value;
+};
+
+struct FcfRecipe {
+  int item;
+  int block;  // 1 to 8
+  std::string_view name;
+  FcfByte bytes[15];
+};
+
+// The bytes of the function blocks, by index and value. FCF1 of the lift axle lacks 16 to 19, which
+// the lift axle dialog writes.
+// clang-format off
+constexpr FcfRecipe kFcfRecipes[] = {
+    {0, 7, "Tire Inflation sys  ", {{1, 1}, {47, 41}, {50, 37}}},
+    {0, 8, "Wheel end over temp ", {{1, 4}, {3, 118}, {14, 3}, {40, 0}, {41, 120}, {47, 40},
+                                    {50, 33}}},
+
+    {1, 1, "Tag Axle Control 1  ", {{1, 4}, {2, 4}, {3, 0}, {4, 48}, {12, 10}, {13, 192}, {16, 5},
+                                    {17, 220}, {18, 5}, {19, 170}, {42, 0}, {43, 1}, {44, 5},
+                                    {50, 16}}},
+    {1, 2, "Tag Axle Control 2  ", {{1, 3}, {2, 4}, {4, 49}, {12, 19}, {13, 136}, {44, 5},
+                                    {50, 16}}},
+    {1, 3, "Tag Axle Control 3  ", {{1, 4}, {2, 4}, {3, 40}, {4, 41}, {44, 8}}},
+    {1, 4, "Tag Axle Control 4  ", {{1, 4}, {2, 4}, {3, 42}, {4, 0}, {14, 2}, {15, 2}, {16, 0},
+                                    {17, 2}, {20, 3}, {21, 149}, {22, 2}, {23, 222}, {44, 4},
+                                    {50, 16}}},
+    {1, 5, "Tag Axle Control 5  ", {{1, 4}, {2, 4}, {3, 41}, {4, 43}, {44, 3}, {47, 49}, {50, 32}}},
+
+    {2, 7, "Reverse Light       ", {{1, 5}, {2, 4}, {3, 255}, {4, 50}, {11, 14}, {44, 6},
+                                    {50, 48}}},
+
+    {3, 6, "Tank Pressure       ", {{1, 4}, {3, 5}, {4, 255}, {14, 2}, {16, 103}, {17, 115},
+                                    {18, 89}, {19, 167}, {47, 39}, {50, 48}}},
+
+    {4, 3, "SwitchInput1        ", {{1, 1}, {47, 75}, {50, 32}}},
+    {4, 4, "SwitchInput2        ", {{1, 1}, {47, 75}, {49, 8}, {50, 32}}},
+    {4, 5, "SwitchConjunction   ", {{1, 4}, {2, 4}, {3, 114}, {4, 115}, {44, 4}}},
+    {4, 6, "if > 10 mph         ", {{1, 4}, {2, 4}, {3, 51}, {4, 0}, {12, 3}, {13, 144}, {44, 5}}},
+    {4, 7, "generate event      ", {{1, 4}, {2, 4}, {3, 117}, {4, 116}, {44, 3}, {50, 1}}},
+
+    {5, 3, "SwitchInput1        ", {{1, 1}, {47, 75}, {50, 32}}},
+    {5, 4, "SwitchInput2        ", {{1, 1}, {47, 75}, {49, 8}, {50, 32}}},
+    {5, 5, "SwitchConjunction   ", {{1, 4}, {2, 4}, {3, 114}, {4, 115}, {44, 4}}},
+    {5, 6, "if > 10 mph         ", {{1, 4}, {2, 4}, {3, 51}, {4, 0}, {12, 3}, {13, 144}, {44, 5}}},
+    {5, 7, "generate event      ", {{1, 4}, {2, 4}, {3, 117}, {4, 116}, {44, 3}, {50, 1}}},
+    {5, 1, "Tire Inflation sys  ", {{1, 1}, {47, 41}, {50, 37}}},
+    {5, 2, "Wheel end over temp ", {{1, 4}, {3, 112}, {14, 3}, {40, 0}, {41, 20}, {47, 40},
+                                    {50, 33}}},
+
+    {6, 1, "Pres and Speed Check", {{1, 4}, {2, 4}, {3, 1}, {4, 0}, {14, 2}, {15, 2}, {20, 0},
+                                    {21, 114}, {22, 0}, {23, 102}, {44, 3}}},
+    {6, 2, "Auto Lowering       ", {{1, 4}, {2, 4}, {3, 88}, {4, 96}, {44, 4}, {50, 4}}},
+    {6, 3, "Lift Axle           ", {{1, 4}, {2, 4}, {3, 92}, {4, 117}, {15, 2}, {20, 0}, {21, 2},
+                                    {44, 3}, {47, 42}, {48, 7}, {50, 36}}},
+    {6, 4, "Light Out           ", {{1, 4}, {2, 0}, {3, 114}}},
+    {6, 5, "Inverting           ", {{1, 3}, {2, 4}, {4, 88}, {9, 7}, {10, 208}, {14, 2}, {16, 11},
+                                    {17, 184}, {18, 7}, {19, 208}, {44, 4}, {49, 64}, {50, 8}}},
+    {6, 6, "Lift/Lower Check    ", {{1, 4}, {2, 4}, {3, 100}, {4, 113}, {44, 8}}},
+};
+// clang-format on
+
+static_assert(std::ranges::all_of(kFcfRecipes, [](const FcfRecipe& recipe) {
+  return recipe.name.size() == kFunctionNameLength && recipe.bytes[14].index == 0;
+}));
+
+void ApplyRecipe(const FcfRecipe& recipe, ParameterImage& image) {
+  ParmBlock& block = image.FCF[static_cast<std::size_t>(recipe.block - 1)];
+  for (const FcfByte& byte : recipe.bytes) {
+    if (byte.index == 0) break;
+    block(byte.index) = byte.value;
+  }
+  for (int i = 0; i < kFunctionNameLength; ++i)
+    block(kFunctionNameIndex + i) =
+        static_cast<std::uint8_t>(recipe.name[static_cast<std::size_t>(i)]);
+}
+
+void ApplyFunction(int item, ParameterImage& image) {
+  for (const GioWrite& row : kGioWrites)
+    if (row.item == item) ApplyWrites(row.write, image);
+  for (const FcfRecipe& recipe : kFcfRecipes)
+    if (recipe.item == item) ApplyRecipe(recipe, image);
+  // The tag axle's blocks are made present again.
+  if (item == kGioTagAxle)
+    for (std::size_t i = 0; i < 5; ++i) image.FCF[i].bNumBytes = kFunctionBlockBytes;
+}
+
+}  // namespace
+
+void ApplyGioFunctions(const GioChoice& chosen, ParameterImage& image) {
+  for (int i = kFirstConnector; i <= kLastConnector; ++i) image.EOL5(i) = kNoConnector;
+  image.EOL2(7) = 0;
+  image.EOL2(8) = 0;
+  for (int item = 0; item < kGioFunctionCount; ++item)
+    if (chosen[static_cast<std::size_t>(item)] != (item == kGioSpecial)) ApplyFunction(item, image);
+}
+
+}  // namespace lorimet

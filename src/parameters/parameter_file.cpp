@@ -1,0 +1,260 @@
+#include "parameters/parameter_file.h"
+
+#include <algorithm>
+#include <array>
+#include <optional>
+
+#include "parameters/conversions.h"
+#include "parameters/parameter_reading.h"
+#include "platform/clock.h"
+#include "platform/desktop.h"
+#include "platform/process.h"
+#include "platform/profile_file.h"
+#include "session/ecu_data.h"
+#include "support/file_names.h"
+#include "support/numbers.h"
+#include "support/text.h"
+#include "support/version.h"
+
+namespace lorimet {
+namespace {
+
+constexpr std::size_t kAnswerSize = 1024;
+constexpr std::uint8_t kTrailerBytes = 123;
+constexpr std::int32_t kHighestSum = 32767;  // the running sum is a 16-bit signed one
+constexpr const char* kVehicleSection = "EOL7_Vehicle_Data";
+
+// A section of block keys; an optional one is written while its block is present.
+struct Section {
+  const char* name;
+  ParmBlock ParameterImage::*block;
+  bool optional;
+};
+
+constexpr std::array<Section, 7> kWriteOrder = {{
+    {"EOL1_System_Parameter", &ParameterImage::EOL1, false},
+    {"EOL2_GIO_Functions", &ParameterImage::EOL2, false},
+    {"EOL3_GIO_Parameter", &ParameterImage::EOL3, true},
+    {"EOL4_SLEV_Parameter", &ParameterImage::EOL4, true},
+    {"EOL5_GIO_Connectors", &ParameterImage::EOL5, false},
+    {"EOL6_ServiceIntervall", &ParameterImage::EOL6, true},
+    {"EOL9_GIO_FID", &ParameterImage::EOL9, true},
+}};
+
+constexpr std::array<Section, 7> kReadOrder = {{
+    {"EOL1_System_Parameter", &ParameterImage::EOL1, false},
+    {"EOL2_GIO_Functions", &ParameterImage::EOL2, false},
+    {"EOL5_GIO_Connectors", &ParameterImage::EOL5, false},
+    {"EOL3_GIO_Parameter", &ParameterImage::EOL3, true},
+    {"EOL4_SLEV_Parameter", &ParameterImage::EOL4, true},
+    {"EOL6_ServiceIntervall", &ParameterImage::EOL6, true},
+    {"EOL9_GIO_FID", &ParameterImage::EOL9, true},
+}};
+
+// The three texts of the vehicle section.
+struct TextKey {
+  const char* key;
+  int first;
+  int count;
+};
+
+constexpr std::array<TextKey, 3> kTextKeys = {{
+    {"VIN", 4, 18},
+    {"Manufacturer", 22, 20},
+    {"TypeOfVehicle", 42, 20},
+}};
+
+// Numbers of sensors and modulators by the ABS system in bits 2 to 4 of EOL1(1).
+struct AbsSystem {
+  std::uint8_t sensors;
+  std::uint8_t modulators;
+};
+
+constexpr AbsSystem SystemOf(int code) {
+  switch (code) {
+    case 0:
+      return {2, 2};
+    case 2:
+      return {4, 3};
+    case 4:
+      return {2, 1};
+    default:
+      return {4, 2};
+  }
+}
+
+std::string Digit(const std::string& text, std::size_t at) {
+  return at < text.size() ? text.substr(at, 1) : std::string();
+}
+
+std::string KeyOf(int index) { return "P_" + FormatNumber(index, "#000"); }
+
+// English month names, whatever the system's language: the file is read on other machines.
+std::string DateText(const std::tm& now) {
+  constexpr std::array<const char*, 12> kMonths = {"January",   "February", "March",    "April",
+                                                   "May",       "June",     "July",     "August",
+                                                   "September", "October",  "November", "December"};
+  return std::string(kMonths[static_cast<std::size_t>(std::clamp(now.tm_mon, 0, 11))]) + " " +
+         std::to_string(now.tm_mday) + ", " + FormatNumber(now.tm_year + 1900, "0000") + " " +
+         FormatNumber(now.tm_hour, "00") + ":" + FormatNumber(now.tm_min, "00");
+}
+
+}  // namespace
+
+std::string ParameterFile::Get(const std::string& section, const std::string& key) {
+  return file_.GetString(section, key, "", kAnswerSize, path_);
+}
+
+void ParameterFile::Put(const std::string& section, const std::string& key,
+                        const std::string& value) {
+  if (!file_.WriteString(section, key, value, path_))
+    throw RuntimeError(ErrorNumber::kPathFileAccessError);
+}
+
+bool ParameterFile::ReadParmsFromFile() {
+  FileDialog dialog;
+  dialog.kind = FileDialog::Kind::kOpen;
+  dialog.default_extension = ".ecu";
+  dialog.file_name = "default";
+  dialog.initial_directory = process_.ProgramFolder();
+  dialog.filter = "ECU (*.ecu)|*.ecu";
+  dialog.file_must_exist = true;
+  const std::optional<std::string> path = desktop_.ShowFileDialog(dialog);
+  if (!path || path->empty()) return false;
+  try {
+    Read(*path);
+    return true;
+  } catch (const RuntimeError&) {
+    return false;
+  }
+}
+
+void ParameterFile::Read(const std::string& path) {
+  path_ = path;
+  // Function blocks are no part of a file, and those of another trailer must not stay.
+  for (ParmBlock& block : image_.FCF) block.bNumBytes = 0;
+  for (const Section& section : kReadOrder) ReadFileData(section.name, image_.*section.block);
+  ReadVehicleData();
+  image_.EOL7.bNumBytes = kTrailerBytes;
+  RefreshConfiguration();
+}
+
+void ParameterFile::ReadFileData(const std::string& strWhichParm, ParmBlock& block) {
+  const std::uint8_t count = ToByte(NumericValue(Get(strWhichParm, "Count")));
+  block.bNumBytes = count;
+  if (count == 0) return;
+  for (int i = 1; i <= count; ++i) {
+    const std::uint8_t value = ToByte(NumericValue(Trim(Get(strWhichParm, KeyOf(i)))));
+    block(i) = value;
+  }
+  block.bNumBytes = static_cast<std::uint8_t>(count + 1);
+}
+
+void ParameterFile::ReadVehicleData() {
+  const std::string date = Get(kVehicleSection, "TrailerDateOfProduction");
+  image_.EOL7(1) = PackedByte(Digit(date, 0), Digit(date, 1));
+  image_.EOL7(2) = PackedByte(Digit(date, 2), Digit(date, 3));
+  image_.EOL7(3) = PackedByte(Digit(date, 5), date.size() > 6 ? date.substr(6) : std::string());
+  for (const TextKey& row : kTextKeys) ReadText(row.key, row.first, row.count);
+}
+
+// A text shorter than its field, its padding lost on the way through the file, ends the reading.
+void ParameterFile::ReadText(const std::string& key, int first, int count) {
+  const std::string text = Trim(Get(kVehicleSection, key));
+  if (static_cast<int>(text.size()) < count) throw RuntimeError(ErrorNumber::kSubscriptOutOfRange);
+  StoreBlockText(image_.EOL7, first, count, text);
+}
+
+void ParameterFile::RefreshConfiguration() {
+  const ParmBlock& vehicle = image_.EOL1;
+  RefreshVehicleFields(image_, ecu_data_);
+  RefreshIdentityFields(image_, ecu_data_);
+  ecu_data_.nMechanicalSuspension.Store(static_cast<std::int16_t>((vehicle(1) >> 5) & 0x01));
+  ecu_data_.nMounting.Store(static_cast<std::int16_t>((vehicle(1) >> 7) & 0x01));
+  const AbsSystem system = SystemOf((vehicle(1) >> 2) & 0x07);
+  ecu_data_.bNumSensors.Store(system.sensors);
+  ecu_data_.bNumModulators.Store(system.modulators);
+  std::int16_t axles = 0;
+  for (int a = 0; a < 3; ++a) {
+    ecu_data_.nAxleSensors[static_cast<std::size_t>(a)].Store(
+        static_cast<std::int16_t>((vehicle(AxleByte(a)) >> 4) & 0x03));
+    // An axle counts while none of its four load bytes is 0, so 4096 kg do not count.
+    bool loaded = true;
+    for (int i = 3; i <= 6; ++i) loaded = loaded && vehicle(i + 6 * a) != 0;
+    if (loaded) ++axles;
+  }
+  ecu_data_.nNumAxles.Store(axles);
+}
+
+std::string ParameterFile::Proposal() const {
+  const std::string vehicle = Trim(image_.strTrailerVIN);
+  if (!vehicle.empty()) return vehicle;
+  const std::string serial = ecu_data_.SerialNum.Load();
+  if (serial.front() != '\0') return FromCp1252(Trim(UntilNul(serial)).substr(0, 12));
+  return "OVG Parameters";
+}
+
+bool ParameterFile::WriteParmsToFile() {
+  try {
+    FileDialog dialog;
+    dialog.kind = FileDialog::Kind::kSave;
+    dialog.default_extension = ".ecu";
+    dialog.file_name = Proposal();
+    CheckFileName(dialog.file_name);
+    dialog.initial_directory = process_.ProgramFolder();
+    dialog.filter = "ECU (*.ecu)|*.ecu|Text (*.txt)|*.txt|All Files (*.*)|*.*";
+    dialog.path_must_exist = true;
+    const std::optional<std::string> path = desktop_.ShowFileDialog(dialog);
+    if (!path || path->empty()) return false;
+    Write(*path);
+    return true;
+  } catch (const RuntimeError&) {
+    return false;
+  }
+}
+
+void ParameterFile::Write(const std::string& path) {
+  path_ = path;
+  try {
+    Put("VERSION", "CREATEDBY", "Norvick Corbel Software / " + DateText(clock_.Now()));
+    for (const Section& section : kWriteOrder) {
+      const ParmBlock& block = image_.*section.block;
+      if (!section.optional || block.bNumBytes > 0) WriteFileData(section.name, block);
+    }
+    WriteVehicleData();
+  } catch (const RuntimeError&) {
+    // Half-way by design: what was reached is the file.
+    file_.Flush();
+    throw;
+  }
+  if (!file_.Flush()) throw RuntimeError(ErrorNumber::kPathFileAccessError);
+}
+
+void ParameterFile::WriteFileData(const std::string& strWhichParm, const ParmBlock& block) {
+  const std::uint8_t count = ToByte(block.bNumBytes - 1);
+  if (count == 0) return;
+  Put(strWhichParm, "DataVersion", DataVersion());
+  std::int32_t sum = 0;
+  for (int i = 1; i <= count; ++i) {
+    sum += block(i);
+    if (sum > kHighestSum) throw RuntimeError(ErrorNumber::kOverflow);
+    Put(strWhichParm, KeyOf(i), std::to_string(block(i)));
+  }
+  Put(strWhichParm, "Count", std::to_string(count));
+  Put(strWhichParm, "Checksum", std::to_string((sum + 1) % 256));
+}
+
+void ParameterFile::WriteVehicleData() {
+  const ParmBlock& trailer = image_.EOL7;
+  Put(kVehicleSection, "DataVersion", DataVersion());
+  Put(kVehicleSection, "TrailerDateOfProduction",
+      PackedText(trailer(1)) + PackedText(trailer(2)) + "-" + PackedText(trailer(3)));
+  for (const TextKey& row : kTextKeys)
+    Put(kVehicleSection, row.key, ToCp1252(BlockText(trailer, row.first, row.count)));
+}
+
+std::string ParameterFile::DataVersion() const {
+  return "OVG Version " + std::to_string(kVersionMajor) + "." + std::to_string(kVersionMinor);
+}
+
+}  // namespace lorimet

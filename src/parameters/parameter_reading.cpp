@@ -1,0 +1,85 @@
+#include "parameters/parameter_reading.h"
+
+#include <algorithm>
+#include <array>
+
+#include "platform/desktop.h"
+#include "platform/forms.h"
+#include "session/ecu_data.h"
+#include "session/link_library.h"
+#include "support/dictionary.h"
+
+namespace lorimet {
+namespace {
+
+constexpr std::uint8_t kTrailerBytes = 123;  // EOL7's count, whatever the ECU returned
+
+std::string Bytes(const ParmBlock& block, int first, int count) {
+  std::string bytes;
+  for (int i = 0; i < count; ++i) bytes += static_cast<char>(block(first + i));
+  return bytes;
+}
+
+void ShowProgress(const ReadingParts& parts, const std::string& text) {
+  parts.error_text.SetText(text);
+  parts.desktop.Repaint();
+}
+
+}  // namespace
+
+std::int32_t ReadBlock(LinkLibrary& link, std::uint8_t local_id, ParmBlock& block,
+                       bool forget_count) {
+  return TryLinkCall([&] {
+    if (forget_count) block.bNumBytes = 0;
+    // The library writes where the block's bytes stand, so a short answer leaves the tail.
+    std::array<std::uint8_t, kReadBufferSize> buffer{};
+    std::ranges::copy(block.DataArr, buffer.begin());
+    std::uint8_t count = block.bNumBytes;
+    const std::int32_t status = link.Trailer_OVG_ReadDataByLocId(local_id, &count, buffer.data());
+    if (status != 0) return status;
+    block.bNumBytes = count;
+    std::copy_n(buffer.begin(), block.DataArr.size(), block.DataArr.begin());
+    return status;
+  });
+}
+
+void RefreshVehicleFields(const ParameterImage& image, ECUData& ecu_data) {
+  ecu_data.nVehicleType.Store(static_cast<std::int16_t>(image.EOL1(1) & 0x03));
+  for (int a = 0; a < 3; ++a) {
+    const std::uint8_t axle = image.EOL1(AxleByte(a));
+    const auto i = static_cast<std::size_t>(a);
+    ecu_data.nAxleLift[i].Store(static_cast<std::int16_t>(axle & 0x07));
+    ecu_data.nAxleFlag[i].Store(static_cast<std::int16_t>((axle >> 3) & 0x01));
+  }
+}
+
+void RefreshIdentityFields(const ParameterImage& image, ECUData& ecu_data) {
+  ecu_data.VehicleId.Store(Bytes(image.EOL7, 4, 18), ' ');
+  ecu_data.Manufacturer.Store(Bytes(image.EOL7, 22, 20));
+  ecu_data.TrailerType.Store(Bytes(image.EOL7, 42, 20));
+}
+
+std::int32_t ReadParmsFromECU(const ReadingParts& parts) {
+  ParameterImage& image = parts.image;
+  LinkLibrary& link = parts.link;
+  parts.main_form.SetMousePointer(MousePointer::kHourglass);
+  StartEcuSession(link);
+  SetParameterAccess(link, 1);
+  ShowProgress(parts, parts.dictionary.Translate("Reading Parameter Data..."));
+  ReadBlock(link, 0x3D, image.EOL2, true);
+  if (ReadBlock(link, 0x03, image.EOL1) == 0) RefreshVehicleFields(image, parts.ecu_data);
+  if (ReadBlock(link, 0x06, image.EOL7) == 0) RefreshIdentityFields(image, parts.ecu_data);
+  image.EOL7.bNumBytes = kTrailerBytes;
+  ReadBlock(link, 0x28, image.EOL5);
+  ReadBlock(link, 0x27, image.EOL3);
+  const std::int32_t status = ReadBlock(link, 0x42, image.EOL9);
+  image.EOL4.bNumBytes = 0;
+  image.EOL6.bNumBytes = 0;
+  // Function blocks of an earlier visit must not reach another trailer.
+  for (ParmBlock& block : image.FCF) block.bNumBytes = 0;
+  ShowProgress(parts, " ");
+  parts.main_form.SetMousePointer(MousePointer::kArrow);
+  return status;
+}
+
+}  // namespace lorimet

@@ -1,0 +1,149 @@
+#include "parameters/parameter_writing.h"
+
+#include <algorithm>
+#include <array>
+#include <string>
+
+#include "faults/faults.h"
+#include "parameters/parameter_errors.h"
+#include "platform/clock.h"
+#include "platform/desktop.h"
+#include "platform/forms.h"
+#include "session/ecu_data.h"
+#include "session/link_library.h"
+#include "support/dictionary.h"
+#include "support/text.h"
+
+namespace lorimet {
+namespace {
+
+constexpr std::uint8_t kChecksumRoutine = 0x05;
+constexpr std::uint8_t kParameterErrors = 0x29;  // local id of the error bytes
+constexpr int kLastErrorByte = 19;               // byte 20 is never reported
+
+constexpr std::uint32_t kAccessWait = 100;  // ms, after each step of the ECU
+constexpr std::uint32_t kChecksumWait = 2000;
+constexpr std::uint32_t kClearWait = 2000;
+constexpr std::uint32_t kResetWait = 3000;
+
+struct BlockWrite {
+  ParmBlock ParameterImage::*block;  // null for a function block
+  std::size_t fcf;                   // its place among the function blocks
+  std::uint8_t local_id;
+  const char* status;
+  const char* error;
+};
+
+constexpr std::array<BlockWrite, 16> kWrites = {{
+    {&ParameterImage::EOL5, 0, 0x28, "Writing EOL5 Data to ECU", "Error Writing EOL5 Parameters"},
+    {&ParameterImage::EOL2, 0, 0x3D, "Writing OVG Data to ECU ", "Error Writing OVG Parameters"},
+    {&ParameterImage::EOL1, 0, 0x03, "Writing Vehicle Data to ECU",
+     "Error Writing Vehicle Parameters"},
+    {&ParameterImage::EOL7, 0, 0x06, "Writing Trailer Data to ECU",
+     "Error Writing Trailer Parameters"},
+    {&ParameterImage::EOL3, 0, 0x27, "Writing EOL3 Data to ECU", "Error Writing EOL3 Parameters"},
+    {&ParameterImage::EOL4, 0, 0x17, "Writing EOL4 Data to ECU", "Error Writing EOL4 Parameters"},
+    {&ParameterImage::EOL6, 0, 0x05, "Writing EOL6 Data to ECU", "Error Writing EOL6 Parameters"},
+    {&ParameterImage::EOL9, 0, 0x42, "Writing EOL9 Data to ECU", "Error Writing EOL9 Parameters"},
+    {nullptr, 0, 0x37, "Writing FCF 1 Data to ECU", "Error Writing FCF1 GIO Parameters"},
+    {nullptr, 1, 0x38, "Writing FCF 2 Data to ECU", "Error Writing FCF2 GIO Parameters"},
+    {nullptr, 2, 0x39, "Writing FCF 3 Data to ECU", "Error Writing FCF3 GIO Parameters"},
+    {nullptr, 3, 0x3A, "Writing FCF 4 Data to ECU", "Error Writing FCF4 GIO Parameters"},
+    {nullptr, 4, 0x3B, "Writing FCF 5 Data to ECU", "Error Writing FCF5 GIO Parameters"},
+    {nullptr, 5, 0x3C, "Writing FCF 6 Data to ECU", "Error Writing FCF6 GIO Parameters"},
+    {nullptr, 6, 0x44, "Writing FCF 7 Data to ECU", "Error Writing FCF7 GIO Parameters"},
+    {nullptr, 7, 0x45, "Writing FCF 8 Data to ECU", "Error Writing FCF8 GIO Parameters"},
+}};
+
+// The boxes of this sequence are shown as they stand, without the dictionary.
+void ShowPlainBox(Desktop& desktop, const std::string& text, const std::string& title) {
+  MessageBox box;
+  box.text = text;
+  box.title = title;
+  desktop.ShowMessageBox(box);
+}
+
+void ShowStatus(const WritingParts& parts, const char* text) {
+  parts.status.SetText(parts.dictionary.Translate(text));
+  parts.desktop.Repaint();
+}
+
+void WriteBlock(const WritingParts& parts, const BlockWrite& row) {
+  const ParmBlock& block = row.block != nullptr ? parts.image.*row.block : parts.image.FCF[row.fcf];
+  if (block.bNumBytes == 0) return;
+  ShowStatus(parts, row.status);
+  const auto count = static_cast<std::uint8_t>(block.bNumBytes - 1);
+  // Of a count beyond the block the rest is sent as zeros.
+  std::array<std::uint8_t, 256> data{};
+  std::copy(block.DataArr.begin() + 1, block.DataArr.end(), data.begin());
+  const std::int32_t result = TryLinkCall([&] {
+    return parts.link.Trailer_ABS_KWP_WriteMemoryByLocId(row.local_id, count, data.data());
+  });
+  if (result != 0) ShowPlainBox(parts.desktop, row.error, "Write Error");
+}
+
+void ShowVerdict(const WritingParts& parts) {
+  std::array<std::uint8_t, kReadBufferSize> bytes{};
+  std::uint8_t count = 0;
+  const std::int32_t result = TryLinkCall([&] {
+    return parts.link.Trailer_OVG_ReadDataByLocId(kParameterErrors, &count, bytes.data());
+  });
+  if (result != 0) {
+    ShowPlainBox(parts.desktop, "Unable to read the Parameter Errors", "Read Error");
+    return;
+  }
+  for (int n = 1; n <= kLastErrorByte; ++n)
+    for (int bit = 0; bit < 8; ++bit)
+      if (bytes[static_cast<std::size_t>(n)] & (1 << bit))
+        ShowParmError(parts.desktop, static_cast<std::int16_t>(n),
+                      static_cast<std::uint8_t>(1 << bit));
+}
+
+}  // namespace
+
+void ShowParmError(Desktop& desktop, std::int16_t n, std::uint8_t bMask) {
+  ShowPlainBox(desktop, std::string(ParameterErrorText(n, bMask)), "Parameter Error");
+}
+
+void WriteParmsToECU(const WritingParts& parts) {
+  LinkLibrary& link = parts.link;
+  parts.page.SetMousePointer(MousePointer::kHourglass);
+  StartEcuSession(link);
+  SetParameterAccess(link, 1);
+  for (const BlockWrite& row : kWrites) WriteBlock(parts, row);
+  SetParameterAccess(link, 0);
+  parts.clock.Sleep(kAccessWait);
+  ShowStatus(parts, "Updating Checksums");
+  std::uint8_t nothing = 0;
+  link.Trailer_ABS_KWP_StartRoutineByLocId(kChecksumRoutine, 0, &nothing);
+  parts.clock.Sleep(kChecksumWait);
+  ShowStatus(parts, "Clearing Faults");
+  parts.faults.ClearFaults();
+  parts.clock.Sleep(kClearWait);
+  ShowStatus(parts, "Performing Reset of ECU");
+  TryLinkCall([&] { return link.ResetECU(); });
+  parts.clock.Sleep(kResetWait);
+  ShowStatus(parts, "Checking for Parameter Errors");
+  ShowVerdict(parts);
+  parts.page.SetMousePointer(MousePointer::kDefault);
+  parts.status.SetText(" ");
+  ShowPlainBox(parts.desktop,
+               std::string("               The Parameter Data has been saved.") + kCrLf +
+                   "It is highly recommended that the End of Line Test be run again.",
+               "Parameter Data");
+}
+
+void RefreshTestFields(const ParameterImage& image, ECUData& ecu_data) {
+  constexpr double kPsiPerCount = 1.451;
+  constexpr double kMillimetresPerCount = 0.1;
+  const ParmBlock& vehicle = image.EOL1;
+  const bool mechanical = (vehicle(1) & 0x20) != 0;
+  ecu_data.nMounting.Store((vehicle(1) & 0x80) != 0 ? 1 : 0);
+  ecu_data.nMechanicalSuspension.Store(mechanical ? 1 : 0);
+  ecu_data.dTargetPressure1.Store(vehicle(42) * kPsiPerCount);
+  ecu_data.dTargetPressure2.Store(vehicle(43) * kPsiPerCount);
+  if (mechanical)
+    ecu_data.dLadenHeightValue.Store((vehicle(68) * 256 + vehicle(69)) * kMillimetresPerCount);
+}
+
+}  // namespace lorimet

@@ -1,0 +1,96 @@
+#include "program.h"
+
+#include <array>
+
+#include "platform/desktop.h"
+#include "platform/runtime_error.h"
+#include "support/error_report.h"
+
+namespace lorimet {
+
+Program::Program(const Ports& ports)
+    : ports_(ports),
+      settings(ports.registry),
+      dictionary(ports.translations, ports.desktop),
+      help(settings, ports.process, ports.help_viewer, dictionary, ports.desktop),
+      bus_monitor(ports.link, ports.process),
+      faults(ports.link, ports.desktop, dictionary, fault_table),
+      err(ports.desktop, dictionary),
+      rp1210_error(ports.desktop, dictionary),
+      messages(ports.hook, ports.desktop, dictionary, ports.link, records.ecu_data, err),
+      main_form({{ports.link, messages, settings, dictionary, ports.desktop, records, rp1210_error},
+                 ports.clock,
+                 help,
+                 ports.process,
+                 err}),
+      fault_list(
+          {ports.desktop, ports.clock, dictionary, settings, ports.link, faults, fault_table}),
+      about(ports.desktop, dictionary),
+      not_built(ports.desktop, dictionary),
+      pdf_link(ports.desktop) {
+  dictionary.on_language_changed = [this] {
+    help.BuildPath();
+    fault_table.BuildFaultTable([this](const std::string& text) {
+      return dictionary.Translate(text);
+    });
+  };
+  main_form.reset_results = [this] {
+    ClearTestResults(test_results);
+    image.strTrailerVIN.clear();
+    image.bStopLightCable = false;
+  };
+  PlugCommands();
+}
+
+void Program::PlugCommands() {
+  const auto not_yet = [this](const char* command) {
+    return [this, command] { not_built.ShowFor(command); };
+  };
+  constexpr std::array<const char*, 6> kTests = {
+      "&Pressure Test", "&Redundancy Test",         "&Sensor Test",
+      "&Lamp Test",     "Suspension &Calibration", "Stop Light &Activation",
+  };
+  CommandActions& actions = main_form.actions;
+  actions.show_faults = [this] { fault_list.Show(Modality::kModal); };
+  fault_list.ecu_type = [this] { return main_form.nECUType; };
+  actions.sign_off = not_yet("&Begin Sign-off Procedure");
+  for (std::size_t i = 0; i < kTests.size(); ++i) actions.show_test[i] = not_yet(kTests[i]);
+  actions.test_result = {
+      [this] { return test_results.nPressureTest; },
+      [this] { return test_results.nRedundancyTest; },
+      [this] { return test_results.nSensorTest; },
+  };
+  actions.calibration_result = [this] { return test_results.nHeightCalCD; };
+  actions.show_parameters = not_yet("Edit Parameters From &ECU");
+  actions.read_parameters_from_file = [] { return true; };
+  actions.save_eeprom = not_yet("Save &EEPROM Data");
+  actions.show_odr_overview = not_yet("&Display ODR Overview Data");
+  actions.export_odr = not_yet("&Export ODR Data");
+  actions.set_end_of_line_bit = not_yet("&Set Customer EOL Bit");
+  actions.show_bus_monitor = not_yet("Bus &Monitor");
+  actions.start_recording = [this] { bus_monitor.MonitorStartRecord(); };
+  actions.stop_recording = [this] { bus_monitor.MonitorStopRecord(); };
+  actions.delete_odr = not_yet("ODR Delete");
+  actions.save_report = not_yet("Save Fault and Sensor\\Valve Test Information");
+  actions.print_report = not_yet("Print Fault and Sensor\\Valve Test Information");
+  actions.show_about = [this] { about.Show(Modality::kModal); };
+}
+
+EntryResult Program::Start() {
+  try {
+    return Main({ports_.process, messages, dictionary, ports_.desktop, main_form, err});
+  } catch (const RuntimeError&) {
+    // Main has shown it.
+    exit_status_ = 1;
+    main_form.CloseLink();
+    return EntryResult::kEnded;
+  }
+}
+
+void Program::OnUnhandledError(const RuntimeError& error) {
+  exit_status_ = 1;
+  if (error.Number() != kObjectError) ports_.desktop.ShowMessageBox(UnhandledErrorBox(error));
+  main_form.CloseLink();
+}
+
+}  // namespace lorimet

@@ -1,0 +1,216 @@
+#include "session/frmZeltMain.h"
+
+#include <utility>
+
+#include "platform/clock.h"
+#include "platform/desktop.h"
+#include "session/ecu_data.h"
+#include "session/link_library.h"
+#include "session/link_messages.h"
+#include "session/session_state.h"
+#include "support/dictionary.h"
+#include "support/frmErr.h"
+#include "support/help.h"
+#include "support/settings.h"
+#include "support/text.h"
+
+namespace lorimet {
+namespace {
+
+constexpr int kRefreshInterval = 300;      // ms
+constexpr std::uint32_t kStaticWait = 30;  // ms between two looks at the end of the static read
+constexpr std::int16_t kHighestLanguage = 10;
+
+}  // namespace
+
+frmZeltMain::frmZeltMain(const MainFormParts& parts)
+    : Form(parts.connection.desktop, "frmZeltMain"), parts_(parts) {
+  BindCommands();
+  BindPanel();
+  tmrABS.on_tick = [this] { OnTick(); };
+}
+
+void frmZeltMain::OnLoad() {
+  closed_ = session_stopped_ = false;
+  bRestarting_ = false;
+  SetMousePointer(MousePointer::kHourglass);
+  bConnected = false;
+  parts_.connection.records.lECUFamily = kTrailerFamily;
+  tmrABS.SetInterval(0);
+  SetStartLanguage();
+  SetKeyPreview(true);
+  mnuABS[7].SetVisible(false);
+  mnuODR[1].SetEnabled(false);
+  Hide();
+  CenterOnScreen();
+  parts_.connection.messages.SetErrorControl(&txtError);
+  Show();
+  GetDesktop().DoEvents();
+  if (!Loaded()) return;
+  if (reset_results) reset_results();
+  RestartECU();
+  if (!Loaded()) return;
+  SetMousePointer(MousePointer::kArrow);
+}
+
+void frmZeltMain::SetStartLanguage() {
+  Dictionary& dictionary = parts_.connection.dictionary;
+  const std::int16_t language = parts_.connection.settings.GetLanguage();
+  dictionary.SetLanguage(language >= 0 && language <= kHighestLanguage ? int{language}
+                                                                           : int{kNative});
+  dictionary.Open();
+  dictionary.TranslateForm(*this);
+}
+
+void frmZeltMain::SelectLanguage() {
+  Dictionary& dictionary = parts_.connection.dictionary;
+  dictionary.Open();
+  const std::optional<int> selection = dictionary.ChooseLanguage();
+  if (!selection) return;
+  dictionary.SetLanguage(*selection);
+  parts_.connection.settings.SaveLanguage(static_cast<std::int16_t>(dictionary.Language()));
+}
+
+void frmZeltMain::OnKeyDown(KeyEvent& key) {
+  constexpr int kChord = kShiftMask | kCtrlMask | kAltMask;
+  if (key.code == kKeyF9 && (key.shift & kChord) == kChord) {
+    mnuABS[7].SetVisible(!mnuABS[7].Visible());
+    return;
+  }
+  if (key.code != kKeyF1) key.code = 0;
+}
+
+void frmZeltMain::OnKeyPress(int& character) { character = 0; }
+
+void frmZeltMain::OnTick() {
+  frmErr& err = parts_.err;
+  if (parts_.connection.records.link_status.bLinkAttained.Load() != 0) {
+    const Dictionary& dictionary = parts_.connection.dictionary;
+    err.lblErr.SetCaption(
+        dictionary.Translate("Successful connection was attained but has since been lost.") +
+        kCrLf + dictionary.Translate("Please check connection between the PC and ECU."));
+  }
+  UpdateLiveData();
+}
+
+void frmZeltMain::RestartECU() {
+  if (bRestarting_) {
+    SetMousePointer(MousePointer::kArrow);
+    return;
+  }
+  bRestarting_ = true;
+  if (!CloseOldConnection()) return;
+  GetDesktop().DoEvents();
+  if (closed_) return;
+  if (bConnected) {
+    bRestarting_ = false;
+    SetMousePointer(MousePointer::kArrow);
+    return;
+  }
+  GetDesktop().DoEvents();
+  if (closed_) return;
+  ResetLastShown();
+  const std::int16_t result = ConnectECU(parts_.connection, txtError);
+  if (closed_) return;
+  if (result != 0) {
+    ShowRestartError(
+        "Please check to make sure the device drivers and libraries are correctly "
+        "installed.");
+    if (closed_) return;
+    bRestarting_ = false;
+    SetMousePointer(MousePointer::kArrow);
+    return;
+  }
+  bConnected = true;
+  txtError.SetText("");
+  SetMousePointer(MousePointer::kHourglass);
+  GetDesktop().DoEvents();
+  if (closed_) return;
+  parts_.connection.link.Trailer_ABS_QOR_ReadStaticData();
+  StartEcuSession(parts_.connection.link);
+  WaitForStaticData();
+  if (closed_) return;
+  DisplayCompId();
+  tmrABS.SetInterval(kRefreshInterval);
+  tmrABS.SetEnabled(true);
+  bRestarting_ = false;
+  SetMousePointer(MousePointer::kArrow);
+}
+
+// False when the library could not close the connection; the user has been told.
+bool frmZeltMain::CloseOldConnection() {
+  if (!bConnected) return true;
+  const std::int16_t result = DisconnectECU(parts_.connection);
+  bConnected = false;
+  ClearStatusPanel();
+  if (closed_) return false;
+  if (result == 0) return true;
+  ShowRestartError(
+      "Please check the connection and make sure the cable is properly connected.  "
+      "Click the \"Restart\" button to try again.");
+  if (!closed_) bRestarting_ = false;
+  return false;
+}
+
+void frmZeltMain::ShowRestartError(const std::string& text) {
+  Dictionary& dictionary = parts_.connection.dictionary;
+  dictionary.ShowMessageBox(dictionary.Translate(text),
+                            dictionary.Translate("ERROR: Unable to connect to the device"),
+                            BoxKind::kError, kBoxOk, 0);
+}
+
+void frmZeltMain::ResetLastShown() {
+  last_shown_.faults = 0;
+  last_shown_.lamp = -99;
+  last_shown_.volts = -99.0;
+  last_shown_.odometer = -99.0;
+  last_shown_.voltage_source = kNoValue;
+  last_shown_.wheel_speed.fill(kNoValue);
+}
+
+// Without a time-out: the user can close the window meanwhile.
+void frmZeltMain::WaitForStaticData() {
+  while (!closed_ && parts_.connection.records.ecu_data.nLinkJobDone.Load() == 0) {
+    parts_.clock.Sleep(kStaticWait);
+    GetDesktop().DoEvents();
+  }
+}
+
+void frmZeltMain::OnUnload() {
+  CloseConnection();
+  // The main form is the first of the list, at index 0.
+  Desktop& desktop = GetDesktop();
+  for (int i = static_cast<int>(desktop.LoadedForms().size()) - 1; i >= 1; --i)
+    if (i < static_cast<int>(desktop.LoadedForms().size()))
+      desktop.LoadedForms()[static_cast<std::size_t>(i)]->Unload();
+  StopSession();
+  if (RunApp(parts_.connection.settings, parts_.process, "Hubrest.exe", "NO") != 0) {
+    Dictionary& dictionary = parts_.connection.dictionary;
+    dictionary.ShowMessageBox(dictionary.Translate("Could not locate the Norvick Main executable."),
+                              "", BoxKind::kError, kBoxOk, 0);
+  } else {
+    Hide();
+  }
+}
+
+void frmZeltMain::CloseLink() {
+  CloseConnection();
+  if (!session_stopped_) StopSession();
+}
+
+void frmZeltMain::CloseConnection() {
+  const bool first = !std::exchange(closed_, true);
+  bRestarting_ = true;
+  if (Loaded()) tmrABS.SetEnabled(false);
+  if (!bConnected) return;
+  if (first && actions.stop_recording) actions.stop_recording();
+  DisconnectECU(parts_.connection);
+  bConnected = false;
+}
+
+void frmZeltMain::StopSession() {
+  session_stopped_ = true;
+  parts_.connection.link.Trailer_ABS_KWP_StopSession();
+}
+
+}  // namespace lorimet

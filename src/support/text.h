@@ -1,0 +1,33 @@
+// Texts at the edges of the program: UTF-8 inside, code page 1252 outside.
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+namespace lorimet {
+
+// A character that has no code becomes "?"; so does each byte of malformed UTF-8.
+std::string ToCp1252(std::string_view utf8);
+// Every byte has a character: the five codes that the page leaves undefined become the control
+// characters of the same number.
+std::string FromCp1252(std::string_view bytes);
+
+// What stands before the first NUL.
+std::string_view UntilNul(std::string_view text);
+// Blanks (space only) cut at both ends.
+std::string Trim(std::string_view text);
+std::string TrimRight(std::string_view text);
+// Filled up with blanks to `length` characters; a longer text is left as it is. UTF-8.
+std::string PadRight(std::string text, std::size_t length);
+
+constexpr const char* kCrLf = "\r\n";
+
+// "\" on Windows and "/" elsewhere.
+#if defined(_WIN32)
+constexpr char kPathSeparator = '\\';
+#else
+constexpr char kPathSeparator = '/';
+#endif
+
+}  // namespace lorimet

@@ -1,0 +1,420 @@
+#!/usr/bin/env python3
+"""Watches what no compiler watches: the floors of the source tree and the words in it.
+
+    tools/layer_check.py [root]        prints one line a finding; ends with 1 when there is one
+
+The floors, the lowest first; a file includes its own folder and the floors below it:
+
+    platform    src/platform/*         ports and controls
+    support     src/support
+    session     src/session
+    faults parameters monitor          one floor; parameters may use faults, nothing else crosses
+    tests       src/tests
+    reports     src/reports
+    program     src/program.*          composes records and forms from ports
+    adapters    src/platform/{qt,windows,posix,headless}   use any floor of the core but program,
+                                       and never one another
+    roots       src/main.cpp, src/tour.cpp                 know everybody
+
+What is checked, with the word that a finding begins with:
+
+toolkit   The core (all of src/ but adapters and roots) includes the standard library alone. The Qt
+          adapter adds Qt, the other adapters what their platform has, but no Qt; the headless
+          adapter adds nothing.
+up        An include points down. Nothing in src/ includes simulator/. simulator/trailer includes
+          itself, the standard library and src/session/{ecu_data,lorimet32}.h; the other folders of
+          simulator/ add one another and their platform, and only simulator/bench may use Qt.
+missing   An include in double quotes names a file of the project (but for Qt's generated ui_*.h and
+          *.moc).
+circle    No file includes itself by way of others.
+ui        src/*/frmX.ui and src/*/frmX.h own the same controls. On the side of the .ui, a control is
+          a widget or an action whose name begins as a control's does (CONTROL_NAME below). Exempt
+          are decorations, which no code touches: names that begin with `static` or end in
+          `_caption`; and the bars themselves (QToolBar, QMenuBar), whose buttons and menus are
+          controls. On the side of the header, a control is a member of one of these forms, in the
+          form's class or in a class of the project that it derives from:
+              TextBox txtSupply{*this, "txtSupply"};
+              TextBox txtSupply{*this, "txtSupply", 2};            item txtSupply_2
+              ControlArray<TextBox> txtSpeed{*this, "txtSpeed", 6};          txtSpeed_0 to _5
+              ControlArray<MenuItem> mnuABS{*this, "mnuABS", {0, 1, 6}};     mnuABS_0, _1, _6
+              ToolButton tbrABS_exit{*this, "tbrABS", "exit"};               tbrABS_exit
+          A count may be a constexpr int of the same header. Timers have no widget. The window
+          carries the form's name.
+word      No line holds what FORBIDDEN lists.
+"""
+
+import re
+import subprocess
+import sys
+import xml.etree.ElementTree
+from pathlib import Path
+
+FLOORS = {
+    "platform": 0,
+    "support": 1,
+    "session": 2,
+    "faults": 3,
+    "parameters": 3,
+    "monitor": 3,
+    "tests": 4,
+    "reports": 5,
+    "program": 6,
+}
+ADAPTERS = ("qt", "windows", "posix", "headless")
+ACROSS = {("parameters", "faults")}
+ROOTS = ("main.cpp", "tour.cpp")
+SIMULATOR_MAY_USE = {"src/session/ecu_data.h", "src/session/lorimet32.h"}
+SOURCE_FOLDERS = ("src", "simulator", "autotests", "benchmarks", "fuzz")
+
+STANDARD = set("""
+algorithm any array atomic barrier bit bitset charconv chrono codecvt compare complex concepts
+condition_variable coroutine deque exception execution filesystem format forward_list fstream
+functional future initializer_list iomanip ios iosfwd iostream istream iterator latch limits list
+locale map memory memory_resource mutex new numbers numeric optional ostream queue random ranges
+ratio regex scoped_allocator semaphore set shared_mutex source_location span sstream stack
+stdexcept stop_token streambuf string string_view syncstream system_error thread tuple type_traits
+typeindex typeinfo unordered_map unordered_set utility valarray variant vector version
+cassert cctype cerrno cfenv cfloat cinttypes climits clocale cmath csetjmp csignal cstdarg cstddef
+cstdint cstdio cstdlib cstring ctime cuchar cwchar cwctype
+assert.h ctype.h errno.h float.h limits.h math.h stddef.h stdint.h stdio.h stdlib.h string.h time.h
+""".split())
+
+CONTROL_NAME = re.compile(
+    r"(txt|lbl|cmd|opt|chk|fra|frame|pic|img|mnu|tbr|grd|tmr|tab|sst|dxg|cbo|lst|prg"
+    r"|Progress|Timer|Label|Frame|Command|Picture|Image|Text|Option|Check)"
+    r"(?=[A-Z0-9_]|$)")
+DECORATION = re.compile(r"static|.*_caption$")
+BARS = ("QToolBar", "QMenuBar")
+KINDS = ("TextBox|Label|Frame|Button|OptionButton|CheckBox|Picture|ProgressBar|Timer|MenuItem"
+         "|ToolButton|DataGrid|TabStrip")
+
+# Patterns are written so that this file does not match itself.
+FORBIDDEN = (
+    (re.compile(r"/wor[k]/|/roo[t]/|/tmp/build[-]"), "a path of one machine"),
+    (re.compile(r"\b[A-Z]:\\Users\\[^<%\\]"), "a path of one machine"),
+    (re.compile(r"\b(TOD[O]|FIXM[E])\b"), "work left undone"),
+    (re.compile(r"^(<{7}|>{7}) "), "a merge left undone"),
+)
+TEXT_SUFFIXES = {
+    "", ".h", ".cpp", ".ui", ".ts", ".py", ".md", ".txt", ".cmake", ".json", ".html", ".css",
+    ".svg", ".yml", ".sh", ".def", ".rc", ".in", ".scenario", ".supp",
+}
+
+INCLUDE = re.compile(r'^\s*#\s*include\s*(?:"([^"]+)"|<([^>]+)>)', re.MULTILINE)
+
+
+def without_comments(text):
+    """The text with comments blanked, lines kept."""
+    pattern = re.compile(r'"(?:\\.|[^"\\\n])*"|//[^\n]*|/\*.*?\*/', re.DOTALL)
+    return pattern.sub(
+        lambda m: m[0] if m[0].startswith('"') else re.sub(r"[^\n]", " ", m[0]), text)
+
+
+def is_qt(header):
+    return re.match(r"Q[A-Z]|Qt[A-Z]\w*(/|$)|q[a-z]+\.h$", header) is not None
+
+
+class Tree:
+    """The source files of a project and what each includes."""
+
+    def __init__(self, root):
+        self.root = Path(root)
+        self.text = {}
+        self.includes = {}  # file -> [(line, quoted, header)]
+        for folder in SOURCE_FOLDERS:
+            for path in sorted((self.root / folder).rglob("*")):
+                if path.suffix in (".h", ".cpp") and path.is_file():
+                    name = path.relative_to(self.root).as_posix()
+                    text = without_comments(path.read_text(encoding="utf-8", errors="replace"))
+                    self.text[name] = text
+                    self.includes[name] = [
+                        (text.count("\n", 0, m.start(1 if m[1] else 2)) + 1, bool(m[1]),
+                         m[1] or m[2]) for m in INCLUDE.finditer(text)]
+
+    def resolve(self, name, header):
+        """The file that a quoted include names, or None."""
+        for base in (Path(name).parent.as_posix() + "/", "src/", ""):
+            candidate = base + header
+            if candidate in self.text or (self.root / candidate).is_file():
+                return Path(candidate).as_posix()
+        return None
+
+
+def place(name):
+    """(kind, folder) of a file: kind is core, adapter, root, simulator or other."""
+    parts = name.split("/")
+    if parts[0] == "simulator":
+        return "simulator", parts[1] if len(parts) > 2 else ""
+    if parts[0] != "src":
+        return "other", parts[0]
+    if len(parts) == 2:
+        return ("root", "") if parts[1] in ROOTS else ("core", parts[1].split(".")[0])
+    if parts[1] == "platform" and len(parts) > 3:
+        return "adapter", parts[2]
+    return "core", parts[1]
+
+
+def check_toolkit(tree):
+    for name, includes in tree.includes.items():
+        kind, folder = place(name)
+        for line, quoted, header in includes:
+            if header in STANDARD or (quoted and not is_qt(header)):
+                continue
+            if kind == "core":
+                allowed = False
+            elif kind == "adapter":
+                allowed = {"qt": is_qt(header), "headless": False}.get(folder, not is_qt(header))
+            elif kind == "simulator":
+                allowed = folder != "trailer" and (folder == "bench" or not is_qt(header))
+            else:
+                allowed = True
+            if not allowed:
+                yield f"{name}:{line}: toolkit: <{header}> has no place in {folder or kind}"
+
+
+def may_include(name, target):
+    kind, folder = place(name)
+    target_kind, target_folder = place(target)
+    if kind in ("other", "root"):
+        return kind == "other" or target_kind != "simulator"
+    if kind == "simulator":
+        if target_kind == "simulator":
+            return folder != "trailer" or target_folder == "trailer"
+        return target in SIMULATOR_MAY_USE
+    if kind == "adapter":
+        if target_kind == "adapter":
+            return folder == target_folder
+        return target_kind == "core" and target_folder != "program"
+    if target_kind != "core":
+        return False
+    if folder not in FLOORS or target_folder not in FLOORS:
+        return folder == target_folder
+    return (folder == target_folder or FLOORS[target_folder] < FLOORS[folder] or
+            (folder, target_folder) in ACROSS)
+
+
+def check_up(tree):
+    for name, includes in tree.includes.items():
+        kind, folder = place(name)
+        if kind == "core" and folder not in FLOORS:
+            yield f"{name}:1: up: {folder} is on no floor"
+        for line, quoted, header in includes:
+            if not quoted:
+                continue
+            target = tree.resolve(name, header)
+            if target is None:
+                if not re.match(r"(ui_\w+\.h|.*\.moc)$", header) or kind == "core":
+                    yield f"{name}:{line}: missing: \"{header}\" is no file of the project"
+            elif not may_include(name, target):
+                yield f"{name}:{line}: up: {name} must not include {target}"
+
+
+def check_circles(tree):
+    state = {}
+    found = []
+
+    def visit(name, trail):
+        state[name] = "open"
+        for _, quoted, header in tree.includes.get(name, ()):
+            target = tree.resolve(name, header) if quoted else None
+            if target is None:
+                continue
+            if state.get(target) == "open":
+                circle = trail[trail.index(target):] if target in trail else [name]
+                found.append(f"{target}:1: circle: {' -> '.join(circle + [target])}")
+            elif target not in state:
+                visit(target, trail + [target])
+        state[name] = "done"
+
+    for name in tree.includes:
+        if name not in state:
+            visit(name, [name])
+    return found
+
+
+def class_bodies(text):
+    """(class name, its bases, its body) for each class in a text without comments."""
+    for m in re.finditer(r"\b(?:class|struct)\s+(\w+)\s*(?:final\s*)?(?::([^;{]*))?\{", text):
+        depth, end = 1, m.end()
+        while depth and end < len(text):
+            depth += {"{": 1, "}": -1}.get(text[end], 0)
+            end += 1
+        bases = re.findall(r"(\w+)\s*(?:,|$)", (m[2] or "").strip())
+        yield m[1], bases, text[m.end():end]
+
+
+ARRAY = re.compile(
+    r"\bControlArray<\s*(" + KINDS + r")\s*>\s+\w+\s*\{\s*\*this\s*,\s*\"([^\"]+)\"\s*,"
+    r"\s*(\{[^}]*\}|\w+)\s*\}")
+SINGLE = re.compile(
+    r"\b(" + KINDS + r")\s+\w+\s*\{\s*\*this\s*,\s*\"([^\"]+)\"\s*(?:,\s*(\"[^\"]*\"|\w+)\s*)?\}")
+
+
+def number(word, text):
+    if re.fullmatch(r"\d+", word):
+        return int(word)
+    m = re.search(r"\bconstexpr\s+(?:int|std::size_t)\s+" + re.escape(word) + r"\s*[={]\s*(\d+)",
+                  text)
+    return int(m[1]) if m else None
+
+
+def declared_controls(body, text):
+    """(names with a widget, words that are no number) of one class."""
+    names, unknown = [], []
+    for kind, name, extent in ARRAY.findall(body):
+        if extent.startswith("{"):
+            words = [w.strip() for w in extent[1:-1].split(",") if w.strip()]
+            indices = [number(w, text) for w in words]
+        else:
+            count = number(extent, text)
+            indices = [None] if count is None else list(range(count))
+        if None in indices:
+            unknown.append(f"{name}: {extent}")
+        elif kind != "Timer":
+            names += [f"{name}_{i}" for i in indices]
+    for kind, name, extra in SINGLE.findall(body):
+        if kind == "Timer":
+            continue
+        if not extra:
+            names.append(name)
+        elif extra.startswith('"'):
+            names.append(f"{name}_{extra[1:-1]}")
+        elif number(extra, text) is None:
+            unknown.append(f"{name}: {extra}")
+        else:
+            names.append(f"{name}_{number(extra, text)}")
+    return names, unknown
+
+
+def controls_of_form(tree, header):
+    """The controls of the form in a header, its base classes' included."""
+    form = Path(header).stem
+    names, unknown, seen = [], [], set()
+
+    def collect(class_name, file):
+        if (class_name, file) in seen:
+            return
+        seen.add((class_name, file))
+        text = tree.text.get(file, "")
+        for name, bases, body in class_bodies(text):
+            if name == class_name:
+                more, strange = declared_controls(body, text)
+                names.extend(more)
+                unknown.extend(strange)
+                for base in bases:
+                    for origin in reachable(tree, file):
+                        collect(base, origin)
+
+    collect(form, header)
+    return names, unknown
+
+
+def reachable(tree, file):
+    seen, stack = set(), [file]
+    while stack:
+        name = stack.pop()
+        if name in seen:
+            continue
+        seen.add(name)
+        for _, quoted, header in tree.includes.get(name, ()):
+            target = tree.resolve(name, header) if quoted else None
+            if target:
+                stack.append(target)
+    return sorted(seen)
+
+
+def drawn_controls(path):
+    """(the window's name, names of the controls in a .ui file)."""
+    top = xml.etree.ElementTree.parse(path).getroot().find("widget")
+    names = []
+    for element in top.iter():
+        name = element.get("name", "")
+        if (element is top or element.tag not in ("widget", "action") or
+                element.get("class") in BARS or not CONTROL_NAME.match(name) or
+                DECORATION.match(name)):
+            continue
+        names.append(name)
+    return top.get("name"), names
+
+
+def check_ui(tree):
+    forms = {p.relative_to(tree.root).as_posix() for p in (tree.root / "src").glob("*/frm*.ui")}
+    for header in sorted(tree.text):
+        if re.match(r"src/\w+/frm\w+\.h$", header) and header[:-1] + "ui" not in forms:
+            yield f"{header}:1: ui: the form has no .ui file beside it"
+    for ui in sorted(forms):
+        header = ui[:-2] + "h"
+        if header not in tree.text:
+            yield f"{ui}:1: ui: the form has no class beside it"
+            continue
+        try:
+            window, drawn = drawn_controls(tree.root / ui)
+        except (xml.etree.ElementTree.ParseError, AttributeError) as error:
+            yield f"{ui}:1: ui: cannot be read: {error}"
+            continue
+        if window != Path(ui).stem:
+            yield f"{ui}:1: ui: the window is named {window}"
+        declared, unknown = controls_of_form(tree, header)
+        for word in unknown:
+            yield f"{header}:1: ui: the extent of {word} is no number that stands in this header"
+        for name in sorted({n for n in declared if declared.count(n) > 1}):
+            yield f"{header}:1: ui: {name} is declared twice"
+        for name in sorted({n for n in drawn if drawn.count(n) > 1}):
+            yield f"{ui}:1: ui: {name} is drawn twice"
+        extents = tuple(word.split(":")[0] + "_" for word in unknown)
+        for name in sorted(set(drawn) - set(declared)):
+            if not (extents and name.startswith(extents)):
+                yield f"{ui}:1: ui: {Path(ui).stem} does not own {name}"
+        for name in sorted(set(declared) - set(drawn)):
+            yield f"{header}:1: ui: {name} is not drawn in the .ui file"
+
+
+def project_files(root):
+    """The files that belong to the project, as the version control sees them where there is one."""
+    listing = subprocess.run(
+        ["git", "-C", str(root), "ls-files", "-co", "--exclude-standard", "-z"],
+        capture_output=True, check=False)
+    if listing.returncode == 0 and (root / ".git").exists():
+        names = listing.stdout.decode("utf-8", "replace").split("\0")
+        paths = [root / name for name in names if name]
+    else:
+        paths = [p for p in root.rglob("*")
+                 if not {".git", "build"} & set(p.relative_to(root).parts)]
+    return sorted(p for p in set(paths) if p.suffix in TEXT_SUFFIXES and p.is_file())
+
+
+def check_words(root):
+    for path in project_files(root):
+        text = path.read_bytes()
+        if b"\0" in text:
+            continue
+        for row, line in enumerate(text.decode("utf-8", "replace").splitlines(), 1):
+            for pattern, reason in FORBIDDEN:
+                m = pattern.search(line)
+                if m:
+                    yield f"{path.relative_to(root)}:{row}: word: \"{m[0]}\" is {reason}"
+
+
+def findings(root):
+    tree = Tree(root)
+    result = []
+    for check in (check_toolkit, check_up, check_circles, check_ui):
+        result += check(tree)
+    result += check_words(Path(root))
+    return result
+
+
+def main(arguments):
+    root = Path(arguments[0]) if arguments else Path(__file__).resolve().parent.parent
+    result = findings(root)
+    for finding in result:
+        print(finding)
+    if result:
+        print(f"layer check: {len(result)} finding(s)")
+        return 1
+    print("layer check: clean")
+    return 0
+
+
+if __name__ == "__main__":
+    sys.exit(main(sys.argv[1:]))
