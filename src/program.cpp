@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "parameters/parameter_reading.h"
 #include "platform/desktop.h"
 #include "platform/runtime_error.h"
 #include "support/error_report.h"
@@ -25,21 +26,46 @@ Program::Program(const Ports& ports)
                  err}),
       fault_list(
           {ports.desktop, ports.clock, dictionary, settings, ports.link, faults, fault_table}),
+      parameter_file(ports.profile_file, ports.desktop, ports.process, ports.clock,
+                     records.ecu_data, image),
+      system_page(ForWizard()),
+      gio_page(ForWizard()),
+      special_gio(ForWizard()),
+      lift_axle(ForWizard()),
+      speed_switch(ForWizard()),
+      load_sensing_page(ForWizard()),
+      overturn_guard_page(ForWizard(), ports.clock, faults, parameter_file),
       about(ports.desktop, dictionary),
       not_built(ports.desktop, dictionary),
       pdf_link(ports.desktop) {
   dictionary.on_language_changed = [this] {
     help.BuildPath();
-    fault_table.BuildFaultTable([this](const std::string& text) {
-      return dictionary.Translate(text);
-    });
+    fault_table.BuildFaultTable(
+        [this](const std::string& text) { return dictionary.Translate(text); });
   };
   main_form.reset_results = [this] {
     ClearTestResults(test_results);
     image.strTrailerVIN.clear();
     image.bStopLightCable = false;
   };
+  pages = {&system_page,  &gio_page,          &special_gio,        &lift_axle,
+           &speed_switch, &load_sensing_page, &overturn_guard_page};
   PlugCommands();
+  PlugParameters();
+}
+
+WizardParts Program::ForWizard() {
+  return {ports_.desktop, dictionary, ports_.link, records.ecu_data, image, pages};
+}
+
+void Program::PlugParameters() {
+  CommandActions& actions = main_form.actions;
+  actions.read_parameters_from_ecu = [this] {
+    ReadParmsFromECU({ports_.link, ports_.desktop, dictionary, records.ecu_data, image, main_form,
+                      main_form.txtError});
+  };
+  actions.read_parameters_from_file = [this] { return parameter_file.ReadParmsFromFile(); };
+  actions.show_parameters = [this] { system_page.Show(Modality::kModal, &main_form); };
 }
 
 void Program::PlugCommands() {
@@ -47,11 +73,11 @@ void Program::PlugCommands() {
     return [this, command] { not_built.ShowFor(command); };
   };
   constexpr std::array<const char*, 6> kTests = {
-      "&Pressure Test", "&Redundancy Test",         "&Sensor Test",
+      "&Pressure Test", "&Redundancy Test",        "&Sensor Test",
       "&Lamp Test",     "Suspension &Calibration", "Stop Light &Activation",
   };
   CommandActions& actions = main_form.actions;
-  actions.show_faults = [this] { fault_list.Show(Modality::kModal); };
+  actions.show_faults = [this] { fault_list.Show(Modality::kModal, &main_form); };
   fault_list.ecu_type = [this] { return main_form.nECUType; };
   actions.sign_off = not_yet("&Begin Sign-off Procedure");
   for (std::size_t i = 0; i < kTests.size(); ++i) actions.show_test[i] = not_yet(kTests[i]);
@@ -61,8 +87,6 @@ void Program::PlugCommands() {
       [this] { return test_results.nSensorTest; },
   };
   actions.calibration_result = [this] { return test_results.nHeightCalCD; };
-  actions.show_parameters = not_yet("Edit Parameters From &ECU");
-  actions.read_parameters_from_file = [] { return true; };
   actions.save_eeprom = not_yet("Save &EEPROM Data");
   actions.show_odr_overview = not_yet("&Display ODR Overview Data");
   actions.export_odr = not_yet("&Export ODR Data");
@@ -73,7 +97,7 @@ void Program::PlugCommands() {
   actions.delete_odr = not_yet("ODR Delete");
   actions.save_report = not_yet("Save Fault and Sensor\\Valve Test Information");
   actions.print_report = not_yet("Print Fault and Sensor\\Valve Test Information");
-  actions.show_about = [this] { about.Show(Modality::kModal); };
+  actions.show_about = [this] { about.Show(Modality::kModal, &main_form); };
 }
 
 EntryResult Program::Start() {

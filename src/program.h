@@ -10,7 +10,16 @@
 #include "faults/faults.h"
 #include "faults/frmFaults.h"
 #include "monitor/bus_monitor.h"
+#include "parameters/frmGIOSelection.h"
+#include "parameters/frmGIOSpecial.h"
+#include "parameters/frmLiftAxlePressures.h"
+#include "parameters/frmOVGParm1.h"
+#include "parameters/frmOVGParm2.h"
+#include "parameters/frmOVGParm3.h"
+#include "parameters/frmSpeedSwitchThresh.h"
+#include "parameters/parameter_file.h"
 #include "parameters/parm_block.h"
+#include "parameters/wizard.h"
 #include "session/entry.h"
 #include "session/frmZeltMain.h"
 #include "session/link_messages.h"
@@ -88,12 +97,23 @@ class Program {
   LinkMessages messages;
   frmZeltMain main_form;
   frmFaults fault_list;
+  ParameterFile parameter_file;
+  WizardPages pages;
+  frmOVGParm1 system_page;
+  frmGIOSelection gio_page;
+  frmGIOSpecial special_gio;
+  frmLiftAxlePressures lift_axle;
+  frmSpeedSwitchThresh speed_switch;
+  frmOVGParm2 load_sensing_page;
+  frmOVGParm3 overturn_guard_page;
   frmAbout about;
   frmNotBuilt not_built;
   frmPDFDDEForm pdf_link;
 
  private:
+  WizardParts ForWizard();
   void PlugCommands();
+  void PlugParameters();
 };
 
 }  // namespace lorimet

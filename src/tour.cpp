@@ -1,2 +1,301 @@
+// The tour: the program goes through its screens by itself on the simulated trailer and leaves a
+// picture of each, and the files that it wrote, in a folder.
+//
+//     lorimet_tour FOLDER [en|fr|es]
+//
+// LORIMET32 names the link library. The registry, the trailer's state and the commands of its
+// operator lie in the folder, so the user's own are left alone.
+#include <QAbstractButton>
+#include <QAction>
 #include <QApplication>
-int main(int argc, char** argv) { QApplication a(argc, argv); return 0; }
+#include <QComboBox>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QFileDialog>
+#include <QLineEdit>
+#include <QMessageBox>
+#include <QTableWidget>
+#include <QTimer>
+#include <cstdio>
+#include <deque>
+#include <functional>
+
+#include "desktop_program.h"
+#include "platform/qt/qt_style.h"
+
+namespace {
+
+constexpr int kLookInterval = 50;  // ms between two looks at what the tour waits for
+constexpr int kPatience = 60'000;  // ms until a step that cannot go on fails the tour
+constexpr int kSettle = 400;       // ms for a screen to be painted before its picture is taken
+
+QWidget* Window(const QString& name) {
+  for (QWidget* window : QApplication::topLevelWidgets())
+    if (window->objectName() == name && window->isVisible()) return window;
+  return nullptr;
+}
+
+template <typename T>
+T* Find(const QString& window_name, const QString& name) {
+  QWidget* window = Window(window_name);
+  return window == nullptr ? nullptr : window->findChild<T*>(name);
+}
+
+// One look at the program, and what is done once it shows what was waited for.
+struct Step {
+  QString what;
+  std::function<bool()> ready;
+  std::function<void()> act;
+};
+
+class Tour {
+ public:
+  Tour(QString folder, QString control) : folder_(std::move(folder)), control_(std::move(control)) {
+    QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] { Look(); });
+  }
+
+  void Begin() {
+    Plan();
+    waited_.start();
+    timer_.start(kLookInterval);
+  }
+  bool Failed() const { return failed_; }
+
+ private:
+  // --- The words of the plan.
+  void When(const QString& what, std::function<bool()> ready, std::function<void()> act) {
+    steps_.push_back({what, std::move(ready), std::move(act)});
+  }
+  void WhenShown(const QString& window, std::function<void()> act) {
+    When(
+        window, [window] { return Window(window) != nullptr; }, std::move(act));
+  }
+  // Takes a picture of a window once it has settled.
+  void Picture(const QString& window, const QString& name) {
+    WhenShown(window, [] {});
+    Pause(kSettle);
+    WhenShown(window, [this, window, name] {
+      const QString file = QString("%1-%2.png").arg(++pictures_, 2, 10, QChar('0')).arg(name);
+      if (!Window(window)->grab().save(folder_ + "/" + file)) failed_ = true;
+      std::printf("    %s\n", qPrintable(file));
+      std::fflush(stdout);
+    });
+  }
+  void Pause(int milliseconds) {
+    auto since = std::make_shared<QElapsedTimer>();
+    When(
+        "a pause",
+        [since, milliseconds] {
+          if (!since->isValid()) since->start();
+          return since->elapsed() >= milliseconds;
+        },
+        [] {});
+  }
+  void Trigger(const QString& action) {
+    When(
+        action,
+        [action] {
+          auto* found = Find<QAction>("frmZeltMain", action);
+          return found != nullptr && found->isEnabled();
+        },
+        [action] { Find<QAction>("frmZeltMain", action)->trigger(); });
+  }
+  void Press(const QString& window, const QString& button) {
+    When(
+        window + "." + button,
+        [window, button] {
+          auto* found = Find<QAbstractButton>(window, button);
+          return found != nullptr && found->isEnabled();
+        },
+        [window, button] { Find<QAbstractButton>(window, button)->click(); });
+  }
+  void PressBox() {
+    WhenShown("msgBox", [] {
+      auto* box = qobject_cast<QMessageBox*>(Window("msgBox"));
+      box->buttons().constFirst()->click();
+    });
+  }
+  void WhenGone(const QString& window) {
+    When(
+        "the end of " + window, [window] { return Window(window) == nullptr; }, [] {});
+  }
+  void Operator(const QString& command) {
+    When(
+        command, [] { return true; },
+        [this, command] {
+          QFile file(control_);
+          if (!file.open(QIODevice::Append)) failed_ = true;
+          file.write(command.toUtf8() + "\n");
+        });
+  }
+  void Text(const QString& box, const std::function<bool(const QString&)>& fits) {
+    When(
+        box,
+        [box, fits] {
+          auto* found = Find<QLineEdit>("frmZeltMain", box);
+          return found != nullptr && fits(found->text());
+        },
+        [] {});
+  }
+
+  // --- The plan.
+  void Plan() {
+    Text("txtOdom", [](const QString& text) { return text.contains(QChar('.')); });
+    Pause(2500);  // the lamp check ends, the pressure settles
+    Picture("frmZeltMain", "main");
+    LinkTrouble();
+    FaultList();
+    Parameters();
+    HelpAndAbout();
+    Trigger("tbrABS_exit");
+    PressBox();  // there is no launcher to return to
+  }
+
+  void LinkTrouble() {
+    Operator("cable out");
+    Picture("frmErr", "link-lost");
+    Press("frmErr", "cmdOK");
+    Picture("frmZeltMain", "main-link-lost");
+    Operator("cable in");
+    Pause(2500);
+  }
+
+  void FaultList() {
+    Operator("fault 5 7 active 3");
+    Operator("fault 59 12 stored 1");
+    Operator("fault 106 11 stored 0");
+    Operator("fault 13 2 stored 4");
+    Pause(1500);
+    Picture("frmZeltMain", "main-faults");
+    Trigger("tbrABS_faults");
+    Picture("frmFaults", "faults");
+    Operator("fault 5 7 gone");
+    Press("frmFaults", "cmdClearAll");
+    Picture("frmFaults", "faults-cleared");
+    Press("frmFaults", "cmdExit");
+    WhenGone("frmFaults");
+  }
+
+  void Parameters() {
+    Trigger("mnuSystem_0");
+    Picture("frmOVGParm1", "parameters-system");
+    Press("frmOVGParm1", "cmdNext");
+    Picture("frmGIOSelection", "parameters-functions");
+    Press("frmGIOSelection", "cmdNext");
+    Picture("frmOVGParm2", "parameters-load-sensing");
+    Press("frmOVGParm2", "cmdNext");
+    Picture("frmOVGParm3", "parameters-overturn-guard");
+    Press("frmOVGParm3", "cmdSaveToFile");
+    WhenShown("dlgFile", [this] {
+      auto* dialog = qobject_cast<QFileDialog*>(Window("dlgFile"));
+      dialog->selectFile(folder_ + "/trailer.ecu");
+      QMetaObject::invokeMethod(dialog, "accept");
+    });
+    Picture("msgBox", "parameters-saved-to-file");
+    PressBox();
+    WhenGone("frmOVGParm3");
+    Trigger("mnuSystem_0");
+    Press("frmOVGParm1", "cmdNext");
+    Press("frmGIOSelection", "cmdNext");
+    Press("frmOVGParm2", "cmdNext");
+    Press("frmOVGParm3", "cmdSaveToECU");
+    Picture("msgBox", "parameters-saved-to-ecu");
+    PressBox();
+    WhenGone("frmOVGParm3");
+  }
+
+  void HelpAndAbout() {
+    Trigger("mnuHelp_0");
+    Picture("frmHelp", "help-contents");
+    Trigger("mnuHelp_1");
+    When(
+        "the help's search", [] { return Find<QLineEdit>("frmHelp", "txtHelpSearch") != nullptr; },
+        [] {
+          auto* search = Find<QLineEdit>("frmHelp", "txtHelpSearch");
+          search->setText("ABS");
+          emit search->returnPressed();
+        });
+    Picture("frmHelp", "help-search");
+    WhenShown("frmHelp", [] { Window("frmHelp")->close(); });
+    Trigger("mnuHelp_3");
+    Picture("frmAbout", "about");
+    Press("frmAbout", "cmdOK");
+    WhenGone("frmAbout");
+  }
+
+  // What a step does may run an event loop of its own, in which the steps behind it go on; so it is
+  // done from a fresh event and not from the timer's.
+  void Look() {
+    if (steps_.empty()) {
+      timer_.stop();
+      return;
+    }
+    if (failed_ || waited_.elapsed() > kPatience) {
+      std::fprintf(stderr, "The tour cannot go on: it waits for %s\n",
+                   qPrintable(steps_.front().what));
+      std::_Exit(1);
+    }
+    if (!steps_.front().ready()) return;
+    const Step step = std::move(steps_.front());
+    steps_.pop_front();
+    waited_.restart();
+    QTimer::singleShot(0, &timer_, step.act);
+  }
+
+  QString folder_;
+  QString control_;
+  QTimer timer_;
+  QElapsedTimer waited_;
+  std::deque<Step> steps_;
+  int pictures_ = 0;
+  bool failed_ = false;
+};
+
+// The language as the settings store it.
+int LanguageIndex(const QString& code) {
+  if (code == "fr") return lorimet::kFrench;
+  if (code == "es") return lorimet::kSpanish;
+  return lorimet::kNative;
+}
+
+bool Prepare(const QString& folder, const QString& language) {
+  const QString settings = folder + "/config/norvick-lorimet";
+  if (!QDir().mkpath(settings)) return false;
+  QFile registry(settings + "/registry.reg");
+  if (!registry.open(QIODevice::WriteOnly)) return false;
+  registry.write(QString("REGEDIT4\r\n\r\n[HKEY_CURRENT_USER\\%1]\r\n\"Language\"=dword:%2\r\n")
+                     .arg(lorimet::kProductKey)
+                     .arg(LanguageIndex(language), 8, 16, QChar('0'))
+                     .toUtf8());
+  qputenv("XDG_CONFIG_HOME", (folder + "/config").toUtf8());
+  qputenv("XDG_RUNTIME_DIR", folder.toUtf8());  // the tour may run beside the program itself
+  qputenv("LORIMET32_STATE", "none");
+  qputenv("LORIMET32_CONTROL", (folder + "/operator.txt").toUtf8());
+  QFile::remove(folder + "/operator.txt");
+  return true;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  if (argc < 2) {
+    std::fprintf(stderr, "lorimet_tour FOLDER [en|fr|es]\n");
+    return 2;
+  }
+  const QString folder = QDir(QString::fromLocal8Bit(argv[1])).absolutePath();
+  if (!Prepare(folder, argc > 2 ? QString::fromLocal8Bit(argv[2]) : "en")) {
+    std::fprintf(stderr, "The folder %s cannot be written.\n", qPrintable(folder));
+    return 1;
+  }
+  QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+  QApplication application(argc, argv);
+  QApplication::setQuitOnLastWindowClosed(false);
+  lorimet::ApplyStyle(application);
+  lorimet::DesktopProgram desktop_program;
+  Tour tour(folder, folder + "/operator.txt");
+  tour.Begin();
+  if (desktop_program.program.Start() == lorimet::EntryResult::kRunning)
+    desktop_program.desktop.Run();
+  return tour.Failed() ? 1 : desktop_program.program.ExitStatus();
+}

@@ -410,7 +410,7 @@ TEST_F(ProfileFileTest, ASymbolicLinkStaysOne) {
 TEST_F(ProfileFileTest, AKilledWriterLeavesOneVersionWhole) {
   const std::string values[] = {std::string(300'000, 'x'), std::string(200'000, 'y')};
   Put(path_, "[a]\r\nk=" + values[1] + "\r\n");
-  for (int run = 0; run < 20; ++run) {
+  for (int run = 0; run < 8; ++run) {
     int ends[2];
     ASSERT_EQ(pipe(ends), 0);
     const pid_t child = fork();

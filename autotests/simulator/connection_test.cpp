@@ -22,11 +22,16 @@ TEST_F(ConnectionTest, RefusesASecondConnectionAndKeepsTheFirst) {
 
 TEST_F(ConnectionTest, NamesWhatIsWrongWithTheAdapter) {
   const std::pair<const char*, int> rows[] = {
-      {"failure no_adapter", 142},           {"failure wrong_device", 134},
-      {"failure wrong_protocol", 136},       {"failure wrong_vendor", 128},
-      {"adapter vendor DGTECH32", 128},      {"adapter device 1", 134},
-      {"adapter protocol J1708", 136},       {"failure connect_answers value=-1", -1},
-      {"failure connect_answers value=128", 128}, {"failure connect_answers value=65536", 65536},
+      {"failure no_adapter", 142},
+      {"failure wrong_device", 134},
+      {"failure wrong_protocol", 136},
+      {"failure wrong_vendor", 128},
+      {"adapter vendor DGTECH32", 128},
+      {"adapter device 1", 134},
+      {"adapter protocol J1708", 136},
+      {"failure connect_answers value=-1", -1},
+      {"failure connect_answers value=128", 128},
+      {"failure connect_answers value=65536", 65536},
       {"failure refuse operation=Connect", 142},
       {"failure never_answer operation=Connect", 142},
       {"failure refuse operation=Connect value=150", 150},

@@ -37,8 +37,8 @@ TEST_F(FailureModesTest, EveryOperationCanBeRefusedAndIsCounted) {
     ConnectAndRead();
     OpenParameters();
     link_->BusMonitorOpen();
-    ASSERT_EQ(
-        link_->Command("failure refuse operation=" + std::string(name) + " value=77 times=1"), "");
+    ASSERT_EQ(link_->Command("failure refuse operation=" + std::string(name) + " value=77 times=1"),
+              "");
     std::array<std::uint8_t, 16> data = {};
     std::array<char, 200> text = {};
     link_->Log().Clear();

@@ -30,10 +30,8 @@ TEST_F(FaultsTest, AHealthyStoreIsEmpty) {
 TEST_F(FaultsTest, RecordsCarryNumbersStateAndOccurrencesInOrder) {
   ConnectAndRead(
       "fault 3 5 active 7\nfault 7 3 stored 0\nfault 4 5 stored -1\nfault 99 31 2 70000");
-  const std::vector<Record> expected = {{0, 3, 5, 0, 0, 7},
-                                        {0, 7, 3, 0, 1, 0},
-                                        {0, 4, 5, 0, 1, -1},
-                                        {0, 99, 31, 0, 2, 70000}};
+  const std::vector<Record> expected = {
+      {0, 3, 5, 0, 0, 7}, {0, 7, 3, 0, 1, 0}, {0, 4, 5, 0, 1, -1}, {0, 99, 31, 0, 2, 70000}};
   EXPECT_EQ(ReadStore(), expected);
   EXPECT_EQ(record_.bNumFaults.Load(), 4);
 }

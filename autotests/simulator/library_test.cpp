@@ -167,8 +167,7 @@ TEST_F(LibraryTest, TakesCommandsBeforeItConnects) {
 
 TEST_F(LibraryTest, StartsAsTheScenarioOfTheEnvironment) {
   Unload();
-  setenv("LORIMET32_SCENARIO",
-         LORIMET_SOURCE_ROOT "/simulator/scenarios/healthy_2s1m.scenario", 1);
+  setenv("LORIMET32_SCENARIO", LORIMET_SOURCE_ROOT "/simulator/scenarios/healthy_2s1m.scenario", 1);
   Load();
   ASSERT_EQ(Connect(), 0);
   Call("Trailer_ABS_QOR_ReadStaticData");

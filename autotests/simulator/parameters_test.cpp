@@ -9,10 +9,10 @@ namespace {
 using ParametersTest = LinkFixture;
 
 TEST_F(ParametersTest, EveryBlockIsReadWithItsEchoAndItsLength) {
-  const std::pair<int, int> rows[] = {
-      {0x03, 81},  {0x3D, 11},  {0x27, 41},  {0x17, 21},  {0x28, 111}, {0x05, 11},
-      {0x06, 123}, {0x42, 21},  {0x37, 111}, {0x38, 111}, {0x39, 111}, {0x3A, 111},
-      {0x3B, 111}, {0x3C, 111}, {0x44, 111}, {0x45, 111}};
+  const std::pair<int, int> rows[] = {{0x03, 81},  {0x3D, 11},  {0x27, 41},  {0x17, 21},
+                                      {0x28, 111}, {0x05, 11},  {0x06, 123}, {0x42, 21},
+                                      {0x37, 111}, {0x38, 111}, {0x39, 111}, {0x3A, 111},
+                                      {0x3B, 111}, {0x3C, 111}, {0x44, 111}, {0x45, 111}};
   ConnectAndRead();
   OpenParameters();
   for (const auto& [id, count] : rows) {
@@ -75,7 +75,7 @@ TEST_F(ParametersTest, WrittenParametersDecideTheStaticReadAndTheBrake) {
   OpenParameters();
   ASSERT_EQ(Read(0x03), 0);
   std::vector<std::uint8_t> data(buffer_.begin() + 1, buffer_.begin() + 81);
-  data[43 - 1] = 50;                  // second braking pressure: 5.0 bar
+  data[43 - 1] = 50;  // second braking pressure: 5.0 bar
   data[1 - 1] = static_cast<std::uint8_t>((data[0] & ~0x1C) | 0 << 2 | 0x80);  // 2S/2M, rear
   ASSERT_EQ(Write(0x03, data), 0);
   ASSERT_EQ(link_->Trailer_ABS_QOR_ReadStaticData(), 0);
@@ -133,19 +133,19 @@ TEST_F(PlausibilityTest, EveryRuleIsJudgedAtItsBounds) {
   const Complaint rows[] = {
       // axle loads
       {"parameter EOL1 3 0 0", {{1, 1}}},
-      {"parameter EOL1 9 0x23 0x29", {{1, 2}}},                    // 9001 unladen of 9000 laden
+      {"parameter EOL1 9 0x23 0x29", {{1, 2}}},  // 9001 unladen of 9000 laden
       {"parameter EOL1 9 0x23 0x28", {}},
-      {"parameter EOL1 15 0 0 0 0", {}},                           // two axles
+      {"parameter EOL1 15 0 0 0 0", {}},  // two axles
       {"axles 2\nparameter EOL1 3 0 0 0 0", {{1, 7}}},
       {"axles 1\nparameter EOL1 3 0 0 0 0", {{1, 6}}},
-      {"parameter EOL1 13 0x11", {{1, 2}}},                        // lifted with sensor c-d
-      {"parameter EOL1 7 0x21", {}},                               // lifted with sensor e-f
+      {"parameter EOL1 13 0x11", {{1, 2}}},  // lifted with sensor c-d
+      {"parameter EOL1 7 0x21", {}},         // lifted with sensor e-f
       {"parameter EOL1 19 1", {}},
-      {"parameter EOL1 5 0x61 0xA9", {{13, 7}}},                   // 25001 kg
+      {"parameter EOL1 5 0x61 0xA9", {{13, 7}}},  // 25001 kg
       {"parameter EOL1 5 0x61 0xA8", {}},
       {"parameter EOL1 11 0x61 0xA9", {{14, 0}}},
       {"parameter EOL1 17 0x61 0xA9", {{14, 1}}},
-      {"parameter EOL1 19 4", {{14, 1}}},                          // both lift axles at once
+      {"parameter EOL1 19 4", {{14, 1}}},  // both lift axles at once
       // suspension
       {"parameter EOL1 33 0", {{2, 1}}},
       {"parameter EOL1 34 0", {{2, 1}}},
@@ -154,9 +154,9 @@ TEST_F(PlausibilityTest, EveryRuleIsJudgedAtItsBounds) {
       {"parameter EOL1 34 126", {{13, 6}}},
       {"parameter EOL1 34 125", {}},
       {"suspension mechanical\nparameter EOL1 33 9", {}},
-      {"suspension mechanical\nparameter EOL1 64 1 0xF3", {{13, 6}}},   // 49.9 mm
+      {"suspension mechanical\nparameter EOL1 64 1 0xF3", {{13, 6}}},  // 49.9 mm
       {"suspension mechanical\nparameter EOL1 64 1 0xF4", {}},
-      {"suspension mechanical\nparameter EOL1 64 7 0xD1", {{13, 6}}},   // 200.1 mm
+      {"suspension mechanical\nparameter EOL1 64 7 0xD1", {{13, 6}}},  // 200.1 mm
       {"suspension mechanical\nparameter EOL1 68 0 99", {{13, 6}}},
       {"suspension mechanical\nparameter EOL1 68 0x0F 0xA1", {{13, 6}}},
       // Overturn Guard
@@ -165,7 +165,7 @@ TEST_F(PlausibilityTest, EveryRuleIsJudgedAtItsBounds) {
       {"parameter EOL2 4 2", {{14, 7}}},
       // sensors against the system
       {"parameter EOL1 13 0", {{2, 7}}},
-      {"parameter EOL1 19 0x20", {{3, 0}}},                        // e-f on two axles
+      {"parameter EOL1 19 0x20", {{3, 0}}},  // e-f on two axles
       {"configuration 2S/2M\nparameter EOL1 7 0x20", {{3, 0}}},
       {"configuration 2S/1M\nparameter EOL1 7 0x20", {{3, 0}}},
       {"configuration 4S/3M\nparameter EOL1 7 0", {{3, 0}}},
@@ -175,13 +175,13 @@ TEST_F(PlausibilityTest, EveryRuleIsJudgedAtItsBounds) {
       {"vehicle drawbar\nparameter EOL1 7 0x21", {{15, 6}}},
       {"vehicle drawbar\nparameter EOL1 19 1", {}},
       // parametrised against built
-      {"parameter EOL1 1 0x08", {{4, 2}}},                         // 4S/3M on 4S/2M
+      {"parameter EOL1 1 0x08", {{4, 2}}},  // 4S/3M on 4S/2M
       {"configuration 4S/3M\nparameter EOL1 1 0x04", {{6, 6}}},
       {"configuration 4S/3M\nparameter EOL1 1 0x0C", {{6, 7}}},
       {"parameter EOL1 1 0\nparameter EOL1 7 0", {{15, 4}, {15, 5}}},
       {"parameter EOL1 1 0x10\nparameter EOL1 7 0", {{15, 4}, {15, 5}}},
-      {"parameter EOL1 1 0x07", {{13, 6}}},                        // vehicle type 3
-      {"parameter EOL1 1 0x14", {{14, 5}}},                        // system 5
+      {"parameter EOL1 1 0x07", {{13, 6}}},  // vehicle type 3
+      {"parameter EOL1 1 0x14", {{14, 5}}},  // system 5
       // braking
       {"parameter EOL1 46 7", {{7, 2}}},
       {"parameter EOL1 46 8", {}},
@@ -200,14 +200,14 @@ TEST_F(PlausibilityTest, EveryRuleIsJudgedAtItsBounds) {
       {"parameter EOL1 58 131", {{14, 5}}},
       {"parameter EOL1 55 47\nparameter EOL1 58 50", {{14, 5}}},
       {"parameter EOL1 55 209\nparameter EOL1 58 130", {{14, 5}, {15, 7}}},
-      {"parameter EOL1 55 156", {}},                               // 39 mm a tooth
+      {"parameter EOL1 55 156", {}},  // 39 mm a tooth
       {"parameter EOL1 55 157", {{15, 7}}},
-      {"parameter EOL1 56 92", {}},                                // 23 mm a tooth
+      {"parameter EOL1 56 92", {}},  // 23 mm a tooth
       {"parameter EOL1 56 91", {{15, 7}}},
-      {"configuration 2S/2M\nparameter EOL1 56 91", {}},           // nobody senses e-f
+      {"configuration 2S/2M\nparameter EOL1 56 91", {}},  // nobody senses e-f
       // pins
       {"parameter EOL5 1 177\nparameter EOL5 18 177", {{13, 1}}},
-      {"parameter EOL5 18 65", {}},                                // the shared output
+      {"parameter EOL5 18 65", {}},  // the shared output
       {"parameter EOL5 21 161\nparameter EOL5 103 161", {{13, 1}}},
       {"parameter EOL5 83 255 255", {}},
       // functions

@@ -1,7 +1,6 @@
 #include <cstring>
 #include <fstream>
 #include <map>
-#include <regex>
 
 #include "autotests/simulator/link_fixture.h"
 
@@ -15,20 +14,33 @@ struct Declared {
   std::string type;
 };
 
+// "  std::array<EcuShort, 3> nAxleLift;" to its name, count and type; false for no such line.
+bool ParseDeclaration(const std::string& line, std::string& name, Declared& declared) {
+  const std::size_t type = line.find("Ecu");
+  const std::size_t end = line.find(';');
+  if (type == std::string::npos || end == std::string::npos || !line.starts_with("  "))
+    return false;
+  const std::size_t blank = line.rfind(' ', end);
+  name = line.substr(blank + 1, end - blank - 1);
+  const bool array = line.starts_with("  std::array<");
+  const std::size_t type_end = line.find(array ? ',' : ' ', type);
+  declared.type = line.substr(type, type_end - type);
+  declared.count = array ? std::stoi(line.substr(type_end + 1)) : 1;
+  return true;
+}
+
 // The fields as the record's own header declares them.
 std::map<std::string, Declared> DeclaredFields() {
   std::ifstream header(LORIMET_SOURCE_ROOT "/src/session/ecu_data.h");
   EXPECT_TRUE(header.good());
-  const std::regex field(
-      R"(^  (?:std::array<)?(Ecu(?:Double|Short|Byte|Text<\d+>))(?:, (\d+)>)? (\w+);)");
   std::map<std::string, Declared> fields;
   bool inside = false;
   for (std::string line; std::getline(header, line);) {
     if (line.find("struct alignas(8) ECUData") != std::string::npos) inside = true;
     if (inside && line == "};") break;
-    std::smatch match;
-    if (!inside || !std::regex_search(line, match, field)) continue;
-    fields[match[3]] = {match[2].matched ? std::stoi(match[2]) : 1, match[1]};
+    std::string name;
+    Declared declared;
+    if (inside && ParseDeclaration(line, name, declared)) fields[name] = declared;
   }
   return fields;
 }
@@ -48,8 +60,7 @@ TEST_F(RecordFieldsTest, EveryFieldOfTheRecordCanBeMadeAbnormalAndNothingKnown) 
     ASSERT_NE(field, nullptr) << name << " is out of every scenario's reach";
     EXPECT_EQ(field->count, declared.count) << name;
     for (int i = 0; i < declared.count; ++i) {
-      const std::string element =
-          declared.count == 1 ? name : name + "(" + std::to_string(i) + ")";
+      const std::string element = declared.count == 1 ? name : name + "(" + std::to_string(i) + ")";
       ConnectAndRead();
       const auto normal = LoadField(record_, *field, i);
       ASSERT_EQ(link_->Command("field " + element + " " + AbnormalValue(declared.type)), "");

@@ -27,7 +27,9 @@ TEST(CommandWordsTest, AreParted) {
 
 TEST(CommandWordsTest, CrossIntoTheCodePage) {
   EXPECT_EQ(*SplitWords("M\xC3\xBCller"), Words{"M\xFCller"});
-  EXPECT_EQ(*SplitWords("\xE2\x82\xAC" "5 \xC2\x81"), (Words{"?5", "?"}));
+  EXPECT_EQ(*SplitWords("\xE2\x82\xAC"
+                        "5 \xC2\x81"),
+            (Words{"?5", "?"}));
 }
 
 TEST(CommandWordsTest, AreNumbersAsAWholeOnly) {
@@ -74,24 +76,74 @@ TEST(ScenarioTest, SaysWhichLineIsWrongAndFallsBackToTheDefault) {
 }
 
 TEST(ScenarioTest, RefusesWhatItDoesNotUnderstand) {
-  for (const char* line :
-       {"fly", "configuration 6S/3M", "configuration", "configuration 2S/1M 4S/2M",
-        "suspension water", "axles 0", "axles 4", "axles 1.5", "vehicle boat", "mounting up",
-        "lateral_sensor maybe", "session_timeout -1", "client_id 128", "client_id -1",
-        "adapter colour red", "adapter device 70000", "answer nothing x", "cable loose",
-        "post 3000000000", "failure rain", "failure refuse operation=Fly", "failure refuse often",
-        "failure refuse times=0", "failure refuse times=2x", "failure refuse colour=red",
-        "failure refuse block=EOL8", "failure refuse block=256", "failure refuse value=x",
-        "heal rain", "identity shoe_size 9", "identity system_name 1234567890123456789",
-        "identity vehicle_id 1234567890123456789", "fault x 1 active", "fault 1 x active",
-        "fault 1 1 sleeping", "fault 1 1 active x", "parameter EOL8 1 1", "parameter EOL1 0 1",
-        "parameter EOL1 81 1", "parameter EOL1 80 1 2", "parameter EOL1 1 256", "checksum EOL1 ok",
-        "checksum 0x99 wrong", "parameter_error 21-0 on", "parameter_error 1-8 on",
-        "parameter_error 1 on", "parameter_error 1-1 perhaps", "flag 256", "word 1 2 3 65536",
-        "word 256 2 3 1", "session begin", "supply -1", "compressor broken", "press harder 5",
-        "press demand x", "load 1.1", "load heavy", "spin g 5", "spin cc 5", "spin c -1",
-        "voltage x", "voltage_source sun", "distance moon 5", "distance trip x", "height -1",
-        "field x", "release x", "identity part_number \"open"})
+  for (const char* line : {"fly",
+                           "configuration 6S/3M",
+                           "configuration",
+                           "configuration 2S/1M 4S/2M",
+                           "suspension water",
+                           "axles 0",
+                           "axles 4",
+                           "axles 1.5",
+                           "vehicle boat",
+                           "mounting up",
+                           "lateral_sensor maybe",
+                           "session_timeout -1",
+                           "client_id 128",
+                           "client_id -1",
+                           "adapter colour red",
+                           "adapter device 70000",
+                           "answer nothing x",
+                           "cable loose",
+                           "post 3000000000",
+                           "failure rain",
+                           "failure refuse operation=Fly",
+                           "failure refuse often",
+                           "failure refuse times=0",
+                           "failure refuse times=2x",
+                           "failure refuse colour=red",
+                           "failure refuse block=EOL8",
+                           "failure refuse block=256",
+                           "failure refuse value=x",
+                           "heal rain",
+                           "identity shoe_size 9",
+                           "identity system_name 1234567890123456789",
+                           "identity vehicle_id 1234567890123456789",
+                           "fault x 1 active",
+                           "fault 1 x active",
+                           "fault 1 1 sleeping",
+                           "fault 1 1 active x",
+                           "parameter EOL8 1 1",
+                           "parameter EOL1 0 1",
+                           "parameter EOL1 81 1",
+                           "parameter EOL1 80 1 2",
+                           "parameter EOL1 1 256",
+                           "checksum EOL1 ok",
+                           "checksum 0x99 wrong",
+                           "parameter_error 21-0 on",
+                           "parameter_error 1-8 on",
+                           "parameter_error 1 on",
+                           "parameter_error 1-1 perhaps",
+                           "flag 256",
+                           "word 1 2 3 65536",
+                           "word 256 2 3 1",
+                           "session begin",
+                           "supply -1",
+                           "compressor broken",
+                           "press harder 5",
+                           "press demand x",
+                           "load 1.1",
+                           "load heavy",
+                           "spin g 5",
+                           "spin cc 5",
+                           "spin c -1",
+                           "voltage x",
+                           "voltage_source sun",
+                           "distance moon 5",
+                           "distance trip x",
+                           "height -1",
+                           "field x",
+                           "release x",
+                           "identity part_number \"open"})
     EXPECT_NE(BuildScenario(line).error, "") << line;
 }
 

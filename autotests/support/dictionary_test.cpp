@@ -262,12 +262,12 @@ using SelectLanguageTest = testing_support::ProgramTest;
 
 TEST_F(SelectLanguageTest, StoresTheChoice) {
   Start();
-  const std::string english = program.fault_table.At(1).Name;
+  const std::string english = program.fault_table[1].Name;
   desktop.AnswerChoice(kSpanish);
   Main().SelectLanguage();
   EXPECT_EQ(program.dictionary.Language(), kSpanish);
   EXPECT_EQ(program.settings.GetLanguage(), kSpanish);
-  EXPECT_NE(program.fault_table.At(1).Name, english);
+  EXPECT_NE(program.fault_table[1].Name, english);
 }
 
 TEST_F(SelectLanguageTest, StoresNothingOnACancel) {

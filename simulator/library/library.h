@@ -51,8 +51,8 @@ class Library {
   static constexpr std::chrono::milliseconds kTick{20};
   static constexpr std::chrono::milliseconds kControlPeriod{50};
 
-  void Start();              // with the mutex held
-  void End();                // without
+  void Start();  // with the mutex held
+  void End();    // without
   void Loop();
   void Tick(TimePoint now);  // with the mutex held, as what follows
   void PollControl();

@@ -28,10 +28,10 @@ class Link {
   // Lets `seconds` pass while an operation does not answer.
   using Waiter = std::function<void(double)>;
 
-  static constexpr double kReadingSeconds = 0.1;     // from reading to reading
+  static constexpr double kReadingSeconds = 0.1;  // from reading to reading
   static constexpr double kFirstReadingSeconds = 0.2;
-  static constexpr double kSilenceSeconds = 1.0;     // until, and between, link errors
-  static constexpr double kHealthySeconds = 1.0;     // between statuses of 0
+  static constexpr double kSilenceSeconds = 1.0;  // until, and between, link errors
+  static constexpr double kHealthySeconds = 1.0;  // between statuses of 0
   static constexpr double kStaticReadSeconds = 0.8;
   static constexpr double kStaticGiveUpSeconds = 5;  // with an ECU that stays silent
 

@@ -360,9 +360,8 @@ std::int32_t Link::Trailer_ABS_KWP_WriteMemoryByAddress(std::uint8_t high, std::
   return Serve(Operation::Trailer_ABS_KWP_WriteMemoryByAddress,
                HexByte(high) + ", " + HexByte(middle) + ", " + HexByte(low) + ", " +
                    std::to_string(count) + ", " + HexBytes(bytes),
-               Reach::kEcu, [&] {
-                 return simulation_->trailer.WriteWord(Address(high, middle, low), bytes);
-               });
+               Reach::kEcu,
+               [&] { return simulation_->trailer.WriteWord(Address(high, middle, low), bytes); });
 }
 
 std::int32_t Link::Trailer_ABS_KWP_ReadMemoryByAddress(std::uint8_t high, std::uint8_t middle,

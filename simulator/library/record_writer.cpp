@@ -58,8 +58,7 @@ void RecordWriter::FillLive() {
 void RecordWriter::FillStatic() {
   const VehicleParameters vehicle = simulation_.trailer.Vehicle();
   const auto system = SystemByParameterCode(vehicle.SystemCode());
-  known_.bNumSensors.Store(
-      system ? static_cast<std::uint8_t>(FactsOf(*system).sensors) : 0);
+  known_.bNumSensors.Store(system ? static_cast<std::uint8_t>(FactsOf(*system).sensors) : 0);
   known_.bNumModulators.Store(system ? FactsOf(*system).modulators : 0);
   known_.dControlPressure1.Store(vehicle.Control(0) * kPsiPerCount);
   known_.dControlPressure2.Store(vehicle.Control(1) * kPsiPerCount);

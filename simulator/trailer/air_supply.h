@@ -5,11 +5,12 @@ namespace lorimet::simulator {
 
 class AirSupply {
  public:
-  static constexpr double kCutIn = 100;          // psi
-  static constexpr double kCutOut = 120;         // psi
-  static constexpr double kPumpRate = 2;         // psi a second
-  static constexpr double kLeakRate = 0.02;      // psi a second
-  static constexpr double kUsePerBrakePsi = .03;  // psi of the reservoir for a psi of brake pressure
+  static constexpr double kCutIn = 100;      // psi
+  static constexpr double kCutOut = 120;     // psi
+  static constexpr double kPumpRate = 2;     // psi a second
+  static constexpr double kLeakRate = 0.02;  // psi a second
+  static constexpr double kUsePerBrakePsi =
+      .03;  // psi of the reservoir for a psi of brake pressure
 
   double Pressure() const { return pressure_; }
   bool Pumping() const { return pumping_; }

@@ -18,9 +18,10 @@ double BrakeCharacteristic(const VehicleParameters& vehicle, double control, dou
   const auto control_at = [&](int point) { return vehicle.Control(point) * kPsiPerCount; };
   const auto laden_at = [&](int point) { return vehicle.LadenBraking(point) * kPsiPerCount; };
   if (control <= control_at(0)) return Between(control, 0, 0, control_at(0), laden_at(0));
-  const double laden = control <= control_at(1)
-                           ? Between(control, control_at(0), laden_at(0), control_at(1), laden_at(1))
-                           : Between(control, control_at(1), laden_at(1), control_at(2), laden_at(2));
+  const double laden =
+      control <= control_at(1)
+          ? Between(control, control_at(0), laden_at(0), control_at(1), laden_at(1))
+          : Between(control, control_at(1), laden_at(1), control_at(2), laden_at(2));
   const double unladen = Between(control, control_at(0), laden_at(0), control_at(2),
                                  vehicle.UnladenBraking() * kPsiPerCount);
   return unladen + (laden - unladen) * std::clamp(load, 0.0, 1.0);
@@ -53,9 +54,9 @@ double Brakes::Target(int modulator, const VehicleParameters& vehicle, double lo
   if (mode_ == BrakeMode::kNormal)
     return std::min(supply, BrakeCharacteristic(vehicle, demand_, load));
   const auto& own = channels_[static_cast<std::size_t>(modulator)];
-  const double target = own ? *own
-                            : BrakeCharacteristic(vehicle, channels_[0].value_or(demand_),
-                                                  TestLoad(vehicle, load));
+  const double target =
+      own ? *own
+          : BrakeCharacteristic(vehicle, channels_[0].value_or(demand_), TestLoad(vehicle, load));
   return std::min(supply, target);
 }
 

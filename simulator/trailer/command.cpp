@@ -101,8 +101,8 @@ std::string ToCodePage(std::string_view utf8) {
       continue;
     }
     const bool latin = (byte == 0xC2 || byte == 0xC3) && i + 1 < utf8.size();
-    const unsigned code = latin ? (byte & 3u) << 6 | (static_cast<unsigned char>(utf8[i + 1]) & 0x3F)
-                                : 0;
+    const unsigned code =
+        latin ? (byte & 3u) << 6 | (static_cast<unsigned char>(utf8[i + 1]) & 0x3F) : 0;
     text += code >= 0xA0 ? static_cast<char>(code) : '?';
     while (i + 1 < utf8.size() && (static_cast<unsigned char>(utf8[i + 1]) & 0xC0) == 0x80) ++i;
   }

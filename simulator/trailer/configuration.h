@@ -29,7 +29,8 @@ constexpr std::array<SystemFacts, 5> kSystems = {{
 }};
 
 const SystemFacts& FactsOf(System system);
-// By name ("4S/2M"; "4S/2M+1M" means 2M+1M), or by the code in the parameters; nothing when unknown.
+// By name ("4S/2M"; "4S/2M+1M" means 2M+1M), or by the code in the parameters; nothing when
+// unknown.
 std::optional<System> SystemByName(std::string_view name);
 std::optional<System> SystemByParameterCode(int code);
 
@@ -37,8 +38,8 @@ std::optional<System> SystemByParameterCode(int code);
 struct TrailerSetup {
   System system = System::k4S2M;
   Suspension suspension = Suspension::kAir;
-  int axles = 3;                 // 1 to 3
-  int vehicle_type = 0;          // 0 semi trailer, 1 draw-bar, 2 single axle
+  int axles = 3;         // 1 to 3
+  int vehicle_type = 0;  // 0 semi trailer, 1 draw-bar, 2 single axle
   bool rear_mounted = false;
   bool lateral_sensor = true;    // the modulator holds a lateral acceleration sensor
   double session_timeout = 300;  // seconds without a service until the diagnostic session lapses

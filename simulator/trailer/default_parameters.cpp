@@ -22,19 +22,19 @@ void SetPair(ParameterStore& store, int index, int value) {
 
 // Pressures count 0.1 bar, circumferences 25 mm.
 constexpr IndexedByte kLoadSensing[] = {
-    {38, 10}, {39, 45},  {41, 65},             // control pressures
-    {42, 8},  {43, 40},  {45, 62},  {46, 22},  // braking pressures laden, and unladen
+    {38, 10},  {39, 45},  {41, 65},              // control pressures
+    {42, 8},   {43, 40},  {45, 62},  {46, 22},   // braking pressures laden, and unladen
     {55, 130}, {56, 130}, {58, 100}, {59, 100},  // circumferences, teeth
-    {62, 1},                                   // twin tyres
+    {62, 1},                                     // twin tyres
 };
 
 void SetVehicle(ParameterStore& store, const TrailerSetup& setup) {
   const SystemFacts& facts = FactsOf(setup.system);
   const bool mechanical = setup.suspension == Suspension::kMechanical;
-  store.SetByte(kEol1, 1,
-                static_cast<std::uint8_t>(setup.vehicle_type | facts.parameter_code << 2 |
-                                          (mechanical ? 0x20 : 0) |
-                                          (setup.rear_mounted ? 0x80 : 0)));
+  store.SetByte(
+      kEol1, 1,
+      static_cast<std::uint8_t>(setup.vehicle_type | facts.parameter_code << 2 |
+                                (mechanical ? 0x20 : 0) | (setup.rear_mounted ? 0x80 : 0)));
   const int cd_axle = std::min(1, setup.axles - 1);
   for (int a = 0; a < setup.axles; ++a) {
     SetPair(store, 3 + 6 * a, kUnladenLoad);
@@ -58,7 +58,8 @@ void SetFunctions(ParameterStore& store, const TrailerSetup& setup) {
   store.SetByte(kEol2, 2, one_modulator ? 0 : 0x80);
   store.SetByte(kEol2, 4, mechanical ? 1 : 0);
   store.SetByte(kEol2, 5, mechanical ? 0xA0 : 0xB0);  // Overturn Guard on; air suspension
-  constexpr IndexedByte kEol3Bytes[] = {{1, 15}, {2, 10}, {3, 2}, {33, 7}, {35, 3}, {36, 3}, {38, 1}};
+  constexpr IndexedByte kEol3Bytes[] = {{1, 15}, {2, 10}, {3, 2}, {33, 7},
+                                        {35, 3}, {36, 3}, {38, 1}};
   for (const auto& [index, value] : kEol3Bytes) store.SetByte(kEol3, index, value);
 }
 
@@ -81,7 +82,7 @@ void SetTrailer(ParameterStore& store) {
 }
 
 void SetFunctionBlocks(ParameterStore& store) {
-  constexpr IndexedByte kEmpty[] = {{3, 255}, {4, 255}, {5, 255},  {6, 255},  {7, 255},
+  constexpr IndexedByte kEmpty[] = {{3, 255}, {4, 255},  {5, 255},  {6, 255},  {7, 255},
                                     {8, 255}, {10, 100}, {11, 255}, {47, 255}, {48, 7}};
   for (const BlockFacts& block : kBlocks) {
     if (!block.name.starts_with("FCF")) continue;

@@ -64,8 +64,8 @@ struct Failure {
   FailureMode mode = FailureMode::kRefuse;
   std::optional<Operation> operation = {};  // nothing: every operation
   std::optional<int> block = {};            // a local identifier; nothing: every block
-  double value = 0;                         // what the mode's meaning says; 0: the mode's own default
-  int times = kAlways;                      // how often it strikes
+  double value = 0;     // what the mode's meaning says; 0: the mode's own default
+  int times = kAlways;  // how often it strikes
 };
 
 class FailurePlan {
@@ -75,8 +75,7 @@ class FailurePlan {
   void HealAll() { armed_.clear(); }
 
   // The first armed failure of that mode that fits, counted as one strike; nothing when none does.
-  std::optional<Failure> Strike(FailureMode mode,
-                                std::optional<Operation> operation = std::nullopt,
+  std::optional<Failure> Strike(FailureMode mode, std::optional<Operation> operation = std::nullopt,
                                 std::optional<int> block = std::nullopt);
   // Whether one is armed; no strike.
   bool Armed(FailureMode mode) const;

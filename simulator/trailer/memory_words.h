@@ -8,8 +8,8 @@
 namespace lorimet::simulator {
 
 constexpr std::uint32_t kLoweringPressure = 0x02070E;  // 5120 counts are 14 psi
-constexpr std::uint32_t kLiftingPressure  = 0x020710;
-constexpr std::uint32_t kSpeedThresholds  = 0x020B59;  // turn-off, then turn-on, km/h a byte
+constexpr std::uint32_t kLiftingPressure = 0x020710;
+constexpr std::uint32_t kSpeedThresholds = 0x020B59;  // turn-off, then turn-on, km/h a byte
 
 constexpr std::uint32_t Address(std::uint8_t high, std::uint8_t middle, std::uint8_t low) {
   return std::uint32_t{high} << 16 | std::uint32_t{middle} << 8 | low;

@@ -26,8 +26,8 @@ constexpr std::uint8_t kFcf3 = 0x39;
 struct BlockFacts {
   std::uint8_t id;
   std::string_view name;
-  int size;            // data bytes; the indices are 1 to size
-  int checksum_byte;   // the complaint about a wrong checksum, in the error bytes
+  int size;           // data bytes; the indices are 1 to size
+  int checksum_byte;  // the complaint about a wrong checksum, in the error bytes
   int checksum_bit;
 };
 

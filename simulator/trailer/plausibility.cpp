@@ -120,8 +120,8 @@ void JudgeRanges(const Judge& j) {
 
   bool braking = v.UnladenBraking() > kMaxBrakingCount;
   for (int point = 0; point < 3; ++point)
-    braking = braking || v.Control(point) > kMaxBrakingCount ||
-              v.LadenBraking(point) > kMaxBrakingCount;
+    braking =
+        braking || v.Control(point) > kMaxBrakingCount || v.LadenBraking(point) > kMaxBrakingCount;
   j.SetIf(braking, 14, 4);
   j.SetIf((j.store.Byte(kEol2, 4) & 3) > 1, 14, 7);
 }
@@ -160,8 +160,8 @@ void JudgeFunctions(const Judge& j) {
   }
   bool lift_axle = false;
   for (int a = 0; a < kAxles; ++a) lift_axle = lift_axle || j.vehicle.Lift(a) != 0;
-  const bool lift_function = j.store.Byte(kFcf3, 1) != 0 &&
-                             j.vehicle.Text(kFcf3, 51, 20).starts_with("Lift Axle");
+  const bool lift_function =
+      j.store.Byte(kFcf3, 1) != 0 && j.vehicle.Text(kFcf3, 51, 20).starts_with("Lift Axle");
   j.SetIf(lift_function && !lift_axle, 19, 3);
 }
 

@@ -196,7 +196,7 @@ std::string RunRelease(Simulation& s, const Words& words) {
 std::string RunIdentity(Simulation& s, const Words& words) {
   struct Place {
     std::string_view name;
-    std::string Identity::* text;
+    std::string Identity::*text;
     std::size_t width;
   };
   static constexpr Place kPlaces[] = {
@@ -306,8 +306,7 @@ std::string RunWord(Simulation& s, const Words& words) {
     if (!error.empty()) return error;
   }
   std::string error = Read(words[3], 0, 65535, value);
-  if (error.empty())
-    s.trailer.Memory().Set(Address(address[0], address[1], address[2]), value);
+  if (error.empty()) s.trailer.Memory().Set(Address(address[0], address[1], address[2]), value);
   return error;
 }
 

@@ -27,10 +27,10 @@ struct Simulation {
   FailurePlan failures;
   FieldOverrides fields;
   AdapterDemands adapter;
-  std::optional<std::string> answered_vendor;    // written over the text given to Connect
+  std::optional<std::string> answered_vendor;  // written over the text given to Connect
   std::optional<std::string> answered_protocol;
   std::int32_t client_id = 0;
-  std::vector<std::int32_t> statuses;            // to be posted at the next chance
+  std::vector<std::int32_t> statuses;  // to be posted at the next chance
 };
 
 }  // namespace lorimet::simulator

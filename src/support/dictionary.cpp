@@ -81,8 +81,10 @@ BoxButton Dictionary::ShowMessageBox(const std::string& text, const std::string&
 
 std::optional<int> Dictionary::ChooseLanguage() {
   // In their own words, so that each reader finds the own language.
+  const bool listed = language_ >= 0 && language_ < kLanguageCount;
   return desktop_.ChooseFromList(Translate("Language"),
-                                 {"Native", "français", "English", "Español"}, language_);
+                                 {"Native", "français", "English", "Español"},
+                                 listed ? language_ : int{kNative});
 }
 
 }  // namespace lorimet

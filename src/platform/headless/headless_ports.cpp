@@ -86,7 +86,7 @@ std::int32_t MemoryRegistry::CreateKey(RegistryHive hive, const std::string& pat
   if (create_answer != kRegSuccess) return create_answer;
   keys_[{hive, Lower(path)}];
   open_answer = kRegSuccess;
-  return OpenKey(hive, path, access, key);
+  return MemoryRegistry::OpenKey(hive, path, access, key);
 }
 
 void MemoryRegistry::CloseKey(RegistryKey key) {

@@ -211,7 +211,8 @@ void QtFormView::Show(bool modal, Form* owner) {
   if (window_ == nullptr) return;
   const QtDesktop::QuietScope quiet(desktop_.quiet_);
   const QPointer<QtFormView> alive(this);
-  if (!window_->isVisible()) {
+  const bool was_visible = window_->isVisible();
+  if (!was_visible) {
     window_->setWindowModality(modal ? Qt::ApplicationModal : Qt::NonModal);
     FitToContents();
     QWidget* parent = owner != nullptr ? desktop_.Window(*owner) : nullptr;
@@ -224,7 +225,8 @@ void QtFormView::Show(bool modal, Form* owner) {
   if (window_->isMinimized()) window_->setWindowState(window_->windowState() & ~Qt::WindowMinimized);
   window_->show();
   if (!alive) return;
-  window_->raise();
+  // A window that is new on the screen is on top already.
+  if (was_visible) window_->raise();
   window_->activateWindow();
   Measure();
   told_size_ = window_->size();

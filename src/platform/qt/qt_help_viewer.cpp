@@ -72,8 +72,8 @@ void QtHelpViewer::Show(const std::string& help_file, HelpCommand command,
     window_->winId();
     window_->windowHandle()->setTransientParent(modal->windowHandle());
   }
+  if (window_->isVisible()) window_->raise();
   window_->show();
-  window_->raise();
   window_->activateWindow();
   if (command == HelpCommand::kPartialKey)
     window_->ShowSearch(ToQString(key));

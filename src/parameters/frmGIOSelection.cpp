@@ -1,0 +1,63 @@
+#include "parameters/frmGIOSelection.h"
+
+#include "parameters/frmGIOSpecial.h"
+#include "parameters/frmLiftAxlePressures.h"
+#include "parameters/frmOVGParm1.h"
+#include "parameters/frmOVGParm2.h"
+#include "parameters/function_blocks.h"
+#include "parameters/gio_functions.h"
+#include "support/dictionary.h"
+
+namespace lorimet {
+
+frmGIOSelection::frmGIOSelection(const WizardParts& parts)
+    : Form(parts.desktop, "frmGIOSelection"), parts_(parts) {
+  chkGIO.OnClick([this](int index) { OnFunction(index); });
+  cmdNext.on_click = [this] { OnNext(); };
+  cmdPrev.on_click = [this] {
+    Unload();
+    ContinueWith(*parts_.pages.system);
+  };
+  cmdClose.on_click = [this] { OnClose(); };
+}
+
+void frmGIOSelection::OnLoad() {
+  parts_.dictionary.TranslateForm(*this);
+  CenterOnScreen();
+  ParameterImage& image = parts_.image;
+  ResetFunctionBlocks(image);
+  image.EOL5(83) = 0;
+  image.EOL5(84) = 0;
+  image.EOL3(35) = 3;
+  image.EOL3(36) = 3;
+  image.EOL3(38) = 1;
+  chkGIO[kGioDoorAjar].SetEnabled(false);
+  chkGIO[kGioTagAxle].SetToolTipText(
+      parts_.dictionary.Translate("GIO3, single port Y-cable, P/N 310 662 517 0"));
+  chkGIO[kGioLiftAxle].SetToolTipText(
+      parts_.dictionary.Translate("GIO1, single port Y-cable, P/N 310 662 517 0"));
+}
+
+void frmGIOSelection::OnFunction(int index) {
+  if (!chkGIO[index].Value()) return;
+  if (index == kGioLiftAxle) parts_.pages.lift_axle->Show(Modality::kModal, this);
+  if (index == kGioSpecial) parts_.pages.special_gio->Show(Modality::kModal, this);
+}
+
+void frmGIOSelection::OnNext() {
+  SetMousePointer(MousePointer::kHourglass);
+  GioChoice chosen{};
+  for (int i = 0; i < kGioFunctionCount; ++i)
+    chosen[static_cast<std::size_t>(i)] = chkGIO[i].Value();
+  ApplyGioFunctions(chosen, parts_.image);
+  SetMousePointer(MousePointer::kDefault);
+  Hide();
+  ContinueWith(*parts_.pages.load_sensing);
+}
+
+void frmGIOSelection::OnClose() {
+  parts_.pages.system->Unload();
+  Unload();
+}
+
+}  // namespace lorimet

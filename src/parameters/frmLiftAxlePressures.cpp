@@ -1,0 +1,74 @@
+#include "parameters/frmLiftAxlePressures.h"
+
+#include "parameters/memory_word.h"
+#include "parameters/parm_block.h"
+#include "support/dictionary.h"
+#include "support/numbers.h"
+
+namespace lorimet {
+namespace {
+
+constexpr MemoryAddress kLoweringAddress{2, 7, 0x0E};
+constexpr MemoryAddress kLiftingAddress{2, 7, 0x10};
+constexpr double kCounts = 5120;  // are 14 psi
+constexpr double kPsi = 14;
+constexpr int kLeastDifference = 5;  // psi
+constexpr int kLoweringIndex = 16;   // of FCF1, high byte first
+constexpr int kLiftingIndex = 18;
+
+std::string PressureOf(const MemoryWord& word, const char* unknown) {
+  if (word.first == 0 && word.second == 0) return unknown;
+  return FormatNumber((word.first * 256 + word.second) / kCounts * kPsi, "#0");
+}
+
+std::int16_t WholePsi(const TextBox& field) { return ToInteger(StrictNumber(field.Text())); }
+
+}  // namespace
+
+frmLiftAxlePressures::frmLiftAxlePressures(const WizardParts& parts)
+    : Form(parts.desktop, "frmLiftAxlePressures"), parts_(parts), checks_(*this, parts.dictionary) {
+  checks_.Watch(txtLiftingPress, 1, 100,
+                "Lifting Pressure out of range.  Valid range : 0 - 100 psi");
+  checks_.Watch(txtLoweringPress, 1, 100,
+                "Lowering Pressure out of range.  Valid range : 0 - 100 psi");
+  Command1.on_click = [this] {
+    if (checks_.Accept()) OnAccept();
+  };
+}
+
+void frmLiftAxlePressures::OnLoad() {
+  parts_.dictionary.TranslateForm(*this);
+  CenterOnScreen();
+  txtLoweringPress.SetText(PressureOf(ReadMemoryWord(parts_.link, kLoweringAddress, 2), "43"));
+  txtLiftingPress.SetText(PressureOf(ReadMemoryWord(parts_.link, kLiftingAddress, 1), "29"));
+}
+
+void frmLiftAxlePressures::OnAccept() {
+  const std::int16_t lowering = WholePsi(txtLoweringPress);
+  const std::int16_t lifting = WholePsi(txtLiftingPress);
+  if (lifting > lowering) {
+    ShowPlainMessage(*this, parts_.dictionary,
+                     "Lifting Pressure must be less than Lowering Pressure.", "Invalid Values");
+    txtLiftingPress.SetFocus();
+    return;
+  }
+  if (lowering - lifting < kLeastDifference) {
+    ShowPlainMessage(*this, parts_.dictionary,
+                     "Lifting Pressure and Lowering Pressure must differ by more than 5 psi.",
+                     "Invalid Values");
+    return;
+  }
+  Store(lowering, kLoweringIndex);
+  Store(lifting, kLiftingIndex);
+  Unload();
+}
+
+// Error 6 from 90 psi on, whose counts do not fit.
+void frmLiftAxlePressures::Store(std::int16_t psi, int index) {
+  const std::int16_t counts = ToInteger(psi / kPsi * kCounts);
+  ParmBlock& block = parts_.image.FCF[0];
+  block(index) = ToByte(counts / 256);
+  block(index + 1) = ToByte(counts % 256);
+}
+
+}  // namespace lorimet

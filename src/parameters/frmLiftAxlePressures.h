@@ -1,0 +1,33 @@
+// The dialog of the pressures at which the lift axle is lowered and lifted.
+#pragma once
+
+#include <cstdint>
+
+#include "parameters/range_check.h"
+#include "parameters/wizard.h"
+#include "platform/forms.h"
+
+namespace lorimet {
+
+class frmLiftAxlePressures : public Form {
+ public:
+  explicit frmLiftAxlePressures(const WizardParts& parts);
+
+  Label lblLoweringPress{*this, "lblLoweringPress"};
+  TextBox txtLoweringPress{*this, "txtLoweringPress"};
+  Label lblLiftingPress{*this, "lblLiftingPress"};
+  TextBox txtLiftingPress{*this, "txtLiftingPress"};
+  Button Command1{*this, "Command1"};
+
+ protected:
+  void OnLoad() override;
+
+ private:
+  void OnAccept();
+  void Store(std::int16_t psi, int index);
+
+  WizardParts parts_;
+  RangeChecks checks_;
+};
+
+}  // namespace lorimet

@@ -1,0 +1,31 @@
+// The dialog of the vehicle speeds at which the speed switch turns on and off.
+#pragma once
+
+#include "parameters/range_check.h"
+#include "parameters/wizard.h"
+#include "platform/forms.h"
+
+namespace lorimet {
+
+class frmSpeedSwitchThresh : public Form {
+ public:
+  explicit frmSpeedSwitchThresh(const WizardParts& parts);
+
+  Label lblTurnOnThresh{*this, "lblTurnOnThresh"};
+  TextBox txtTurnOnThresh{*this, "txtTurnOnThresh"};
+  Label lblTurnOffThresh{*this, "lblTurnOffThresh"};
+  TextBox txtTurnOffThresh{*this, "txtTurnOffThresh"};
+  Label lblNote{*this, "lblNote"};
+  Button Command1{*this, "Command1"};
+
+ protected:
+  void OnLoad() override;
+
+ private:
+  void OnAccept();
+
+  WizardParts parts_;
+  RangeChecks checks_;
+};
+
+}  // namespace lorimet
