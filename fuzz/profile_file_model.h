@@ -172,7 +172,7 @@ inline std::string Read(const std::optional<std::string>& file, const std::strin
 
 inline std::string Write(const std::optional<std::string>& file, const std::string& section,
                          const std::string& key, const std::string& value) {
-  const std::string before = file.value_or("");
+  std::string before = file.value_or("");
   std::vector<Line> lines = Lines(Decode(before));
   const auto insert = [&](std::size_t at, const Units& text) {
     if (at > 0 && lines[at - 1].end.empty()) lines[at - 1].end = U"\r\n";

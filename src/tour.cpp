@@ -142,6 +142,7 @@ class Tour {
   // --- The plan.
   void Plan() {
     Text("txtOdom", [](const QString& text) { return text.contains(QChar('.')); });
+    WhenShown("frmZeltMain", [] { Window("frmZeltMain")->resize(1000, 640); });
     Pause(2500);  // the lamp check ends, the pressure settles
     Picture("frmZeltMain", "main");
     LinkTrouble();
@@ -189,7 +190,7 @@ class Tour {
     Press("frmOVGParm3", "cmdSaveToFile");
     WhenShown("dlgFile", [this] {
       auto* dialog = qobject_cast<QFileDialog*>(Window("dlgFile"));
-      dialog->selectFile(folder_ + "/trailer.ecu");
+      dialog->findChild<QLineEdit*>()->setText(folder_ + "/trailer.ecu");
       QMetaObject::invokeMethod(dialog, "accept");
     });
     Picture("msgBox", "parameters-saved-to-file");

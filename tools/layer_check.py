@@ -14,7 +14,8 @@ The floors, the lowest first; a file includes its own folder and the floors belo
     program     src/program.*          composes records and forms from ports
     adapters    src/platform/{qt,windows,posix,headless}   use any floor of the core but program,
                                        and never one another
-    roots       src/main.cpp, src/tour.cpp                 know everybody
+    roots       src/main.cpp, src/tour.cpp, and src/desktop_program.*, which makes the adapters for
+                both; they know everybody, and nobody includes them
 
 What is checked, with the word that a finding begins with:
 
@@ -62,7 +63,7 @@ FLOORS = {
 }
 ADAPTERS = ("qt", "windows", "posix", "headless")
 ACROSS = {("parameters", "faults")}
-ROOTS = ("main.cpp", "tour.cpp")
+ROOTS = ("main.cpp", "tour.cpp", "desktop_program.h", "desktop_program.cpp")
 SIMULATOR_MAY_USE = {"src/session/ecu_data.h", "src/session/lorimet32.h"}
 SOURCE_FOLDERS = ("src", "simulator", "autotests", "benchmarks", "fuzz")
 
@@ -324,17 +325,13 @@ def reachable(tree, file):
 
 
 def drawn_controls(path):
-    """(the window's name, names of the controls in a .ui file)."""
+    """(the window's name, the widgets and actions of a .ui file, those of them that are named as
+    controls are)."""
     top = xml.etree.ElementTree.parse(path).getroot().find("widget")
-    names = []
-    for element in top.iter():
-        name = element.get("name", "")
-        if (element is top or element.tag not in ("widget", "action") or
-                element.get("class") in BARS or not CONTROL_NAME.match(name) or
-                DECORATION.match(name)):
-            continue
-        names.append(name)
-    return top.get("name"), names
+    elements = [e for e in top.iter() if e.tag in ("widget", "action") and e is not top]
+    controls = [e.get("name", "") for e in elements if e.get("class") not in BARS]
+    controls = [n for n in controls if CONTROL_NAME.match(n) and not DECORATION.match(n)]
+    return top.get("name"), [e.get("name", "") for e in elements], controls
 
 
 def check_ui(tree):
@@ -348,7 +345,7 @@ def check_ui(tree):
             yield f"{ui}:1: ui: the form has no class beside it"
             continue
         try:
-            window, drawn = drawn_controls(tree.root / ui)
+            window, drawn, controls = drawn_controls(tree.root / ui)
         except (xml.etree.ElementTree.ParseError, AttributeError) as error:
             yield f"{ui}:1: ui: cannot be read: {error}"
             continue
@@ -362,7 +359,7 @@ def check_ui(tree):
         for name in sorted({n for n in drawn if drawn.count(n) > 1}):
             yield f"{ui}:1: ui: {name} is drawn twice"
         extents = tuple(word.split(":")[0] + "_" for word in unknown)
-        for name in sorted(set(drawn) - set(declared)):
+        for name in sorted(set(controls) - set(declared)):
             if not (extents and name.startswith(extents)):
                 yield f"{ui}:1: ui: {Path(ui).stem} does not own {name}"
         for name in sorted(set(declared) - set(drawn)):

@@ -159,6 +159,13 @@ class LayerCheckTest(unittest.TestCase):
         self.write("src/reports/b.h", "")
         self.assert_clean()
 
+    def test_no_floor_includes_a_root(self):
+        self.include("src/reports/a.cpp", "desktop_program.h", "src/desktop_program.h")
+        self.assert_finds("src/reports/a.cpp:1: up")
+        self.include("src/reports/a.cpp", "vector")
+        self.include("src/main.cpp", "desktop_program.h", "src/desktop_program.h")
+        self.assert_clean()
+
     def test_nothing_in_src_includes_the_simulator(self):
         for name in ("src/session/a.cpp", "src/platform/qt/a.cpp", "src/tour.cpp"):
             with self.subTest(name):
@@ -249,6 +256,10 @@ class LayerCheckTest(unittest.TestCase):
     def test_a_control_that_is_not_drawn_is_found(self):
         self.screen(['TextBox txtSupply{*this, "txtSupply"};'])
         self.assert_finds("src/tests/frmPage.h:1: ui", "txtSupply is not drawn")
+
+    def test_a_control_of_an_unusual_name_is_drawn_all_the_same(self):
+        self.screen(['Frame LeverFrame{*this, "LeverFrame"};'], "QGroupBox LeverFrame")
+        self.assert_clean()
 
     def test_a_gap_in_an_array_is_found(self):
         self.screen(['ControlArray<Label> lblRow{*this, "lblRow", 3};'],

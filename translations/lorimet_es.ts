@@ -2329,5 +2329,17 @@ frenado&#13;
         <source>Repair instruction not available for the current fault.</source>
         <translation>Instrucción de reparación no disponible para el fallo actual.</translation>
     </message>
+    <message>
+        <source>Axle Loads and Pressures</source>
+        <translation>Cargas por eje y presiones</translation>
+    </message>
+    <message>
+        <source>Trailer</source>
+        <translation>Remolque</translation>
+    </message>
+    <message>
+        <source>Tires and Pole Wheels</source>
+        <translation>Neumáticos y coronas dentadas</translation>
+    </message>
 </context>
 </TS>

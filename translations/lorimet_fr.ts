@@ -2329,5 +2329,17 @@ freinage&#13;
         <source>Repair instruction not available for the current fault.</source>
         <translation>Instruction de réparation non disponible pour le défaut actuel.</translation>
     </message>
+    <message>
+        <source>Axle Loads and Pressures</source>
+        <translation>Charges par essieu et pressions</translation>
+    </message>
+    <message>
+        <source>Trailer</source>
+        <translation>Remorque</translation>
+    </message>
+    <message>
+        <source>Tires and Pole Wheels</source>
+        <translation>Pneus et couronnes dentées</translation>
+    </message>
 </context>
 </TS>

@@ -31,6 +31,12 @@ Q_GUI_EXPORT bool qt_sendShortcutOverrideEvent(QObject* object, ulong timestamp,
                                                Qt::KeyboardModifiers modifiers,
                                                const QString& text = QString(),
                                                bool autorepeat = false, ushort count = 1);
+
+// The toolkit's friend that makes an event look as if it came from the window system.
+class QSpontaneKeyEvent {
+ public:
+  static void SetSpontaneous(QEvent& event) { event.m_spont = true; }
+};
 QT_END_NAMESPACE
 
 namespace lorimet {
@@ -178,15 +184,19 @@ void DesktopTest::Pump() {
   }
 }
 
+void DesktopTest::Send(QWidget* widget, QEvent& event) {
+  QSpontaneKeyEvent::SetSpontaneous(event);
+  qApp->notify(widget, &event);
+}
+
 namespace {
 
 void SendMouse(QWidget* widget, QEvent::Type type) {
-  const QPointer<QWidget> alive(widget);
   const QPointF place = widget->rect().center();
   QMouseEvent event(type, place, widget->mapToGlobal(place), Qt::LeftButton,
                     type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton,
                     Qt::NoModifier);
-  QCoreApplication::sendEvent(widget, &event);
+  DesktopTest::Send(widget, event);
 }
 
 }  // namespace
@@ -208,9 +218,9 @@ void DesktopTest::Press(QWidget* widget, int key, Qt::KeyboardModifiers modifier
   const QPointer<QWidget> alive(widget);
   if (qt_sendShortcutOverrideEvent(widget, 0, key, modifiers, text)) return;
   QKeyEvent press(QEvent::KeyPress, key, modifiers, text);
-  if (alive) QCoreApplication::sendEvent(widget, &press);
+  if (alive) Send(widget, press);
   QKeyEvent release(QEvent::KeyRelease, key, modifiers, text);
-  if (alive) QCoreApplication::sendEvent(widget, &release);
+  if (alive) Send(widget, release);
 }
 
 void DesktopTest::Type(QWidget* widget, const QString& text) {

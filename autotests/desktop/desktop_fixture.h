@@ -17,8 +17,7 @@
 #include "platform/forms.h"
 #include "platform/qt/qt_desktop.h"
 
-class QAction;
-class QDialog;
+class QEvent;
 
 namespace lorimet {
 
@@ -64,6 +63,10 @@ QWidget* BuildSampleWindow(QWidget* parent);
 QWidget* BuildSampleDialog(QWidget* parent);
 
 class DesktopTest : public testing::Test {
+ public:
+  // Delivers an event as the window system does.
+  static void Send(QWidget* widget, QEvent& event);
+
  protected:
   DesktopTest();
   ~DesktopTest() override;

@@ -41,7 +41,7 @@ class GridTest : public DesktopTest {
       QMouseEvent event(type, place, viewport->mapToGlobal(place), Qt::LeftButton,
                         type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton,
                         Qt::NoModifier);
-      QCoreApplication::sendEvent(viewport, &event);
+      Send(viewport, event);
     }
   }
 

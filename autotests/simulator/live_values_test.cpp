@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <cmath>
 #include <cstdio>
 
 #include "autotests/simulator/link_fixture.h"
@@ -180,7 +181,7 @@ TEST_F(LiveValuesTest, TheTestModeDeliversThePromiseOfTheParametersAtEveryPoint)
   OpenParameters();
   ASSERT_EQ(Routine(0x37, {0, 0, 2}), 0);
   const auto set = [&](std::uint8_t channel, double psi) {
-    const auto counts = static_cast<unsigned>(psi / 14.5 * 5120 + 0.5);
+    const auto counts = static_cast<unsigned>(std::lround(psi / 14.5 * 5120));
     const auto low = static_cast<std::uint8_t>(counts & 0xFF);
     const auto high = static_cast<std::uint8_t>(counts >> 8);
     EXPECT_EQ(Routine(0x06, {channel, low, high, low, high, 0xE8, 0x03}), 0);

@@ -12,9 +12,7 @@ namespace {
 
 constexpr std::int64_t kStep = 10000;  // microseconds
 
-constexpr std::int64_t Microseconds(double seconds) {
-  return static_cast<std::int64_t>(seconds * 1e6 + 0.5);
-}
+std::int64_t Microseconds(double seconds) { return std::llround(seconds * 1e6); }
 
 }  // namespace
 

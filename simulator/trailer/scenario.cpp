@@ -271,7 +271,7 @@ std::string RunParameter(Simulation& s, const Words& words) {
 
 std::string RunChecksum(Simulation& s, const Words& words) {
   std::uint8_t id = 0;
-  const std::string error = ReadBlockId(words[0], id);
+  std::string error = ReadBlockId(words[0], id);
   if (!error.empty()) return error;
   if (FindBlock(id) == nullptr) return BadValue(words[0]);
   if (words[1] != "wrong") return BadValue(words[1]);

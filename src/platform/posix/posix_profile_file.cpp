@@ -36,7 +36,7 @@ std::int64_t FileClock() {
 
 std::string FolderOf(const std::string& path) {
   const auto slash = path.rfind('/');
-  if (slash == path.npos) return ".";
+  if (slash == std::string::npos) return ".";
   return slash == 0 ? "/" : path.substr(0, slash);
 }
 
@@ -167,7 +167,7 @@ void PosixProfileFile::Refresh() {
 
 PosixProfileFile::State PosixProfileFile::ReadFile(std::string& bytes) {
   settled_ = false;
-  if (path_.empty() || path_.find('\0') != path_.npos) return State::kUnusable;
+  if (path_.empty() || path_.find('\0') != std::string::npos) return State::kUnusable;
   struct stat status = {};
   if (stat(path_.c_str(), &status) != 0)
     return errno == ENOENT ? State::kMissing : State::kUnusable;

@@ -62,7 +62,7 @@ std::u16string Folded(std::u16string_view name) {
 
 std::u16string_view Trimmed(std::u16string_view text) {
   const auto first = text.find_first_not_of(kBlanks);
-  if (first == text.npos) return {};
+  if (first == std::u16string_view::npos) return {};
   return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
 }
 
@@ -102,7 +102,7 @@ struct KeyLine {
 
 std::optional<KeyLine> ParseKey(std::u16string_view line) {
   const auto equals = line.find(u'=');
-  if (equals == line.npos || Trimmed(line).starts_with(u';')) return {};
+  if (equals == std::u16string_view::npos || Trimmed(line).starts_with(u';')) return {};
   std::u16string_view value = line.substr(equals + 1);
   value = value.substr(0, value.find_first_of(std::u16string_view(u"\0\r\n", 3)));
   return KeyLine{Trimmed(line.substr(0, equals)), Trimmed(value)};
@@ -121,7 +121,9 @@ std::u16string KeyText(std::u16string_view name, std::u16string_view value) {
   return line += kNewLine;
 }
 
-bool BreaksLines(std::u16string_view text) { return text.find_first_of(kNewLine) != text.npos; }
+bool BreaksLines(std::u16string_view text) {
+  return text.find_first_of(kNewLine) != std::u16string_view::npos;
+}
 
 }  // namespace
 
@@ -173,7 +175,7 @@ void ProfileText::Parse() {
         found->second = std::prev(pieces_.end());
       }
     }
-    if (line.find_first_not_of(kFillers) != line.npos) section_end = end;
+    if (line.find_first_not_of(kFillers) != std::u16string_view::npos) section_end = end;
     begin = end;
   }
   close_section();

@@ -94,6 +94,7 @@ std::uintptr_t QtDesktop::NativeWindow(Form& form) {
 
 void QtDesktop::Run() {
   if (LoadedForms().empty()) return;
+  const LoopScope scope(*this);
   QEventLoop loop;
   main_loop_ = &loop;
   loop.exec();
@@ -101,6 +102,7 @@ void QtDesktop::Run() {
 }
 
 void QtDesktop::RunModal(Form& form) {
+  const LoopScope scope(*this);
   QEventLoop loop;
   modal_loops_.push_back({&form, &loop});
   // A form that is hidden and shown again goes on; an application that quits ends all loops.
@@ -115,7 +117,7 @@ void QtDesktop::FormHidden(const Form& form) {
 }
 
 void QtDesktop::DoEvents() {
-  Flush();
+  const LoopScope scope(*this);
   const std::int64_t start = Microseconds();
   QCoreApplication::processEvents(QEventLoop::AllEvents, kDoEventsMilliseconds);
   const std::int64_t end = Microseconds();
@@ -149,9 +151,11 @@ int QtDesktop::ScreenHeight() const {
 // --- Events ------------------------------------------------------------------------------------
 
 void QtDesktop::RunEvent(const std::function<void()>& handler) {
+  // An event that code raises within another one is part of it.
+  const CountScope depth(event_depth_);
   try {
     handler();
-    Flush();
+    if (event_depth_ == 1) Flush();
   } catch (const RuntimeError& error) {
     Fail(error);
   } catch (const std::exception& error) {
@@ -192,18 +196,18 @@ void QtDesktop::TellFocus() {
 // --- Dialogs -----------------------------------------------------------------------------------
 
 BoxButton QtDesktop::ShowMessageBox(const MessageBox& box) {
-  Flush();
+  const LoopScope scope(*this);
   return RunMessageBox(box, TopWindow());
 }
 
 std::optional<std::string> QtDesktop::ShowFileDialog(const FileDialog& dialog) {
-  Flush();
+  const LoopScope scope(*this);
   return RunFileDialog(dialog, TopWindow());
 }
 
 std::optional<int> QtDesktop::ChooseFromList(const std::string& title,
                                              const std::vector<std::string>& items, int selected) {
-  Flush();
+  const LoopScope scope(*this);
   return RunListDialog(title, items, selected, TopWindow());
 }
 

@@ -1,14 +1,13 @@
 // The desktop on Qt Widgets: a window for each loaded form, bound to its controls by name.
 #pragma once
 
-#include <QPointer>
-
 #include <cstdint>
 #include <functional>
 #include <map>
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "platform/desktop.h"
@@ -56,17 +55,31 @@ class QtDesktop : public Desktop {
  private:
   friend class QtFormView;
 
-  // While one stands, changes of the focus are kept back until the event loop runs again: they come
-  // from the mirroring, and their handlers may unload the form that is being mirrored.
-  class QuietScope {
+  class CountScope {
    public:
-    explicit QuietScope(int& depth) : depth_(depth) { ++depth_; }
-    ~QuietScope() { --depth_; }
-    QuietScope(const QuietScope&) = delete;
-    QuietScope& operator=(const QuietScope&) = delete;
+    explicit CountScope(int& depth) : depth_(depth) { ++depth_; }
+    ~CountScope() { --depth_; }
+    CountScope(const CountScope&) = delete;
+    CountScope& operator=(const CountScope&) = delete;
 
    private:
     int& depth_;
+  };
+  // While one stands, an event loop runs: what happens in it is an event of its own, whatever event
+  // is waiting below.
+  class LoopScope {
+   public:
+    explicit LoopScope(QtDesktop& desktop)
+        : desktop_(desktop), depth_(std::exchange(desktop.event_depth_, 0)) {
+      desktop.Flush();
+    }
+    ~LoopScope() { desktop_.event_depth_ = depth_; }
+    LoopScope(const LoopScope&) = delete;
+    LoopScope& operator=(const LoopScope&) = delete;
+
+   private:
+    QtDesktop& desktop_;
+    int depth_;
   };
   struct ModalLoop {
     const Form* form;
@@ -89,7 +102,10 @@ class QtDesktop : public Desktop {
   std::vector<QtFormView*> views_;
   std::vector<ModalLoop> modal_loops_;
   QEventLoop* main_loop_ = nullptr;
+  int event_depth_ = 0;
   int mirroring_ = 0;
+  // Above 0, changes of the focus are kept back until the event loop runs again: their handlers may
+  // unload the very form that is being mirrored, shown or hidden.
   int quiet_ = 0;
   bool focus_pending_ = false;
   bool failed_ = false;

@@ -124,8 +124,8 @@ void QtFormView::Changed(Control* control) {
 
 void QtFormView::Flush() {
   if (window_ == nullptr || (changed_.empty() && !form_changed_)) return;
-  const QtDesktop::QuietScope mirroring(desktop_.mirroring_);
-  const QtDesktop::QuietScope quiet(desktop_.quiet_);
+  const QtDesktop::CountScope mirroring(desktop_.mirroring_);
+  const QtDesktop::CountScope quiet(desktop_.quiet_);
   const std::vector<Control*> controls = std::exchange(changed_, {});
   bool words_changed = false;
   for (Control* control : controls) {
@@ -209,7 +209,7 @@ void QtFormView::FitToContents() {
 
 void QtFormView::Show(bool modal, Form* owner) {
   if (window_ == nullptr) return;
-  const QtDesktop::QuietScope quiet(desktop_.quiet_);
+  const QtDesktop::CountScope quiet(desktop_.quiet_);
   const QPointer<QtFormView> alive(this);
   const bool was_visible = window_->isVisible();
   if (!was_visible) {
@@ -233,7 +233,7 @@ void QtFormView::Show(bool modal, Form* owner) {
 }
 
 void QtFormView::Hide() {
-  const QtDesktop::QuietScope quiet(desktop_.quiet_);
+  const QtDesktop::CountScope quiet(desktop_.quiet_);
   if (window_ != nullptr) window_->hide();
   desktop_.FormHidden(form_);
 }
@@ -293,7 +293,7 @@ bool QtFormView::WidgetEvent(QWidget& widget, QEvent& event) {
     case QEvent::KeyPress:
       return KeyPressed(widget, static_cast<QKeyEvent&>(event));
     case QEvent::MouseButtonPress:
-      return FocusRefused(widget);
+      return event.spontaneous() && FocusRefused(widget);
     case QEvent::MouseButtonRelease: {
       const QPointer<QtFormView> alive(this);
       MouseReleased(widget, static_cast<QMouseEvent&>(event));

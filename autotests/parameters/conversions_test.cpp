@@ -1,0 +1,157 @@
+// The conversions between a parameter byte and the screen.
+#include "parameters/conversions.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <functional>
+#include <string>
+#include <tuple>
+#include <vector>
+
+namespace lorimet {
+namespace {
+
+int ErrorOf(const std::function<void()>& action) {
+  try {
+    action();
+  } catch (const RuntimeError& error) {
+    return error.Number();
+  }
+  return 0;
+}
+
+TEST(Conversions, PressuresAreShownInWholePsi) {
+  EXPECT_EQ(PressureText(0), "0");
+  EXPECT_EQ(PressureText(7), "10");     // 10.157
+  EXPECT_EQ(PressureText(48), "70");    // 69.648
+  EXPECT_EQ(PressureText(255), "370");  // 370.005
+  EXPECT_EQ(PressureTextPmAn(255), "370");
+  EXPECT_EQ(ControlPressureText(65), "94");  // 94.315
+}
+
+// An independent way to the same: exact thousandths, rounded half up.
+TEST(Conversions, EveryByteShowsItsProductRounded) {
+  for (int byte = 0; byte <= 255; ++byte) {
+    const std::string expected = std::to_string((byte * 1451 + 500) / 1000);
+    const auto b = static_cast<std::uint8_t>(byte);
+    EXPECT_EQ(PressureText(b), expected) << byte;
+    EXPECT_EQ(PressureTextPmAn(b), expected) << byte;
+    EXPECT_EQ(ControlPressureText(b), expected) << byte;
+  }
+}
+
+TEST(Conversions, TheTwoWaysBackDiffer) {
+  EXPECT_EQ(UnladenSuspensionByte("37"), 26);  // 25.53
+  EXPECT_EQ(PressureByte("37"), 25);           // 25.499...
+}
+
+TEST(Conversions, HalvesGoToTheEvenNeighbour) {
+  EXPECT_EQ(TeethByte("2.5"), 2);
+  EXPECT_EQ(TeethByte("3.5"), 4);
+  EXPECT_EQ(TyreByte("62.5"), 2);
+  EXPECT_EQ(TyreByte("87.5"), 4);
+  EXPECT_EQ(UnladenSuspensionByte("50"), 34);  // 34.5
+}
+
+TEST(Conversions, DriftIsAtMostOneCount) {
+  for (int byte = 0; byte <= 255; ++byte) {
+    const auto b = static_cast<std::uint8_t>(byte);
+    EXPECT_LE(std::abs(PressureByte(PressureText(b)) - byte), 1) << byte;
+  }
+}
+
+TEST(Conversions, TyresCountTwentyFiveMillimetres) {
+  EXPECT_EQ(TyreText(130), "3250");
+  EXPECT_EQ(TyreByte("3250"), 130);
+  EXPECT_EQ(TyreByte("3260"), 130);
+  EXPECT_EQ(TyreByte("3263"), 131);
+}
+
+TEST(Conversions, LengthsArePairsOfTenths) {
+  EXPECT_EQ(LengthText(4, 210), "123.4");
+  EXPECT_EQ(LengthText(0, 0), "0");
+  EXPECT_EQ(LengthText(255, 255), "6553.5");
+  const BytePair pair = LengthPair("123.4");
+  EXPECT_EQ(pair.high, 4);
+  EXPECT_EQ(pair.low, 210);
+  EXPECT_EQ(LengthPair("0.05").low, 0);  // half a tenth goes to the even one
+  EXPECT_EQ(LengthPair("0.15").low, 2);
+}
+
+TEST(Conversions, EveryTenthPairReadsBack) {
+  for (int tenths = 0; tenths <= 65535; tenths += 7) {
+    const auto high = static_cast<std::uint8_t>(tenths / 256);
+    const auto low = static_cast<std::uint8_t>(tenths % 256);
+    const BytePair pair = LengthPair(LengthText(high, low));
+    ASSERT_EQ(pair.high, high) << tenths;
+    ASSERT_EQ(pair.low, low) << tenths;
+  }
+}
+
+TEST(Conversions, AxleLoadsTakeTheLeadingNumberOfAText) {
+  const std::vector<std::tuple<std::string, int, int>> rows = {
+      {"9000", 35, 40}, {"", 0, 0},        {"abc", 0, 0},      {" 256 kg", 1, 0},
+      {"4096", 16, 0},  {"255.5", 0, 256}, {"25000", 97, 168},
+  };
+  for (const auto& [text, high, low] : rows) {
+    if (low > 255) {
+      EXPECT_EQ(ErrorOf([&] { AxleLoadPair(text); }), 6) << text;
+      continue;
+    }
+    const BytePair pair = AxleLoadPair(text);
+    EXPECT_EQ(pair.high, high) << text;
+    EXPECT_EQ(pair.low, low) << text;
+  }
+}
+
+TEST(Conversions, WhatDoesNotFitIsAnOverflow) {
+  EXPECT_EQ(ErrorOf([] { AxleLoadPair("-5"); }), 6);
+  EXPECT_EQ(ErrorOf([] { AxleLoadPair("65536"); }), 6);
+  EXPECT_EQ(ErrorOf([] { PressureByte("371"); }), 6);
+  EXPECT_EQ(ErrorOf([] { PressureByte("-1"); }), 6);
+  EXPECT_EQ(ErrorOf([] { TeethByte("256"); }), 6);
+  EXPECT_EQ(ErrorOf([] { PressureByte(std::string(400, '9')); }), 6);
+  EXPECT_EQ(ErrorOf([] { LengthPair(std::string(400, '9')); }), 6);
+  EXPECT_EQ(ErrorOf([] { AxleLoadPair(std::string(400, '9')); }), 6);
+}
+
+TEST(Conversions, WhatIsNoNumberIsAMismatch) {
+  for (const char* text : {"", " ", "abc", "12psi", "1,5", "1.2.3", "0x10", "1e2"}) {
+    EXPECT_EQ(ErrorOf([&] { UnladenSuspensionByte(text); }), 13) << text;
+    EXPECT_EQ(ErrorOf([&] { PressureByte(text); }), 13) << text;
+    EXPECT_EQ(ErrorOf([&] { LengthPair(text); }), 13) << text;
+    EXPECT_EQ(ErrorOf([&] { TyreByte(text); }), 13) << text;
+    EXPECT_EQ(ErrorOf([&] { TeethByte(text); }), 13) << text;
+  }
+}
+
+TEST(Conversions, PackedDigits) {
+  EXPECT_EQ(PackedText(0x20), "20");
+  EXPECT_EQ(PackedText(0x06), "06");
+  EXPECT_EQ(PackedText(0x0A), "A");  // no number: left as it is
+  EXPECT_EQ(PackedText(0xAB), "AB");
+  EXPECT_EQ(PackedByte("2", "0"), 0x20);
+  EXPECT_EQ(PackedByte("", ""), 0);
+  EXPECT_EQ(PackedByte("x", "7"), 7);
+}
+
+TEST(Conversions, BlockTextsEndAtANul) {
+  ParmBlock block;
+  StoreBlockText(block, 4, 6, "AB");
+  EXPECT_EQ(BlockText(block, 4, 6), "AB    ");
+  block(6) = 0;
+  EXPECT_EQ(BlockText(block, 4, 6), "AB");
+  block(4) = 0xE9;
+  EXPECT_EQ(BlockText(block, 4, 1), "é");
+}
+
+TEST(ParmBlock, KnowsItsBounds) {
+  ParmBlock block;
+  block(200) = 1;
+  EXPECT_EQ(ErrorOf([&] { block(201) = 1; }), 9);
+  EXPECT_EQ(ErrorOf([&] { block(-1) = 1; }), 9);
+}
+
+}  // namespace
+}  // namespace lorimet

@@ -1,0 +1,258 @@
+// Writing the parameter image to the ECU, and the ECU's verdict.
+#include "parameters/parameter_writing.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <map>
+
+#include "autotests/common/program_fixture.h"
+
+namespace lorimet::testing_support {
+namespace {
+
+using Calls = std::vector<std::string>;
+
+const MessageBox kSaved = PlainBox(
+    "               The Parameter Data has been saved.\r\n"
+    "It is highly recommended that the End of Line Test be run again.",
+    "Parameter Data");
+
+class ParameterWritingTest : public ProgramTest {
+ protected:
+  ParameterImage& Image() { return program.image; }
+  frmOVGParm3& Page() { return program.overturn_guard_page; }
+  void Write() {
+    WriteParmsToECU({link, desktop, program.dictionary, clock, program.faults, Image(), Page(),
+                     Page().txtStatus});
+  }
+  // Lets the page that shows the progress stand.
+  void Open() {
+    Start();
+    Page().Load();
+    clock.sleeps.clear();
+    link.TakeCalls();
+  }
+  void FillAll() {
+    ParameterImage& image = Image();
+    std::uint8_t count = 11;
+    for (ParmBlock* block : {&image.EOL1, &image.EOL2, &image.EOL3, &image.EOL4, &image.EOL5,
+                             &image.EOL6, &image.EOL7, &image.EOL9})
+      block->bNumBytes = count++;
+    for (ParmBlock& block : image.FCF) block.bNumBytes = 111;
+  }
+  void AnswerErrors(std::map<int, int> bytes) {
+    link.read_block = [bytes](std::uint8_t id, std::uint8_t* count, std::uint8_t* data) {
+      EXPECT_EQ(id, 0x29);
+      for (const auto& [index, value] : bytes) data[index] = static_cast<std::uint8_t>(value);
+      *count = 21;
+      return 0;
+    };
+  }
+};
+
+TEST_F(ParameterWritingTest, SendsEveryBlockInOrderThenChecksClearsResetsAndAsks) {
+  Open();
+  FillAll();
+  std::vector<std::string> shown;
+  desktop.on_repaint = [&] { shown.push_back(Page().txtStatus.Text()); };
+  AnswerErrors({});
+  Write();
+  EXPECT_EQ(link.TakeCalls(), (Calls{"StartSession 83",
+                                     "Password",
+                                     "StartRoutine 42:00000100",
+                                     "WriteMemory 28:14",
+                                     "WriteMemory 3D:11",
+                                     "WriteMemory 03:10",
+                                     "WriteMemory 06:16",
+                                     "WriteMemory 27:12",
+                                     "WriteMemory 17:13",
+                                     "WriteMemory 05:15",
+                                     "WriteMemory 42:17",
+                                     "WriteMemory 37:110",
+                                     "WriteMemory 38:110",
+                                     "WriteMemory 39:110",
+                                     "WriteMemory 3A:110",
+                                     "WriteMemory 3B:110",
+                                     "WriteMemory 3C:110",
+                                     "WriteMemory 44:110",
+                                     "WriteMemory 45:110",
+                                     "StartRoutine 42:00000000",
+                                     "StartRoutine 05:",
+                                     "ClearAllFaults",
+                                     "ResetECU",
+                                     "ReadData 29"}));
+  EXPECT_EQ(shown, (Calls{"Writing EOL5 Data to ECU",    "Writing OVG Data to ECU ",
+                          "Writing Vehicle Data to ECU", "Writing Trailer Data to ECU",
+                          "Writing EOL3 Data to ECU",    "Writing EOL4 Data to ECU",
+                          "Writing EOL6 Data to ECU",    "Writing EOL9 Data to ECU",
+                          "Writing FCF 1 Data to ECU",   "Writing FCF 2 Data to ECU",
+                          "Writing FCF 3 Data to ECU",   "Writing FCF 4 Data to ECU",
+                          "Writing FCF 5 Data to ECU",   "Writing FCF 6 Data to ECU",
+                          "Writing FCF 7 Data to ECU",   "Writing FCF 8 Data to ECU",
+                          "Updating Checksums",          "Clearing Faults",
+                          "Performing Reset of ECU",     "Checking for Parameter Errors"}));
+  EXPECT_EQ(clock.sleeps, (std::vector<std::uint32_t>{100, 2000, 2000, 3000}));
+  EXPECT_EQ(desktop.TakeBoxes(), Boxes{kSaved});
+  EXPECT_EQ(Page().txtStatus.Text(), " ");
+  EXPECT_EQ(Page().Pointer(), MousePointer::kDefault);
+}
+
+TEST_F(ParameterWritingTest, IndexZeroNeverTravels) {
+  Open();
+  Image().EOL9.bNumBytes = 4;
+  Image().EOL9.DataArr[0] = 0x42;
+  Image().EOL9(1) = 1;
+  Image().EOL9(2) = 2;
+  Image().EOL9(3) = 3;
+  AnswerErrors({});
+  Write();
+  EXPECT_EQ(link.written[0x42], (std::vector<std::uint8_t>{1, 2, 3}));
+  desktop.TakeBoxes();
+}
+
+TEST_F(ParameterWritingTest, AbsentBlocksMakeNoTraffic) {
+  Open();
+  Image().EOL4(1) = 5;  // bytes, but no count
+  std::vector<std::string> shown;
+  desktop.on_repaint = [&] { shown.push_back(Page().txtStatus.Text()); };
+  AnswerErrors({});
+  Write();
+  EXPECT_TRUE(link.written.empty());
+  EXPECT_EQ(shown.front(), "Updating Checksums");
+  desktop.TakeBoxes();
+}
+
+TEST_F(ParameterWritingTest, CountBeyondTheBlockSendsZerosForTheRest) {
+  Open();
+  Image().EOL1.bNumBytes = 255;
+  Image().EOL1(200) = 9;
+  AnswerErrors({});
+  Write();
+  ASSERT_EQ(link.written[0x03].size(), 254u);
+  EXPECT_EQ(link.written[0x03][199], 9);
+  EXPECT_EQ(link.written[0x03][200], 0);
+  EXPECT_EQ(link.written[0x03][253], 0);
+  desktop.TakeBoxes();
+}
+
+TEST_F(ParameterWritingTest, RefusedBlocksAreTriedFourTimesAndToldOneByOne) {
+  Open();
+  FillAll();
+  link.always["WriteMemory"] = 1;
+  AnswerErrors({});
+  Write();
+  const Calls calls = link.TakeCalls();
+  EXPECT_EQ(std::ranges::count(calls, "WriteMemory 03:10"), 4);
+  Boxes expected;
+  for (const char* text :
+       {"Error Writing EOL5 Parameters", "Error Writing OVG Parameters",
+        "Error Writing Vehicle Parameters", "Error Writing Trailer Parameters",
+        "Error Writing EOL3 Parameters", "Error Writing EOL4 Parameters",
+        "Error Writing EOL6 Parameters", "Error Writing EOL9 Parameters",
+        "Error Writing FCF1 GIO Parameters", "Error Writing FCF2 GIO Parameters",
+        "Error Writing FCF3 GIO Parameters", "Error Writing FCF4 GIO Parameters",
+        "Error Writing FCF5 GIO Parameters", "Error Writing FCF6 GIO Parameters",
+        "Error Writing FCF7 GIO Parameters", "Error Writing FCF8 GIO Parameters"})
+    expected.push_back(PlainBox(text, "Write Error"));
+  expected.push_back(kSaved);
+  EXPECT_EQ(desktop.TakeBoxes(), expected);
+}
+
+TEST_F(ParameterWritingTest, ThirdTryOfABlockIsEnough) {
+  Open();
+  Image().EOL2.bNumBytes = 3;
+  link.answers["WriteMemory"] = {1, 1, 0};
+  AnswerErrors({});
+  Write();
+  EXPECT_EQ(std::ranges::count(link.TakeCalls(), "WriteMemory 3D:2"), 3);
+  EXPECT_EQ(desktop.TakeBoxes(), Boxes{kSaved});
+}
+
+TEST_F(ParameterWritingTest, FailuresBehindTheBlocksAreSilent) {
+  Open();
+  link.answers["StartRoutine"] = {0, 0, 1};
+  link.always["ClearAllFaults"] = 1;
+  link.always["ResetECU"] = 1;
+  AnswerErrors({});
+  Write();
+  const Calls calls = link.TakeCalls();
+  EXPECT_EQ(std::ranges::count(calls, "StartRoutine 05:"), 1);
+  EXPECT_EQ(std::ranges::count(calls, "ClearAllFaults"), 4);
+  EXPECT_EQ(std::ranges::count(calls, "ResetECU"), 4);
+  EXPECT_EQ(desktop.TakeBoxes(), Boxes{kSaved});
+}
+
+TEST_F(ParameterWritingTest, UnreadableVerdictIsToldAndTheEndingClaimsSuccessAllTheSame) {
+  Open();
+  link.read_block = [](std::uint8_t, std::uint8_t*, std::uint8_t*) { return 3; };
+  Write();
+  EXPECT_EQ(std::ranges::count(link.TakeCalls(), "ReadData 29"), 4);
+  EXPECT_EQ(desktop.TakeBoxes(),
+            (Boxes{PlainBox("Unable to read the Parameter Errors", "Read Error"), kSaved}));
+}
+
+TEST_F(ParameterWritingTest, EachSetBitIsOneMessageLowestFirst) {
+  Open();
+  AnswerErrors({{0, 0xFF}, {1, 0x42}, {15, 0x80}, {19, 0x01}, {20, 0xFF}});
+  Write();
+  std::vector<std::string> heads;
+  for (const MessageBox& box : desktop.TakeBoxes()) {
+    if (box.title != "Parameter Error") continue;
+    heads.push_back(box.text.substr(0, box.text.find(" :")));
+  }
+  EXPECT_EQ(heads, (Calls{"Parameter Error 1-1", "Parameter Error 1-6", "Parameter Error 15-7",
+                          "Parameter Error 19-0"}));
+}
+
+TEST_F(ParameterWritingTest, LastByteAloneIsNeverTold) {
+  Open();
+  AnswerErrors({{20, 0xFF}});
+  Write();
+  EXPECT_EQ(desktop.TakeBoxes(), Boxes{kSaved});
+}
+
+TEST_F(ParameterWritingTest, CountOfTheVerdictIsNotUsed) {
+  Open();
+  link.read_block = [](std::uint8_t, std::uint8_t* count, std::uint8_t* data) {
+    *count = 2;
+    data[18] = 0x08;
+    return 0;
+  };
+  Write();
+  const Boxes boxes = desktop.TakeBoxes();
+  ASSERT_EQ(boxes.size(), 2u);
+  EXPECT_EQ(boxes[0].text,
+            "Parameter Error 18-3 : Incorrect checksum for the Bootloader Diagnostic Paramter "
+            "section");
+}
+
+TEST_F(ParameterWritingTest, PairOutsideTheCatalogueShowsAnEmptyText) {
+  ShowParmError(desktop, 21, 1);
+  ShowParmError(desktop, 1, 3);
+  EXPECT_EQ(desktop.TakeBoxes(),
+            (Boxes{PlainBox("", "Parameter Error"), PlainBox("", "Parameter Error")}));
+}
+
+TEST_F(ParameterWritingTest, FieldsOfTheTestsFollowTheImage) {
+  Image().EOL1(1) = 0x80;
+  Image().EOL1(42) = 40;
+  Image().EOL1(43) = 0;
+  Image().EOL1(68) = 3;
+  Image().EOL1(69) = 232;
+  Ecu().dLadenHeightValue.Store(-1.0);
+  RefreshTestFields(Image(), Ecu());
+  EXPECT_EQ(Ecu().nMounting.Load(), 1);
+  EXPECT_EQ(Ecu().nMechanicalSuspension.Load(), 0);
+  EXPECT_DOUBLE_EQ(Ecu().dTargetPressure1.Load(), 40 * 1.451);
+  EXPECT_DOUBLE_EQ(Ecu().dTargetPressure2.Load(), 0.0);
+  EXPECT_DOUBLE_EQ(Ecu().dLadenHeightValue.Load(), -1.0);  // air suspension has none
+  Image().EOL1(1) = 0x20;
+  RefreshTestFields(Image(), Ecu());
+  EXPECT_EQ(Ecu().nMounting.Load(), 0);
+  EXPECT_EQ(Ecu().nMechanicalSuspension.Load(), 1);
+  EXPECT_DOUBLE_EQ(Ecu().dLadenHeightValue.Load(), 100.0);
+}
+
+}  // namespace
+}  // namespace lorimet::testing_support

@@ -1,0 +1,527 @@
+// The load-sensing page and the last page of the wizard, with the whole program around them.
+#include <gtest/gtest.h>
+
+#include <functional>
+
+#include "autotests/common/program_fixture.h"
+#include "parameters/conversions.h"
+
+namespace lorimet::testing_support {
+namespace {
+
+class WizardTest : public ProgramTest {
+ protected:
+  WizardTest() {
+    // Three axles with air suspension on a 4S/2M system.
+    Ecu().bNumSensors.Store(4);
+    Ecu().bNumModulators.Store(2);
+    Ecu().nNumAxles.Store(3);
+    Ecu().nAxleSensors[0].Store(2);
+    Ecu().nAxleSensors[1].Store(1);
+    Image().EOL1(1) = 0x04;
+  }
+  ParameterImage& Image() { return program.image; }
+  ParmBlock& Vehicle() { return program.image.EOL1; }
+  frmOVGParm1& System() { return program.system_page; }
+  frmOVGParm2& Page() { return program.load_sensing_page; }
+  frmOVGParm3& Last() { return program.overturn_guard_page; }
+  void OpenPage() {
+    System().Load();
+    Page().Load();
+  }
+  void MakeMechanical() {
+    Ecu().nMechanicalSuspension.Store(1);
+    Vehicle()(1) = 0x24;
+  }
+  // As the mouse does it: the button gets the focus before its click.
+  static void Press(Button& button) {
+    button.Owner().UserFocus(&button);
+    button.UserClick();
+  }
+  static int ErrorOf(const std::function<void()>& action) {
+    try {
+      action();
+    } catch (const RuntimeError& error) {
+      return error.Number();
+    }
+    return 0;
+  }
+};
+
+TEST_F(WizardTest, PageShowsTheVehicleOnEveryAxle) {
+  Vehicle()(3) = 8;
+  Vehicle()(4) = 52;
+  Vehicle()(17) = 35;
+  Vehicle()(18) = 40;
+  Vehicle()(33) = 7;
+  Vehicle()(34) = 48;
+  Vehicle()(38) = 10;
+  Vehicle()(39) = 45;
+  Vehicle()(41) = 65;
+  Vehicle()(42) = 8;
+  Vehicle()(43) = 40;
+  Vehicle()(45) = 62;
+  Vehicle()(46) = 22;
+  OpenPage();
+  EXPECT_EQ(Page().txtAxleLoadUnladen[0].Text(), "2100");
+  EXPECT_EQ(Page().txtAxleLoadLaden[2].Text(), "9000");
+  EXPECT_EQ(Page().txtAxleLoadLaden[0].Text(), "0");
+  for (int i = 0; i < 3; ++i) {
+    EXPECT_EQ(Page().txtSuspensionPressUnladen[i].Text(), "10");
+    EXPECT_EQ(Page().txtSuspensionPressLaden[i].Text(), "70");
+    EXPECT_EQ(Page().txtBrakingPressLadenPm_AN[i].Text(), "12");
+    EXPECT_EQ(Page().txtBrakingPressLadenPm_K1[i].Text(), "58");
+    EXPECT_EQ(Page().txtBrakingPressLadenPm_Max[i].Text(), "90");
+    EXPECT_EQ(Page().txtBrakingPressUnladen[i].Text(), "32");
+    EXPECT_TRUE(Page().txtAxleLoadLaden[i].Enabled());
+  }
+  for (int i = 3; i < 5; ++i) {
+    EXPECT_EQ(Page().txtBrakingPressUnladen[i].Text(), "");
+    EXPECT_FALSE(Page().txtAxleLoadUnladen[i].Enabled());
+    EXPECT_EQ(Page().txtAxleLoadLaden[i].BackColor(), kColorButtonFace);
+    EXPECT_TRUE(Page().txtSuspensionPressLaden[i].Enabled());
+  }
+  EXPECT_EQ(Page().txtControlPressureUnladen[0].Text(), "94");
+  EXPECT_EQ(Page().txtControlPressureLaden[0].Text(), "15");
+  EXPECT_EQ(Page().txtControlPressureLaden[1].Text(), "65");
+  EXPECT_EQ(Page().txtControlPressureLaden[2].Text(), "94");
+  EXPECT_FALSE(Page().LeverLengthFrame.Visible());
+  EXPECT_EQ(Page().txtColHdrLaden.Text(), "Suspension pressure (bar)\r\n");
+}
+
+TEST_F(WizardTest, PageShowsPathsForMechanicalSuspension) {
+  MakeMechanical();
+  Vehicle()(64) = 3;
+  Vehicle()(65) = 242;
+  Vehicle()(68) = 4;
+  Vehicle()(69) = 210;
+  OpenPage();
+  EXPECT_TRUE(Page().LeverLengthFrame.Visible());
+  EXPECT_EQ(Page().txtColHdrUnladen.Text(), "Suspension path (mm)");
+  EXPECT_EQ(Page().txtColHdrLaden.Text(), "Suspension path (mm)");
+  EXPECT_EQ(Page().txtSuspensionPressUnladen[1].Text(), "0");
+  EXPECT_EQ(Page().txtSuspensionPressLaden[1].Text(), "123.4");
+  EXPECT_EQ(Page().txtLeverLength[2].Text(), "101");
+}
+
+TEST_F(WizardTest, PageCopiesTheDiagram) {
+  OpenPage();
+  for (int i = 0; i < 6; ++i) {
+    EXPECT_EQ(Page().txtSensor[i].Text(), System().txtSensor[i].Text());
+    EXPECT_EQ(Page().txtSensor[i].Visible(), System().txtSensor[i].Enabled());
+  }
+  EXPECT_EQ(Page().picOVG_ECU.Image(), System().picOVG_ECU.Image());
+}
+
+TEST_F(WizardTest, PageShowsWhoTheTrailerIs) {
+  ParmBlock& trailer = Image().EOL7;
+  trailer(1) = 0x20;
+  trailer(2) = 0x06;
+  trailer(3) = 0x07;
+  StoreBlockText(trailer, 4, 18, "VEHICLE");
+  StoreBlockText(trailer, 22, 20, "MAKER");
+  OpenPage();
+  EXPECT_EQ(Page().txtProdYear.Text(), "2006");
+  EXPECT_EQ(Page().txtProdWeek.Text(), "07");
+  EXPECT_EQ(Page().txtTrailerVIN.Text(), "VEHICLE           ");
+  EXPECT_EQ(Page().txtManufacturer.Text(), "MAKER               ");
+  EXPECT_EQ(Page().txtTrailerType.Text(), "");  // zeros: ends at the first
+}
+
+struct RangeRow {
+  const char* field;
+  const char* passes;
+  const char* refused;
+  const char* message;
+};
+
+TEST_F(WizardTest, PageRefusesWhatIsOutOfRange) {
+  const std::vector<RangeRow> rows = {
+      {"txtAxleLoadLaden_0", "25000", "25001",
+       "Axle Load Laden out of range.  Valid range : 0 - 25,000 kg"},
+      {"txtAxleLoadUnladen_2", "25000", "25000.5",
+       "Axle Load Unladen out of range.  Valid range : 0 - 25,000 kg"},
+      {"txtBrakingPressLadenPm_AN_0", "145", "146",
+       "Braking Pressure Laden out of range.  Valid range : 0 - 145 psi"},
+      {"txtBrakingPressLadenPm_K1_1", "145", "146",
+       "Braking Pressure Laden out of range.  Valid range : 0 - 145 psi"},
+      {"txtBrakingPressLadenPm_Max_4", "145", "146",
+       "Braking Pressure Laden out of range.  Valid range : 0 - 145 psi"},
+      {"txtBrakingPressUnladen_0", "145", "146",
+       "Braking Pressure Unladen out of range.  Valid range : 0 - 145 psi"},
+      {"txtLeverLength_0", "50", "49", "Lever Length out of range.  Valid range : 50 - 200 mm"},
+      {"txtLeverLength_0", "200", "201", "Lever Length out of range.  Valid range : 50 - 200 mm"},
+      {"txtProdWeek", "53", "54", "Production Week out of range.  Valid range : 0 - 52"},
+      {"txtSuspensionPressUnladen_0", "181", "182",
+       "Suspension Pressure Unladen out of range.  Valid range : 0 - 181 psi"},
+      {"txtSuspensionPressLaden_0", "181", "182",
+       "Suspension Pressure Laden out of range.  Valid range : 0 - 181 psi"},
+  };
+  OpenPage();
+  for (const RangeRow& row : rows) {
+    auto& field = static_cast<TextBox&>(*Page().FindControl(row.field));
+    for (const char* text : {row.passes, "abc", ""}) {
+      if (std::string(row.field).starts_with("txtLever") && text != row.passes) continue;
+      field.SetFocus();
+      field.UserType(text);
+      Page().txtManufacturer.SetFocus();
+      EXPECT_EQ(desktop.TakeBoxes(), Boxes{}) << row.field << " " << text;
+      EXPECT_EQ(Page().FocusedControl(), &Page().txtManufacturer) << row.field;
+    }
+    field.SetFocus();
+    EXPECT_TRUE(field.AllSelected());
+    field.UserType(row.refused);
+    Page().txtManufacturer.SetFocus();
+    EXPECT_EQ(desktop.TakeBoxes(), (Boxes{PlainBox(row.message, "Range Limit Exceeded")}))
+        << row.field;
+    EXPECT_EQ(Page().FocusedControl(), &field) << row.field;
+    field.UserType(row.passes);
+  }
+}
+
+TEST_F(WizardTest, PathOfMechanicalSuspensionHasItsOwnRange) {
+  MakeMechanical();
+  OpenPage();
+  TextBox& field = Page().txtSuspensionPressLaden[0];
+  for (const char* refused : {"9", "401"}) {
+    field.SetFocus();
+    field.UserType(refused);
+    Page().txtManufacturer.SetFocus();
+    EXPECT_EQ(desktop.TakeBoxes(),
+              (Boxes{PlainBox("Suspension Path Laden out of range.  Valid range : 10 - 400 mm",
+                              "Range Limit Exceeded")}));
+  }
+  for (const char* passes : {"10", "400"}) {
+    field.UserType(passes);
+    Page().txtManufacturer.SetFocus();
+    EXPECT_EQ(Page().FocusedControl(), &Page().txtManufacturer);
+    field.SetFocus();
+  }
+}
+
+TEST_F(WizardTest, ButtonDoesNothingWhileAFieldIsOutOfRange) {
+  OpenPage();
+  TextBox& field = Page().txtAxleLoadLaden[0];
+  for (Button* button : {&Page().cmdNext, &Page().cmdPrev, &Page().cmdClose}) {
+    field.SetFocus();
+    field.UserType("25001");
+    Press(*button);
+    EXPECT_EQ(desktop.TakeBoxes().size(), 1u) << button->Name();
+    EXPECT_EQ(Page().FocusedControl(), &field) << button->Name();
+    EXPECT_TRUE(Page().Loaded()) << button->Name();
+    // The same by a key, which moves no focus.
+    field.UserType("25002");
+    button->UserClick();
+    EXPECT_EQ(desktop.TakeBoxes().size(), 1u) << button->Name();
+    EXPECT_TRUE(Page().Loaded()) << button->Name();
+  }
+}
+
+TEST_F(WizardTest, NextEncodesTheScreen) {
+  OpenPage();
+  Page().txtAxleLoadUnladen[0].UserType("2100");
+  Page().txtAxleLoadLaden[1].UserType("4096");
+  Page().txtAxleLoadLaden[2].UserType("");
+  Page().txtSuspensionPressUnladen[0].UserType("37");
+  Page().txtSuspensionPressLaden[0].UserType("37");
+  Page().txtBrakingPressLadenPm_AN[0].UserType("12");
+  Page().txtBrakingPressLadenPm_K1[0].UserType("58");
+  Page().txtBrakingPressLadenPm_Max[0].UserType("145");
+  Page().txtBrakingPressUnladen[0].UserType("0");
+  Page().txtBrakingPressUnladen[1].UserType("99");  // only row 0 is read back
+  Page().txtProdYear.UserType("2026");
+  Page().txtProdWeek.UserType("7");
+  Page().txtTrailerVIN.UserType("  VIN é€ ");
+  Page().txtManufacturer.UserType(" Maker ");
+  Page().txtTrailerType.UserType("Type");
+  Vehicle()(64) = 9;
+  Vehicle()(69) = 9;
+  Press(Page().cmdNext);
+  EXPECT_EQ(Vehicle()(3), 8);
+  EXPECT_EQ(Vehicle()(4), 52);
+  EXPECT_EQ(Vehicle()(11), 16);
+  EXPECT_EQ(Vehicle()(12), 0);
+  EXPECT_EQ(Vehicle()(17), 0);
+  EXPECT_EQ(Vehicle()(33), 26);
+  EXPECT_EQ(Vehicle()(34), 25);
+  EXPECT_EQ(Vehicle()(42), 8);
+  EXPECT_EQ(Vehicle()(43), 40);
+  EXPECT_EQ(Vehicle()(45), 100);
+  EXPECT_EQ(Vehicle()(46), 0);
+  EXPECT_EQ(Vehicle()(64), 9);  // the path and the lever stay with air suspension
+  EXPECT_EQ(Vehicle()(69), 9);
+  const ParmBlock& trailer = Image().EOL7;
+  EXPECT_EQ(trailer(1), 0x20);
+  EXPECT_EQ(trailer(2), 0x26);
+  EXPECT_EQ(trailer(3), 0x77);  // a single digit is both
+  EXPECT_EQ(Image().strTrailerVIN, "  VIN é€ ");
+  EXPECT_EQ(Ecu().VehicleId.Load(), "VIN \xE9\x80            ");
+  EXPECT_EQ(BlockText(trailer, 4, 18), "VIN é€            ");
+  EXPECT_EQ(BlockText(trailer, 22, 20), " Maker              ");
+  EXPECT_EQ(Ecu().Manufacturer.Load(), std::string(" Maker              \0\0", 22));
+  EXPECT_EQ(BlockText(trailer, 42, 20), "Type                ");
+  EXPECT_EQ(Ecu().TrailerType.Load(), std::string("Type                \0\0", 22));
+  EXPECT_FALSE(Page().Visible());
+  EXPECT_TRUE(Page().Loaded());
+}
+
+TEST_F(WizardTest, NextEncodesPathsForMechanicalSuspension) {
+  MakeMechanical();
+  OpenPage();
+  Vehicle()(33) = 5;
+  Vehicle()(34) = 6;
+  Page().txtSuspensionPressLaden[0].UserType("123.4");
+  Page().txtLeverLength[0].UserType("101");
+  Press(Page().cmdNext);
+  EXPECT_EQ(Vehicle()(68), 4);
+  EXPECT_EQ(Vehicle()(69), 210);
+  EXPECT_EQ(Vehicle()(64), 3);
+  EXPECT_EQ(Vehicle()(65), 242);
+  EXPECT_EQ(Vehicle()(33), 5);
+  EXPECT_EQ(Vehicle()(34), 6);
+}
+
+TEST_F(WizardTest, EmptyDatesEncodeAsZero) {
+  OpenPage();
+  Page().txtProdYear.UserType("");
+  Page().txtProdWeek.UserType("");
+  Press(Page().cmdNext);
+  EXPECT_EQ(Image().EOL7(1), 0);
+  EXPECT_EQ(Image().EOL7(2), 0);
+  EXPECT_EQ(Image().EOL7(3), 0);
+}
+
+TEST_F(WizardTest, WhatIsNoNumberEndsInAMismatch) {
+  OpenPage();
+  Page().txtBrakingPressUnladen[0].UserType("abc");
+  EXPECT_EQ(ErrorOf([&] { Press(Page().cmdNext); }), 13);
+  Page().txtBrakingPressUnladen[0].UserType("-1");
+  EXPECT_EQ(ErrorOf([&] { Press(Page().cmdNext); }), 6);
+}
+
+TEST_F(WizardTest, PreviousGoesToThePageThatFitsTheSystem) {
+  Start();
+  Ecu().bNumModulators.Store(2);
+  desktop.OnModal("frmOVGParm1", [](Form& f) { Press(static_cast<frmOVGParm1&>(f).cmdNext); });
+  desktop.OnModal("frmGIOSelection",
+                  [](Form& f) { Press(static_cast<frmGIOSelection&>(f).cmdNext); });
+  desktop.OnModal("frmOVGParm2", [](Form& f) {
+    static_cast<frmOVGParm2&>(f).txtAxleLoadLaden[0].UserType("1234");
+    Press(static_cast<frmOVGParm2&>(f).cmdPrev);
+  });
+  desktop.OnModal("frmGIOSelection",
+                  [](Form& f) { Press(static_cast<frmGIOSelection&>(f).cmdClose); });
+  Main().mnuSystem[0].UserClick();
+  EXPECT_EQ(desktop.ModalForms(), (std::vector<std::string>{"frmOVGParm1", "frmGIOSelection",
+                                                            "frmOVGParm2", "frmGIOSelection"}));
+  EXPECT_EQ(Vehicle()(5), 0);  // what had not passed Next is lost
+  EXPECT_FALSE(System().Loaded());
+}
+
+TEST_F(WizardTest, SingleModulatorSystemSkipsTheFunctions) {
+  Start();
+  Ecu().bNumModulators.Store(1);
+  desktop.OnModal("frmOVGParm1", [](Form& f) { Press(static_cast<frmOVGParm1&>(f).cmdNext); });
+  desktop.OnModal("frmOVGParm2", [](Form& f) { Press(static_cast<frmOVGParm2&>(f).cmdPrev); });
+  desktop.OnModal("frmOVGParm1", [](Form& f) { Press(static_cast<frmOVGParm1&>(f).cmdClose); });
+  Main().mnuSystem[0].UserClick();
+  EXPECT_EQ(desktop.ModalForms(),
+            (std::vector<std::string>{"frmOVGParm1", "frmOVGParm2", "frmOVGParm1"}));
+  for (const ParmBlock& block : Image().FCF) EXPECT_EQ(block.bNumBytes, 0);
+}
+
+TEST_F(WizardTest, CloseEndsTheWizard) {
+  OpenPage();
+  Press(Page().cmdClose);
+  EXPECT_FALSE(System().Loaded());
+  EXPECT_FALSE(Page().Loaded());
+}
+
+// --- The last page.
+
+TEST_F(WizardTest, LastPageShowsTheGuard) {
+  struct Row {
+    int guard;
+    int tyres;
+    int selected;
+  };
+  for (const Row& row : std::vector<Row>{{0x00, 0, 1}, {0x00, 1, 1}, {0x80, 0, 2}, {0x80, 1, 3}}) {
+    Last().Unload();
+    Image().EOL2(5) = static_cast<std::uint8_t>(row.guard);
+    Vehicle()(62) = static_cast<std::uint8_t>(row.tyres);
+    System().Load();
+    Last().Load();
+    for (int i = 0; i < 4; ++i) EXPECT_EQ(Last().optOVGStatus[i].Value(), i == row.selected) << i;
+    EXPECT_FALSE(Last().optOVGStatus[0].Enabled());
+  }
+}
+
+TEST_F(WizardTest, LastPageShowsTyresAndTeeth) {
+  Vehicle()(55) = 130;
+  Vehicle()(56) = 131;
+  Vehicle()(58) = 100;
+  Vehicle()(59) = 90;
+  System().Load();
+  Last().Load();
+  EXPECT_EQ(Last().txtTireSize[0].Text(), "3250");
+  EXPECT_EQ(Last().txtTireSize[1].Text(), "3275");
+  EXPECT_EQ(Last().txtNumTeeth[0].Text(), "100");
+  EXPECT_EQ(Last().txtNumTeeth[1].Text(), "90");
+  EXPECT_TRUE(Last().txtTireSize[1].Enabled());
+}
+
+TEST_F(WizardTest, TwoSensorSystemHasOneAxleOfTyres) {
+  for (const int modulators : {1, 2}) {
+    System().Unload();
+    Last().Unload();
+    Ecu().bNumSensors.Store(2);
+    Ecu().bNumModulators.Store(static_cast<std::uint8_t>(modulators));
+    System().Load();
+    Last().Load();
+    EXPECT_FALSE(Last().txtTireSize[1].Enabled()) << modulators;
+    EXPECT_FALSE(Last().txtNumTeeth[1].Enabled()) << modulators;
+    EXPECT_TRUE(Last().txtTireSize[0].Enabled()) << modulators;
+  }
+}
+
+TEST_F(WizardTest, LastPageRefusesWhatIsOutOfRange) {
+  System().Load();
+  Last().Load();
+  for (const char* refused : {"49", "131"}) {
+    Last().txtNumTeeth[0].SetFocus();
+    Last().txtNumTeeth[0].UserType(refused);
+    Press(Last().cmdSaveToECU);
+    EXPECT_EQ(desktop.TakeBoxes(),
+              (Boxes{PlainBox("Number of Teeth out of range.  Valid range : 50 - 130",
+                              "Range Limit Exceeded")}));
+  }
+  Last().txtNumTeeth[0].UserType("130");
+  for (const char* refused : {"1199", "5201"}) {
+    Last().txtTireSize[0].SetFocus();
+    Last().txtTireSize[0].UserType(refused);
+    Press(Last().cmdSaveToFile);
+    EXPECT_EQ(desktop.TakeBoxes(),
+              (Boxes{PlainBox("Tire Size out of range.  Valid range : 1200 - 5200 mm",
+                              "Range Limit Exceeded")}));
+  }
+  EXPECT_TRUE(link.TakeCalls().empty());
+}
+
+class SavingTest : public WizardTest {
+ protected:
+  // Selects on the system page and the last page, and saves to the ECU.
+  void Save(int cable, int guard) {
+    System().Load();
+    System().optSLAC[cable].SetValue(true);
+    Last().Load();
+    Last().optOVGStatus[guard].SetValue(true);
+    for (int i = 0; i < 2; ++i) {
+      Last().txtTireSize[i].UserType("3260");
+      Last().txtNumTeeth[i].UserType("100");
+    }
+    Press(Last().cmdSaveToECU);
+    desktop.TakeBoxes();
+  }
+};
+
+TEST_F(SavingTest, CableIsConfiguredInFiveBytes) {
+  Image().EOL9.bNumBytes = 20;
+  Image().EOL9(2) = 0x81;
+  Image().EOL2(2) = 0x81;
+  Save(0, 1);
+  EXPECT_EQ(Image().EOL9(2), 0x85);
+  EXPECT_EQ(Image().EOL9(15), 73);
+  EXPECT_EQ(Image().EOL3(33), 3);
+  EXPECT_EQ(Image().EOL5(18), 65);
+  EXPECT_EQ(Image().EOL2(2), 0x21);
+  Save(1, 1);
+  EXPECT_EQ(Image().EOL5(18), 177);
+}
+
+TEST_F(SavingTest, WithoutACableTheFunctionsBytesAreGivenUp) {
+  for (const int modulators : {1, 2, 21}) {
+    Ecu().bNumModulators.Store(static_cast<std::uint8_t>(modulators));
+    Image().EOL2(2) = 0x7F;
+    Image().EOL5(20) = 9;
+    Image().EOL5(18) = 9;
+    Save(2, 1);
+    EXPECT_EQ(Image().EOL2(2), modulators > 1 ? 0x80 : 0) << modulators;
+    EXPECT_EQ(Image().EOL5(20), modulators > 1 ? 65 : 0) << modulators;
+    EXPECT_EQ(Image().EOL5(18), 0) << modulators;
+    EXPECT_EQ(Image().EOL3(33), 7) << modulators;
+  }
+}
+
+TEST_F(SavingTest, GuardAndTyresAreStored) {
+  Image().EOL2(5) = 0x10;
+  Vehicle()(62) = 0x04;
+  Save(2, 3);
+  EXPECT_EQ(Image().EOL2(5), 0x90);
+  EXPECT_EQ(Vehicle()(62), 0x05);
+  EXPECT_EQ(Vehicle()(55), 130);
+  EXPECT_EQ(Vehicle()(58), 100);
+  Save(2, 1);
+  EXPECT_EQ(Image().EOL2(5), 0x10);
+  EXPECT_EQ(Vehicle()(62), 0x05);  // off keeps the kind of tyres
+  Save(2, 2);
+  EXPECT_EQ(Vehicle()(62), 0x04);
+}
+
+TEST_F(SavingTest, SavingEndsTheWizard) {
+  Start();
+  System().Load();
+  Page().Load();
+  Last().Load();
+  for (int i = 0; i < 2; ++i) {
+    Last().txtTireSize[i].UserType("3250");
+    Last().txtNumTeeth[i].UserType("100");
+  }
+  Press(Last().cmdSaveToECU);
+  desktop.TakeBoxes();
+  EXPECT_FALSE(System().Loaded());
+  EXPECT_FALSE(Page().Loaded());
+  EXPECT_FALSE(Last().Loaded());
+}
+
+TEST_F(SavingTest, CancelledSaveToFileKeepsThePage) {
+  System().Load();
+  Last().Load();
+  for (int i = 0; i < 2; ++i) {
+    Last().txtTireSize[i].UserType("3250");
+    Last().txtNumTeeth[i].UserType("100");
+  }
+  Press(Last().cmdSaveToFile);
+  EXPECT_TRUE(Last().Loaded());
+  EXPECT_EQ(Vehicle()(55), 130);  // the screen has been taken over by then
+}
+
+TEST_F(WizardTest, WalkingAThousandTimesNeitherDeepensNorChangesAByte) {
+  Start();
+  for (int i = 4; i < 62; ++i) Image().EOL7(i) = 'X';
+  Vehicle()(1) = 0x04;
+  std::vector<ParmBlock> settled;
+  const auto blocks = [&] {
+    return std::vector<ParmBlock>{Image().EOL1, Image().EOL2, Image().EOL3,   Image().EOL5,
+                                  Image().EOL7, Image().EOL9, Image().FCF[0], Image().FCF[7]};
+  };
+  desktop.OnModal("frmOVGParm1", [](Form& f) { Press(static_cast<frmOVGParm1&>(f).cmdNext); });
+  for (int i = 0; i < 1000; ++i) {
+    desktop.OnModal("frmGIOSelection",
+                    [](Form& f) { Press(static_cast<frmGIOSelection&>(f).cmdNext); });
+    desktop.OnModal("frmOVGParm2", [](Form& f) { Press(static_cast<frmOVGParm2&>(f).cmdNext); });
+    desktop.OnModal("frmOVGParm3", [&](Form& f) {
+      if (settled.empty()) settled = blocks();
+      Press(static_cast<frmOVGParm3&>(f).cmdPrev);
+    });
+    desktop.OnModal("frmOVGParm2", [](Form& f) { Press(static_cast<frmOVGParm2&>(f).cmdPrev); });
+  }
+  desktop.OnModal("frmGIOSelection",
+                  [](Form& f) { Press(static_cast<frmGIOSelection&>(f).cmdClose); });
+  Main().mnuSystem[0].UserClick();
+  EXPECT_EQ(desktop.ModalForms().size(), 4002u);
+  EXPECT_EQ(desktop.DeepestModal(), 1);
+  EXPECT_EQ(blocks(), settled);
+}
+
+}  // namespace
+}  // namespace lorimet::testing_support
