@@ -21,6 +21,7 @@ from pathlib import Path
 
 ROOT = Path(__file__).resolve().parent.parent
 FOLDERS = ("src", "simulator", "autotests", "benchmarks", "fuzz")
+GCC_ONLY = ("-fno-gnu-unique",)  # clang refuses to read these
 INCLUDE = re.compile(rb'^\s*#\s*include\s*"([^"]+)"', re.MULTILINE)
 
 
@@ -67,6 +68,16 @@ def key_of(source, words, version, texts):
     return digest.hexdigest()
 
 
+def clean_database(build, folder):
+    """Writes the compile database as clang reads it, and returns its entries."""
+    entries = json.loads((build / "compile_commands.json").read_text(encoding="utf-8"))
+    for entry in entries:
+        words = shlex.split(entry.pop("command", "")) or entry["arguments"]
+        entry["arguments"] = [word for word in words if word not in GCC_ONLY]
+    (folder / "compile_commands.json").write_text(json.dumps(entries), encoding="utf-8")
+    return entries
+
+
 def check(source, build):
     start = time.monotonic()
     run = subprocess.run(["clang-tidy", "--quiet", "-p", str(build), str(source)],
@@ -83,11 +94,11 @@ def main(arguments):
     if len(arguments) < 2:
         print(__doc__)
         return 2
-    build, cache, wanted = Path(arguments[0]).resolve(), Path(arguments[1]), arguments[2:]
+    build, cache, wanted = Path(arguments[0]), Path(arguments[1]), arguments[2:]
     cache.mkdir(parents=True, exist_ok=True)
     version = subprocess.run(["clang-tidy", "--version"], capture_output=True, check=True).stdout
     texts, todo, known = {}, [], set()
-    for entry in json.loads((build / "compile_commands.json").read_text(encoding="utf-8")):
+    for entry in clean_database(build, cache):
         source = Path(entry["directory"], entry["file"])
         try:
             name = source.relative_to(ROOT).as_posix()
@@ -97,14 +108,13 @@ def main(arguments):
                 (wanted and not any(part in name for part in wanted))):
             continue
         known.add(name)
-        words = shlex.split(entry.get("command", "")) or entry["arguments"]
-        key = key_of(source, words, version, texts)
+        key = key_of(source, entry["arguments"], version, texts)
         if not (cache / key).exists():
             todo.append((name, source, key))
     print(f"clang-tidy: {len(todo)} of {len(known)} files to check", flush=True)
     red = 0
     with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
-        running = {pool.submit(check, source, build): (name, key) for name, source, key in todo}
+        running = {pool.submit(check, source, cache): (name, key) for name, source, key in todo}
         for done, future in enumerate(concurrent.futures.as_completed(running), 1):
             name, key = running[future]
             green, said, seconds = future.result()

@@ -830,6 +830,10 @@ frenado&#13;
         <translation>Alimentación permanente (GIO 2)</translation>
     </message>
     <message>
+        <source>Power Supply</source>
+        <translation>Alimentación eléctrica</translation>
+    </message>
+    <message>
         <source>Speed Switch (GIO 3)</source>
         <translation>Interruptor de velocidad (GIO 3)</translation>
     </message>
@@ -1020,6 +1024,14 @@ frenado&#13;
     <message>
         <source>About Lorimet</source>
         <translation>Acerca de Lorimet</translation>
+    </message>
+    <message>
+        <source>Diagnostics and end-of-line tests for trailer brake ECUs</source>
+        <translation>Diagnóstico y pruebas de fin de línea para ECU de freno de remolque</translation>
+    </message>
+    <message>
+        <source>This program is protected by copyright law and international treaties. It is supplied to trained workshop and production staff only. Work on a trailer&apos;s brake system endangers lives when it is done wrongly: follow the instructions of the vehicle&apos;s and the brake system&apos;s makers, and test the brakes before the vehicle goes back on the road. Norvick accepts no liability for damage that arises from improper use.</source>
+        <translation>Este programa está protegido por la ley de propiedad intelectual y por los tratados internacionales. Se suministra exclusivamente a personal formado de taller y de producción. Un trabajo incorrecto en el sistema de frenos de un remolque pone vidas en peligro: siga las instrucciones de los fabricantes del vehículo y del sistema de frenos, y compruebe los frenos antes de que el vehículo vuelva a la carretera. Norvick no se hace responsable de los daños derivados de un uso indebido.</translation>
     </message>
     <message>
         <source>Version</source>

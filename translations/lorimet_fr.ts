@@ -830,6 +830,10 @@ freinage&#13;
         <translation>Alimentation permanente (GIO 2)</translation>
     </message>
     <message>
+        <source>Power Supply</source>
+        <translation>Alimentation électrique</translation>
+    </message>
+    <message>
         <source>Speed Switch (GIO 3)</source>
         <translation>Contacteur de vitesse (GIO 3)</translation>
     </message>
@@ -1020,6 +1024,14 @@ freinage&#13;
     <message>
         <source>About Lorimet</source>
         <translation>À propos de Lorimet</translation>
+    </message>
+    <message>
+        <source>Diagnostics and end-of-line tests for trailer brake ECUs</source>
+        <translation>Diagnostic et tests de fin de ligne des ECU de freinage de remorque</translation>
+    </message>
+    <message>
+        <source>This program is protected by copyright law and international treaties. It is supplied to trained workshop and production staff only. Work on a trailer&apos;s brake system endangers lives when it is done wrongly: follow the instructions of the vehicle&apos;s and the brake system&apos;s makers, and test the brakes before the vehicle goes back on the road. Norvick accepts no liability for damage that arises from improper use.</source>
+        <translation>Ce programme est protégé par le droit d&apos;auteur et par les traités internationaux. Il est destiné exclusivement au personnel formé d&apos;atelier et de production. Une intervention incorrecte sur le système de freinage d&apos;une remorque met des vies en danger : veuillez suivre les instructions des constructeurs du véhicule et du système de freinage, et contrôler les freins avant de remettre le véhicule sur la route. Norvick décline toute responsabilité pour les dommages résultant d&apos;une utilisation non conforme.</translation>
     </message>
     <message>
         <source>Version</source>

@@ -1,4 +1,5 @@
 // What the user does changes the property and raises one event; what code does is mirrored once.
+#include <QAbstractButton>
 #include <QAction>
 #include <QButtonGroup>
 #include <QCheckBox>
@@ -269,7 +270,7 @@ TEST_F(EventsTest, FormMayUnloadInItsOwnHandlers) {
     form.optChoice.OnClick([this](int) { form.Unload(); });
     form.Show();
     Pump();
-    Click(Find<QWidget>(form, name));
+    Find<QAbstractButton>(form, name)->click();
     EXPECT_FALSE(form.Loaded()) << name;
     Pump();
   }

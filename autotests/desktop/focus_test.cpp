@@ -6,6 +6,7 @@
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
+#include <QStyle>
 #include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -212,7 +213,7 @@ TEST_F(FocusTest, AltAloneGoesToTheMenuBarWhateverTheFormSwallows) {
   form.txtName.SetFocus();
   Press(Find<QLineEdit>(form, "txtName"), Qt::Key_Alt, Qt::AltModifier);
   auto* bar = static_cast<QMainWindow*>(desktop.Window(form))->menuBar();
-  EXPECT_TRUE(bar->hasFocus());
+  EXPECT_TRUE(bar->hasFocus()) << QApplication::focusWidget()->metaObject()->className() << bar->style()->styleHint(QStyle::SH_MenuBar_AltKeyNavigation, nullptr, bar) << (bar->activeAction() != nullptr);
 }
 
 TEST_F(FocusTest, TabMovesTheFocusWhateverTheFormSwallows) {

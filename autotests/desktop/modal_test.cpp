@@ -138,8 +138,14 @@ TEST_F(ModalTest, RunEndsWithTheLastForm) {
 }
 
 TEST_F(ModalTest, QuittingTheApplicationEndsAModalShow) {
-  QTimer::singleShot(0, qApp, [] { QCoreApplication::quit(); });
-  one.Show(Modality::kModal);
+  bool returned = false;
+  QTimer::singleShot(0, qApp, [&] {
+    QTimer::singleShot(0, qApp, [] { QCoreApplication::exit(); });
+    one.Show(Modality::kModal);
+    returned = true;
+  });
+  QCoreApplication::exec();
+  EXPECT_TRUE(returned);
   EXPECT_TRUE(one.Visible());
 }
 

@@ -57,7 +57,7 @@ void QtDesktop::ViewDropped(QtFormView& view) {
   QMetaObject::invokeMethod(
       lifetime_.get(),
       [this] {
-        if (LoadedForms().empty() && main_loop_ != nullptr) main_loop_->quit();
+        if (LoadedForms().empty()) QCoreApplication::exit();
       },
       Qt::QueuedConnection);
 }
@@ -95,10 +95,7 @@ std::uintptr_t QtDesktop::NativeWindow(Form& form) {
 void QtDesktop::Run() {
   if (LoadedForms().empty()) return;
   const LoopScope scope(*this);
-  QEventLoop loop;
-  main_loop_ = &loop;
-  loop.exec();
-  main_loop_ = nullptr;
+  QCoreApplication::exec();
 }
 
 void QtDesktop::RunModal(Form& form) {

@@ -101,7 +101,6 @@ class QtDesktop : public Desktop {
   std::unique_ptr<QObject> lifetime_;
   std::vector<QtFormView*> views_;
   std::vector<ModalLoop> modal_loops_;
-  QEventLoop* main_loop_ = nullptr;
   int event_depth_ = 0;
   int mirroring_ = 0;
   // Above 0, changes of the focus are kept back until the event loop runs again: their handlers may
