@@ -2,11 +2,11 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QDialog>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QMainWindow>
 #include <QMenu>
 #include <QMenuBar>
-#include <QStyle>
 #include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QPushButton>
@@ -211,9 +211,14 @@ TEST_F(FocusTest, MenusOpenWhateverTheFormSwallows) {
 TEST_F(FocusTest, AltAloneGoesToTheMenuBarWhateverTheFormSwallows) {
   SwallowAllKeys(form);
   form.txtName.SetFocus();
-  Press(Find<QLineEdit>(form, "txtName"), Qt::Key_Alt, Qt::AltModifier);
-  auto* bar = static_cast<QMainWindow*>(desktop.Window(form))->menuBar();
-  EXPECT_TRUE(bar->hasFocus()) << QApplication::focusWidget()->metaObject()->className() << bar->style()->styleHint(QStyle::SH_MenuBar_AltKeyNavigation, nullptr, bar) << (bar->activeAction() != nullptr);
+  // The window's menu bar waits for the question that goes before the key.
+  QKeyEvent question(QEvent::ShortcutOverride, Qt::Key_Alt, Qt::AltModifier);
+  Send(desktop.Window(form), question);
+  QKeyEvent press(QEvent::KeyPress, Qt::Key_Alt, Qt::AltModifier);
+  Send(Find<QLineEdit>(form, "txtName"), press);
+  QKeyEvent release(QEvent::KeyRelease, Qt::Key_Alt, Qt::NoModifier);
+  Send(Find<QLineEdit>(form, "txtName"), release);
+  EXPECT_TRUE(static_cast<QMainWindow*>(desktop.Window(form))->menuBar()->hasFocus());
 }
 
 TEST_F(FocusTest, TabMovesTheFocusWhateverTheFormSwallows) {

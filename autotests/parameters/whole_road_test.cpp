@@ -12,103 +12,12 @@
 #include <string>
 #include <vector>
 
-#include "autotests/common/program_fixture.h"
-#include "autotests/common/simulated_link.h"
+#include "autotests/parameters/road_fixture.h"
 
 namespace lorimet::testing_support {
 namespace {
 
-using Bytes = std::vector<std::uint8_t>;
-
-constexpr std::array<std::uint8_t, 16> kBlocks = {0x03, 0x3D, 0x27, 0x17, 0x28, 0x05, 0x06, 0x42,
-                                                  0x37, 0x38, 0x39, 0x3A, 0x3B, 0x3C, 0x44, 0x45};
-
-// A program on a simulated trailer; time passes in both at once.
-class WholeRoadTest : public testing::TestWithParam<const char*> {
- protected:
-  void Begin(const std::string& scenario) {
-    link = std::make_unique<SimulatedLink>(scenario);
-    ASSERT_EQ(link->link.ScenarioError(), "");
-    link->link.SetStatusSink([this](std::int32_t status) { hook.Post(status); });
-    link->link.SetWaiter(
-        [this](double seconds) { clock.Advance(static_cast<std::uint32_t>(seconds * 1000)); });
-    clock.on_advance = [this](std::uint32_t milliseconds) {
-      link->link.Advance(milliseconds / 1000.0);
-    };
-    desktop.on_do_events = [this] { hook.Deliver(); };
-    program = std::make_unique<Program>(Ports{desktop, clock, registry, hook, process, *link,
-                                              help_viewer, translations, profile_file});
-    ASSERT_EQ(program->Start(), EntryResult::kRunning);
-  }
-  static std::string Scenario(const std::string& configuration,
-                              const std::string& suspension = "air") {
-    return "configuration " + configuration + "\nsuspension " + suspension + "\n";
-  }
-
-  // Walks through the wizard and saves; `edit` may change a page on the way.
-  void Walk(const std::function<void(Form&)>& edit, Button frmOVGParm3::*save) {
-    const auto next = [&](const char* form, auto member) {
-      desktop.OnModal(form, [this, edit, member](Form& page) {
-        edit(page);
-        Press(member(page));
-      });
-    };
-    next("frmOVGParm1", [](Form& f) -> Button& { return static_cast<frmOVGParm1&>(f).cmdNext; });
-    if (Ecu().bNumModulators.Load() != 1)
-      next("frmGIOSelection",
-           [](Form& f) -> Button& { return static_cast<frmGIOSelection&>(f).cmdNext; });
-    next("frmOVGParm2", [](Form& f) -> Button& { return static_cast<frmOVGParm2&>(f).cmdNext; });
-    next("frmOVGParm3", [save](Form& f) -> Button& { return static_cast<frmOVGParm3&>(f).*save; });
-    program->main_form.mnuSystem[0].UserClick();
-  }
-  static void Press(Button& button) {
-    button.Owner().UserFocus(&button);
-    button.UserClick();
-  }
-
-  ECUData& Ecu() { return program->records.ecu_data; }
-  // What the ECU holds, by local id.
-  std::map<int, Bytes> Stored() {
-    std::map<int, Bytes> stored;
-    StartEcuSession(*link);
-    SetParameterAccess(*link, 1);
-    for (const std::uint8_t id : kBlocks) {
-      Bytes data(512);
-      std::uint8_t count = 0;
-      if (link->Trailer_OVG_ReadDataByLocId(id, &count, data.data()) != 0) continue;
-      data.resize(count);
-      stored[id] = data;
-    }
-    SetParameterAccess(*link, 0);
-    return stored;
-  }
-  std::vector<std::string> Complaints() {
-    std::vector<std::string> complaints;
-    for (const MessageBox& box : desktop.TakeBoxes())
-      if (box.title == "Parameter Error") complaints.push_back(box.text.substr(16, 4));
-    return complaints;
-  }
-  // The indices at which two states of a block differ.
-  static std::vector<int> Changed(const Bytes& before, const Bytes& after) {
-    std::vector<int> indices;
-    for (std::size_t i = 0; i < std::min(before.size(), after.size()); ++i)
-      if (before[i] != after[i]) indices.push_back(static_cast<int>(i));
-    return indices;
-  }
-
-  VirtualClock clock;
-  HeadlessDesktop desktop{clock};
-  MemoryRegistry registry;
-  HeadlessMessageHook hook;
-  HeadlessProcess process;
-  RecordingHelpViewer help_viewer;
-  TsTranslations translations{LORIMET_SOURCE_ROOT "/translations"};
-  PosixProfileFile profile_file;
-  std::unique_ptr<SimulatedLink> link;
-  std::unique_ptr<Program> program;
-};
-
-const auto kNoEdit = [](Form&) {};
+class WholeRoadTest : public RoadFixture<testing::TestWithParam<const char*>> {};
 
 TEST_P(WholeRoadTest, HealthyTrailerPassesUnchangedWithoutAComplaint) {
   const std::string parameter = GetParam();
@@ -133,7 +42,7 @@ INSTANTIATE_TEST_SUITE_P(Configurations, WholeRoadTest,
                          testing::Values("2S/1M air", "2S/2M air", "4S/2M air", "4S/2M mechanical",
                                          "2S/1M mechanical"));
 
-class WholeRoad : public WholeRoadTest {};
+class WholeRoad : public RoadFixture<testing::Test> {};
 
 TEST_F(WholeRoad, OneValueChangedByHandChangesItsBytesAlone) {
   Begin(Scenario("2S/1M"));

@@ -127,8 +127,7 @@ TEST_F(CloseDownTest, AMissingLauncherIsToldWhileTheMainFormStillStands) {
       [&] { process.starts = false; },
       [&] { process.files.clear(); },
       [&] {
-        registry.Remove(RegistryHive::kLocalMachine, std::string(kAppPathsKey) + "Hubrest.exe",
-                        "");
+        registry.Remove(RegistryHive::kLocalMachine, std::string(kAppPathsKey) + "Hubrest.exe", "");
       },
   };
   for (const auto& way : ways) {
@@ -172,9 +171,8 @@ class ClosedInTheMiddleTest : public CloseDownTest {
 TEST_F(ClosedInTheMiddleTest, OfTheStaticReadEndsTheWaitAndTheProgram) {
   link.on_static_read = [&] { CloseSoon(100); };  // the read never ends
   EXPECT_EQ(program.Start(), EntryResult::kEnded);
-  EXPECT_EQ(link.TakeCalls(),
-            (Calls{"Connect", "ReadStaticData", "StartSession 83", "Password",
-                   "BusMonitorStopRecord", "Disconnect", "StopSession"}));
+  EXPECT_EQ(link.TakeCalls(), (Calls{"Connect", "ReadStaticData", "StartSession 83", "Password",
+                                     "BusMonitorStopRecord", "Disconnect", "StopSession"}));
   EXPECT_EQ(clock.sleeps, (std::vector<std::uint32_t>{30, 30, 30, 30}));
   ExpectEndedInOrder();
   EXPECT_EQ(Main().nECUType, 0);

@@ -90,10 +90,8 @@ struct MenuRow {
 const std::vector<MenuRow> kMenu = {
     {"mnuDiagnostics_0", "&Display Faults", {"faults"}, true},
     {"mnuDiagnostics_1", "&Clear Faults", {"faults"}, true},
-    {"mnuDiagnostics_2",
-     "&Restart ECU Communications",
-     Calls{"Disconnect", "Connect", "ReadStaticData"} + kSession,
-     true},
+    {"mnuDiagnostics_2", "&Restart ECU Communications",
+     Calls{"Disconnect", "Connect", "ReadStaticData"} + kSession, true},
     {"mnuSignOff_0", "&Begin Sign-off Procedure", {"sign-off"}, true},
     {"mnuTests_3", "&Lamp Test", kSession + Calls{kAccessOn, "test 3", kAccessOff}, true},
     {"mnuSystem_0", "Edit Parameters From &ECU", {"read from ECU", "parameters"}, false},
@@ -143,9 +141,9 @@ TEST_F(CommandsTest, TheMenusHaveTheirCaptionsAndTheirStart) {
   EXPECT_THROW(Main().mnuHelp[2], RuntimeError);
   EXPECT_FALSE(Main().mnuODR[1].Enabled() && Ecu().dOdometer.Load() == -1.0);
   EXPECT_FALSE(Main().mnuUtility[5].Enabled());
-  const std::vector<const char*> kTests = {"&Pressure Test", "&Redundancy Test",
-                                           "&Sensor Test",   "&Lamp Test",
-                                           "Suspension &Calibration", "Stop Light &Activation"};
+  const std::vector<const char*> kTests = {
+      "&Pressure Test", "&Redundancy Test",        "&Sensor Test",
+      "&Lamp Test",     "Suspension &Calibration", "Stop Light &Activation"};
   for (int i = 0; i <= 5; ++i)
     EXPECT_EQ(Main().mnuTests[i].Caption(), kTests[static_cast<std::size_t>(i)]);
 }
@@ -191,9 +189,7 @@ struct ToolRow {
 const std::vector<ToolRow> kTools = {
     {3, "print", "Print Fault and Sensor\\Valve Test Information", {"print report"}},
     {4, "save", "Save Fault and Sensor\\Valve Test Information", {"save report"}},
-    {6,
-     "restart",
-     "Restart the Trailer Diagnostics",
+    {6, "restart", "Restart the Trailer Diagnostics",
      Calls{"Disconnect", "Connect", "ReadStaticData"} + kSession},
     {7, "faults", "View the Faults", {"faults"}},
     {8, "valve", "Test Lamp", kSession + Calls{"test 3"}},
@@ -271,8 +267,7 @@ TEST_F(CommandsTest, ADoubleClickOnThePanelOpensAScreen) {
 
 TEST_F(CommandsTest, ADoubleClickNeedsAConnectionAndOpenCommands) {
   const auto click_all = [&] {
-    for (TextBox* box :
-         {&Main().txtExistingFaults, &Main().txtWarningLamp, &Main().txtBrake2Press})
+    for (TextBox* box : {&Main().txtExistingFaults, &Main().txtWarningLamp, &Main().txtBrake2Press})
       box->UserDoubleClick();
   };
   Main().bConnected = false;

@@ -95,8 +95,8 @@ TEST_F(ConnectionTest, EveryClientIdentifierFrom0To127IsASuccess) {
   EXPECT_EQ(desktop.ModalForms(), Calls{});
 }
 
-class FailedConnectTest : public ConnectionTest, public testing::WithParamInterface<std::int32_t> {
-};
+class FailedConnectTest : public ConnectionTest,
+                          public testing::WithParamInterface<std::int32_t> {};
 
 TEST_P(FailedConnectTest, IsShownWithItsFullNumberAndThenAdvised) {
   const std::string number = std::to_string(GetParam());
@@ -181,8 +181,7 @@ TEST_F(FailureTest, ATextWithoutItsEndFillsTheFixedLength) {
     std::fill_n(buffer, length + 1, 'x');  // over the terminator too
   };
   Fail([&] { program.Start(); });
-  EXPECT_EQ(Main().txtError.Text(),
-            "RP1210A Error: 130\r\n" + std::string(1024, 'x') + "\r\n");
+  EXPECT_EQ(Main().txtError.Text(), "RP1210A Error: 130\r\n" + std::string(1024, 'x') + "\r\n");
 }
 
 TEST_F(FailureTest, TheHookStaysAndStatusesAreHandledOnce) {
@@ -252,11 +251,11 @@ TEST_P(SessionTriesTest, EachServiceIsTriedUpToFourTimesAndNothingIsReported) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Answers, SessionTriesTest,
-                         testing::Values(Tries{{}, {}, 1, 1},                             //
-                                         Tries{{-1}, {}, 2, 1},                           //
-                                         Tries{{1, 2, 3}, {}, 4, 1},                      //
-                                         Tries{{1, 2, 3, 4}, {}, 4, 1},                   //
-                                         Tries{{}, {7, 7, 7}, 1, 4},                      //
+                         testing::Values(Tries{{}, {}, 1, 1},            //
+                                         Tries{{-1}, {}, 2, 1},          //
+                                         Tries{{1, 2, 3}, {}, 4, 1},     //
+                                         Tries{{1, 2, 3, 4}, {}, 4, 1},  //
+                                         Tries{{}, {7, 7, 7}, 1, 4},     //
                                          Tries{{1, 1, 1, 1, 1}, {1, 1, 1, 1, 1}, 4, 4}));
 
 }  // namespace

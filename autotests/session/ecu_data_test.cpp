@@ -88,7 +88,7 @@ TEST_F(EcuDataTest, EachByteLiesAtItsOffset) {
 }
 
 template <std::size_t N>
-void ExpectText(ECUData& ecu, EcuText<N> ECUData::* field, std::size_t offset, std::size_t size) {
+void ExpectText(ECUData& ecu, EcuText<N> ECUData::*field, std::size_t offset, std::size_t size) {
   EXPECT_EQ(N, size);
   (ecu.*field).Store("ab");
   const char* bytes = reinterpret_cast<const char*>(&ecu) + offset;

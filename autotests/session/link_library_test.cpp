@@ -20,7 +20,7 @@ TEST(LinkCallTest, IsTriedUntilItSucceedsAndFourTimesAtTheMost) {
     std::int32_t result;
   };
   const std::vector<Row> kRows = {
-      {{0}, 1, 0},          {{1, 0}, 2, 0},           {{1, 2, 0}, 3, 0},
+      {{0}, 1, 0},          {{1, 0}, 2, 0},          {{1, 2, 0}, 3, 0},
       {{1, 2, 3, 0}, 4, 0}, {{1, 2, 3, 4, 0}, 4, 4}, {{-1, 65536, 1, -7}, 4, -7},
   };
   for (const Row& row : kRows) {

@@ -130,8 +130,8 @@ TEST_F(LinkMessagesTest, ATextThatIsNoErrorOfTheLinkIsRemovedToo) {
 
 TEST_F(LinkMessagesTest, AnUnlistedStatusLeavesTheTextAndAnswersZero) {
   Main().txtError.SetText("stands");
-  for (const std::int32_t status : {-99, -101, -1, 1, 100, 500, 66, 67, -65, -68, -499, -501,
-                                    INT32_MAX, INT32_MIN}) {
+  for (const std::int32_t status :
+       {-99, -101, -1, 1, 100, 500, 66, 67, -65, -68, -499, -501, INT32_MAX, INT32_MIN}) {
     EXPECT_EQ(Status(status), 0) << status;
     EXPECT_EQ(Center(), "stands") << status;
   }

@@ -49,8 +49,8 @@ TEST_F(LivePanelTest, ShowsAHealthyTrailer) {
 
 // A field of the record, its value, and what one pass makes of it.
 struct Row {
-  EcuDouble ECUData::* field;
-  TextBox frmZeltMain::* box;
+  EcuDouble ECUData::*field;
+  TextBox frmZeltMain::*box;
   double value;
   const char* text;
 };
@@ -156,12 +156,12 @@ TEST_P(VoltageSourceTest, SelectsTheOptionThatItNamesOrNone) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Values, VoltageSourceTest,
-                         testing::Values(Source{0.0, 0, 1}, Source{1.0, 1, 0},   //
-                                         Source{0.4, 0, 1}, Source{0.5, 0, 1},   //
-                                         Source{0.6, 1, 0}, Source{1.4, 1, 0},   //
-                                         Source{1.5, 0, 0}, Source{2.0, 1, 1},   //
-                                         Source{-0.4, 0, 1}, Source{-1.0, 1, 1}, //
-                                         Source{-1.0, 0, 0}, Source{-3.0, 0, 0}, //
+                         testing::Values(Source{0.0, 0, 1}, Source{1.0, 1, 0},    //
+                                         Source{0.4, 0, 1}, Source{0.5, 0, 1},    //
+                                         Source{0.6, 1, 0}, Source{1.4, 1, 0},    //
+                                         Source{1.5, 0, 0}, Source{2.0, 1, 1},    //
+                                         Source{-0.4, 0, 1}, Source{-1.0, 1, 1},  //
+                                         Source{-1.0, 0, 0}, Source{-3.0, 0, 0},  //
                                          Source{1e300, 1, 1}, Source{kNan, 1, 1},
                                          Source{kInfinity, 0, 0}));
 
@@ -182,7 +182,8 @@ class SpeedTest : public LivePanelTest, public testing::WithParamInterface<Speed
 
 TEST_P(SpeedTest, IsShownAboveTheNoise) {
   Pass();
-  for (int i = 0; i <= 5; ++i) Ecu().dWheelSpeed[static_cast<std::size_t>(i)].Store(GetParam().value);
+  for (int i = 0; i <= 5; ++i)
+    Ecu().dWheelSpeed[static_cast<std::size_t>(i)].Store(GetParam().value);
   Pass();
   for (int i = 2; i <= 5; ++i)
     EXPECT_EQ(ShownIn(Main().txtSpeed[i]), (Shown{GetParam().text, GetParam().color})) << i;

@@ -57,21 +57,21 @@ struct Configuration {
   const char* text;
 };
 
-class ConfigurationTest : public IdentityTest, public testing::WithParamInterface<Configuration> {
-};
+class ConfigurationTest : public IdentityTest, public testing::WithParamInterface<Configuration> {};
 
 TEST_P(ConfigurationTest, IsNamedBySensorsAndModulators) {
   Systems(GetParam().sensors, GetParam().modulators);
   EXPECT_EQ(Main().txtConfig.Text(), GetParam().text);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Systems, ConfigurationTest,
-    testing::Values(Configuration{4, 2, "4S/2M"}, Configuration{2, 1, "2S/1M"},
-                    Configuration{4, 3, "4S/3M"}, Configuration{0, 2, "S/2M"},
-                    Configuration{4, 21, "4S/2M + 1M"}, Configuration{6, 0, "?S/?M"},
-                    Configuration{1, 4, "?S/?M"}, Configuration{3, 20, "?S/?M"},
-                    Configuration{255, 255, "?S/?M"}, Configuration{2, 22, "2S/?M"}));
+INSTANTIATE_TEST_SUITE_P(Systems, ConfigurationTest,
+                         testing::Values(Configuration{4, 2, "4S/2M"}, Configuration{2, 1, "2S/1M"},
+                                         Configuration{4, 3, "4S/3M"}, Configuration{0, 2, "S/2M"},
+                                         Configuration{4, 21, "4S/2M + 1M"},
+                                         Configuration{6, 0, "?S/?M"}, Configuration{1, 4, "?S/?M"},
+                                         Configuration{3, 20, "?S/?M"},
+                                         Configuration{255, 255, "?S/?M"},
+                                         Configuration{2, 22, "2S/?M"}));
 
 TEST_F(IdentityTest, OneModulatorClosesTwoTestsAndTwoOrThreeOpenThem) {
   const auto expect_tests = [&](bool open) {
@@ -182,19 +182,18 @@ TEST_P(PanelLanguageTest, TranslatesTheMissingValuesButForTheLiteralOnes) {
   EXPECT_EQ(Main().txtWarningLamp.Text(), GetParam().on);
   EXPECT_EQ(Main().txtExistingFaults.Text(), GetParam().yes);
   Main().ClearStatusPanel();
-  for (const TextBox* box :
-       {&Main().txtWarningLamp, &Main().txtPrimaryVolts, &Main().txtSupply, &Main().txtSteerBellows,
-        &Main().txtBrake2Press, &Main().txtSpeed[3]})
+  for (const TextBox* box : {&Main().txtWarningLamp, &Main().txtPrimaryVolts, &Main().txtSupply,
+                             &Main().txtSteerBellows, &Main().txtBrake2Press, &Main().txtSpeed[3]})
     EXPECT_EQ(box->Text(), no_data) << box->Name();
   EXPECT_EQ(Main().txtExistingFaults.Text(), GetParam().none);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Languages, PanelLanguageTest,
-    testing::Values(Words{kNative, "N/A", "On", "Off", "Yes", "None"},
-                    Words{kFrench, "N/D", "Allumé", "Éteint", "Oui", "Aucun"},
-                    Words{kEnglish, "N/A", "On", "Off", "Yes", "None"},
-                    Words{kSpanish, "N/D", "Encendida", "Apagada", "Sí", "Ninguno"}));
+INSTANTIATE_TEST_SUITE_P(Languages, PanelLanguageTest,
+                         testing::Values(Words{kNative, "N/A", "On", "Off", "Yes", "None"},
+                                         Words{kFrench, "N/D", "Allumé", "Éteint", "Oui", "Aucun"},
+                                         Words{kEnglish, "N/A", "On", "Off", "Yes", "None"},
+                                         Words{kSpanish, "N/D", "Encendida", "Apagada", "Sí",
+                                               "Ninguno"}));
 
 TEST_F(IdentityTest, APassMirrorsEachControlThatChangedOnceAndNoOther) {
   Pass();

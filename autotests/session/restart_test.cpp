@@ -73,8 +73,7 @@ TEST_F(RestartTest, ADisconnectThatFailsEndsTheRestartAndLeavesThePointer) {
   EXPECT_EQ(Main().Pointer(), MousePointer::kHourglass);
   // The next one has nothing to disconnect.
   Main().RestartECU();
-  EXPECT_EQ(link.TakeCalls(),
-            (Calls{"Connect", "ReadStaticData", "StartSession 83", "Password"}));
+  EXPECT_EQ(link.TakeCalls(), (Calls{"Connect", "ReadStaticData", "StartSession 83", "Password"}));
 }
 
 TEST_F(RestartTest, AnyResultOfTheDisconnectButZeroIsAFailure) {
@@ -132,8 +131,7 @@ TEST_F(RestartTest, TheStaticReadIsWaitedForIn30MillisecondSteps) {
   ASSERT_EQ(program.Start(), EntryResult::kRunning);
   EXPECT_EQ(clock.sleeps, (std::vector<std::uint32_t>{30, 30, 30, 30}));
   EXPECT_EQ(seen, Calls{"refuses"});
-  EXPECT_EQ(link.TakeCalls(),
-            (Calls{"Connect", "ReadStaticData", "StartSession 83", "Password"}));
+  EXPECT_EQ(link.TakeCalls(), (Calls{"Connect", "ReadStaticData", "StartSession 83", "Password"}));
   EXPECT_EQ(Main().nECUType, 2);
 }
 

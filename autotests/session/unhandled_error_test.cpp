@@ -94,9 +94,8 @@ TEST_F(UnhandledErrorTest, InTheMiddleOfTheFirstConnectionEndsItsWait) {
   };
   program.Start();
   EXPECT_EQ(desktop.TakeBoxes(), kOverflowBox);
-  EXPECT_EQ(link.TakeCalls(),
-            (Calls{"Connect", "ReadStaticData", "StartSession 83", "Password",
-                   "BusMonitorStopRecord", "Disconnect", "StopSession"}));
+  EXPECT_EQ(link.TakeCalls(), (Calls{"Connect", "ReadStaticData", "StartSession 83", "Password",
+                                     "BusMonitorStopRecord", "Disconnect", "StopSession"}));
   EXPECT_EQ(program.ExitStatus(), 1);
 }
 

@@ -57,7 +57,7 @@ void QtDesktop::ViewDropped(QtFormView& view) {
   QMetaObject::invokeMethod(
       lifetime_.get(),
       [this] {
-        if (LoadedForms().empty()) QCoreApplication::exit();
+        if (running_ && LoadedForms().empty()) QCoreApplication::exit();
       },
       Qt::QueuedConnection);
 }
@@ -95,7 +95,9 @@ std::uintptr_t QtDesktop::NativeWindow(Form& form) {
 void QtDesktop::Run() {
   if (LoadedForms().empty()) return;
   const LoopScope scope(*this);
+  running_ = true;
   QCoreApplication::exec();
+  running_ = false;
 }
 
 void QtDesktop::RunModal(Form& form) {

@@ -107,6 +107,7 @@ class QtDesktop : public Desktop {
   // unload the very form that is being mirrored, shown or hidden.
   int quiet_ = 0;
   bool focus_pending_ = false;
+  bool running_ = false;
   bool failed_ = false;
   std::int64_t last_idle_ = 0;
 };
