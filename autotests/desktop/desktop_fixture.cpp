@@ -58,8 +58,7 @@ class Application : public testing::Environment {
   std::unique_ptr<QApplication> application_;
 };
 
-testing::Environment* const kApplication =
-    testing::AddGlobalTestEnvironment(new Application);
+testing::Environment* const kApplication = testing::AddGlobalTestEnvironment(new Application);
 
 template <typename Widget>
 Widget* Named(Widget* widget, const char* name) {

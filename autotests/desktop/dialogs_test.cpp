@@ -77,9 +77,9 @@ TEST_F(DialogsTest, ClosedBoxAnswersCancelElseItsLastButton) {
     unsigned buttons;
     BoxButton answer;
   };
-  for (const Row& row : {Row{kBoxOk, kBoxOk}, Row{kBoxYes | kBoxNo, kBoxNo},
-                         Row{kBoxOk | kBoxCancel, kBoxCancel},
-                         Row{kBoxYes | kBoxNo | kBoxCancel, kBoxCancel}}) {
+  for (const Row& row :
+       {Row{kBoxOk, kBoxOk}, Row{kBoxYes | kBoxNo, kBoxNo}, Row{kBoxOk | kBoxCancel, kBoxCancel},
+        Row{kBoxYes | kBoxNo | kBoxCancel, kBoxCancel}}) {
     MessageBox box;
     box.buttons = row.buttons;
     EXPECT_EQ(Answer(box, [](QMessageBox& shown) { Press(&shown, Qt::Key_Escape); }), row.answer);

@@ -181,8 +181,7 @@ TEST_F(EventsTest, OptionsOfOneArrayExcludeEachOther) {
 
 TEST_F(EventsTest, NoOptionNeedsToBeSelected) {
   auto* button = Find<QRadioButton>(form, "optChoice_1");
-  for (int i = 0; i < 3; ++i)
-    EXPECT_FALSE(form.optChoice[i].Value());
+  for (int i = 0; i < 3; ++i) EXPECT_FALSE(form.optChoice[i].Value());
   button->click();
   desktop.RunEvent([this] { form.optChoice[1].SetValue(false); });
   EXPECT_FALSE(button->isChecked());

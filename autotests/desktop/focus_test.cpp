@@ -211,13 +211,14 @@ TEST_F(FocusTest, MenusOpenWhateverTheFormSwallows) {
 TEST_F(FocusTest, AltAloneGoesToTheMenuBarWhateverTheFormSwallows) {
   SwallowAllKeys(form);
   form.txtName.SetFocus();
+  auto* field = Find<QLineEdit>(form, "txtName");
   // The window's menu bar waits for the question that goes before the key.
   QKeyEvent question(QEvent::ShortcutOverride, Qt::Key_Alt, Qt::AltModifier);
-  Send(desktop.Window(form), question);
+  QCoreApplication::sendEvent(desktop.Window(form), &question);
   QKeyEvent press(QEvent::KeyPress, Qt::Key_Alt, Qt::AltModifier);
-  Send(Find<QLineEdit>(form, "txtName"), press);
+  QCoreApplication::sendEvent(field, &press);
   QKeyEvent release(QEvent::KeyRelease, Qt::Key_Alt, Qt::NoModifier);
-  Send(Find<QLineEdit>(form, "txtName"), release);
+  QCoreApplication::sendEvent(field, &release);
   EXPECT_TRUE(static_cast<QMainWindow*>(desktop.Window(form))->menuBar()->hasFocus());
 }
 

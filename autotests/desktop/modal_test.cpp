@@ -151,14 +151,16 @@ TEST_F(ModalTest, QuittingTheApplicationEndsAModalShow) {
 
 TEST_F(ModalTest, DoEventsLetsTimersAndPostedEventsRun) {
   bool posted = false;
-  QMetaObject::invokeMethod(qApp, [&posted] { posted = true; }, Qt::QueuedConnection);
+  QMetaObject::invokeMethod(
+      qApp, [&posted] { posted = true; }, Qt::QueuedConnection);
   desktop.DoEvents();
   EXPECT_TRUE(posted);
 }
 
 TEST_F(ModalTest, RepaintRunsNoEvent) {
   bool posted = false;
-  QMetaObject::invokeMethod(qApp, [&posted] { posted = true; }, Qt::QueuedConnection);
+  QMetaObject::invokeMethod(
+      qApp, [&posted] { posted = true; }, Qt::QueuedConnection);
   desktop.Repaint();
   EXPECT_FALSE(posted);
   Pump();

@@ -83,20 +83,13 @@ TEST(QtKeysTest, KeysHaveTheirVirtualCodes) {
     int shift;
   };
   const Row rows[] = {
-      {Qt::Key_A, Qt::NoModifier, 65, 0},
-      {Qt::Key_Z, Qt::ShiftModifier, 90, 1},
-      {Qt::Key_7, Qt::NoModifier, 55, 0},
-      {Qt::Key_7, Qt::KeypadModifier, 103, 0},
-      {Qt::Key_Plus, Qt::KeypadModifier, 107, 0},
-      {Qt::Key_Plus, Qt::NoModifier, 187, 0},
-      {Qt::Key_Enter, Qt::KeypadModifier, 13, 0},
-      {Qt::Key_Left, Qt::KeypadModifier, 37, 0},
-      {Qt::Key_F1, Qt::NoModifier, 112, 0},
-      {Qt::Key_F12, Qt::ControlModifier, 123, 2},
-      {Qt::Key_Delete, Qt::AltModifier, 46, 4},
-      {Qt::Key_Escape, Qt::NoModifier, 27, 0},
-      {Qt::Key_Exclam, Qt::ShiftModifier, 49, 1},
-      {Qt::Key_Backtab, Qt::ShiftModifier, 9, 1},
+      {Qt::Key_A, Qt::NoModifier, 65, 0},         {Qt::Key_Z, Qt::ShiftModifier, 90, 1},
+      {Qt::Key_7, Qt::NoModifier, 55, 0},         {Qt::Key_7, Qt::KeypadModifier, 103, 0},
+      {Qt::Key_Plus, Qt::KeypadModifier, 107, 0}, {Qt::Key_Plus, Qt::NoModifier, 187, 0},
+      {Qt::Key_Enter, Qt::KeypadModifier, 13, 0}, {Qt::Key_Left, Qt::KeypadModifier, 37, 0},
+      {Qt::Key_F1, Qt::NoModifier, 112, 0},       {Qt::Key_F12, Qt::ControlModifier, 123, 2},
+      {Qt::Key_Delete, Qt::AltModifier, 46, 4},   {Qt::Key_Escape, Qt::NoModifier, 27, 0},
+      {Qt::Key_Exclam, Qt::ShiftModifier, 49, 1}, {Qt::Key_Backtab, Qt::ShiftModifier, 9, 1},
       {Qt::Key_VolumeUp, Qt::NoModifier, 255, 0},
   };
   for (const Row& row : rows) {

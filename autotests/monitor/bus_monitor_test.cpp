@@ -53,8 +53,8 @@ TEST_F(BusMonitorTest, DropsTheCommentsOfANamelessFile) {
   process.folder = "/program";
   monitor.SetDatalogInfo("", "comments");
   monitor.MonitorStartRecord();
-  EXPECT_EQ(link.TakeCalls(), Calls{std::string("BusMonitorStartRecord /program") +
-                                    kPathSeparator + "Default.txt||0"});
+  EXPECT_EQ(link.TakeCalls(), Calls{std::string("BusMonitorStartRecord /program") + kPathSeparator +
+                                    "Default.txt||0"});
 }
 
 TEST_F(BusMonitorTest, SpeaksCodePage1252WithTheLibrary) {

@@ -3,8 +3,8 @@
 
 #include <gtest/gtest.h>
 
-#include <cmath>
 #include <functional>
+#include <set>
 #include <string>
 #include <tuple>
 #include <vector>
@@ -51,13 +51,24 @@ TEST(Conversions, HalvesGoToTheEvenNeighbour) {
   EXPECT_EQ(TeethByte("3.5"), 4);
   EXPECT_EQ(TyreByte("62.5"), 2);
   EXPECT_EQ(TyreByte("87.5"), 4);
-  EXPECT_EQ(UnladenSuspensionByte("50"), 34);  // 34.5
+  EXPECT_EQ(UnladenSuspensionByte("50"), 34);    // 34.5
+  EXPECT_EQ(UnladenSuspensionByte("150"), 103);  // 103.4999..., because 0.69 is no float
 }
 
-TEST(Conversions, DriftIsAtMostOneCount) {
+TEST(Conversions, OnlyTheUnladenSuspensionDriftsAndByOneCount) {
+  const std::set<int> drifting = {163, 183, 192, 203, 212, 214, 223, 232, 234, 243, 252, 254};
   for (int byte = 0; byte <= 255; ++byte) {
     const auto b = static_cast<std::uint8_t>(byte);
-    EXPECT_LE(std::abs(PressureByte(PressureText(b)) - byte), 1) << byte;
+    EXPECT_EQ(PressureByte(PressureText(b)), byte);
+    EXPECT_EQ(PressureByte(PressureTextPmAn(b)), byte);
+    EXPECT_EQ(UnladenSuspensionByte(PressureText(b)), drifting.contains(byte) ? byte + 1 : byte);
+  }
+}
+
+TEST(Conversions, EveryTyreAndToothReadsBack) {
+  for (int byte = 0; byte <= 255; ++byte) {
+    EXPECT_EQ(TyreByte(TyreText(static_cast<std::uint8_t>(byte))), byte);
+    EXPECT_EQ(TeethByte(std::to_string(byte)), byte);
   }
 }
 
@@ -79,13 +90,18 @@ TEST(Conversions, LengthsArePairsOfTenths) {
   EXPECT_EQ(LengthPair("0.15").low, 2);
 }
 
-TEST(Conversions, EveryTenthPairReadsBack) {
-  for (int tenths = 0; tenths <= 65535; tenths += 7) {
-    const auto high = static_cast<std::uint8_t>(tenths / 256);
-    const auto low = static_cast<std::uint8_t>(tenths % 256);
-    const BytePair pair = LengthPair(LengthText(high, low));
-    ASSERT_EQ(pair.high, high) << tenths;
-    ASSERT_EQ(pair.low, low) << tenths;
+TEST(Conversions, EveryPairIsShownAndReadsBack) {
+  for (int value = 0; value <= 65535; ++value) {
+    const auto high = static_cast<std::uint8_t>(value / 256);
+    const auto low = static_cast<std::uint8_t>(value % 256);
+    std::string mm = std::to_string(value / 10);
+    if (value % 10 != 0) mm += "." + std::to_string(value % 10);
+    ASSERT_EQ(LengthText(high, low), mm);
+    ASSERT_EQ(AxleLoadText(high, low), std::to_string(value));
+    for (const BytePair& pair : {LengthPair(mm), AxleLoadPair(std::to_string(value))}) {
+      ASSERT_EQ(pair.high, high) << value;
+      ASSERT_EQ(pair.low, low) << value;
+    }
   }
 }
 
@@ -126,6 +142,23 @@ TEST(Conversions, WhatIsNoNumberIsAMismatch) {
   }
 }
 
+TEST(Conversions, BlanksAtTheEndsAreNoPartOfANumber) {
+  EXPECT_EQ(PressureByte("  58 "), 40);
+  EXPECT_EQ(UnladenSuspensionByte(" 37 "), 26);
+  EXPECT_EQ(LengthPair(" 123.4 ").low, 210);
+  EXPECT_EQ(TyreByte(" 3250 "), 130);
+  EXPECT_EQ(TeethByte(" 100 "), 100);
+}
+
+TEST(Conversions, HighBytesAreCutAndLowBytesRounded) {
+  EXPECT_EQ(AxleLoadPair("511.4").high, 1);
+  EXPECT_EQ(AxleLoadPair("511.4").low, 255);
+  EXPECT_EQ(ErrorOf([] { AxleLoadPair("511.5"); }), 6);  // 1 and 255.5
+  EXPECT_EQ(LengthPair("25.54").high, 0);
+  EXPECT_EQ(LengthPair("25.54").low, 255);
+  EXPECT_EQ(ErrorOf([] { LengthPair("25.55"); }), 6);
+}
+
 TEST(Conversions, PackedDigits) {
   EXPECT_EQ(PackedText(0x20), "20");
   EXPECT_EQ(PackedText(0x06), "06");
@@ -134,6 +167,9 @@ TEST(Conversions, PackedDigits) {
   EXPECT_EQ(PackedByte("2", "0"), 0x20);
   EXPECT_EQ(PackedByte("", ""), 0);
   EXPECT_EQ(PackedByte("x", "7"), 7);
+  EXPECT_EQ(PackedByte("1", "234"), 250);
+  EXPECT_EQ(ErrorOf([] { PackedByte("1", "240"); }), 6);
+  EXPECT_EQ(ErrorOf([] { PackedByte("0", "-1"); }), 6);
 }
 
 TEST(Conversions, BlockTextsEndAtANul) {

@@ -2,9 +2,10 @@
 #include "parameters/parameter_file.h"
 
 #include <gtest/gtest.h>
-#include <sys/stat.h>
+#include <sys/resource.h>
 #include <unistd.h>
 
+#include <csignal>
 #include <filesystem>
 #include <fstream>
 #include <sstream>
@@ -15,6 +16,26 @@ namespace lorimet::testing_support {
 namespace {
 
 namespace fs = std::filesystem;
+
+// As long as it stands, no file of this process grows beyond `bytes`: a disk that is full.
+class FullDisk {
+ public:
+  explicit FullDisk(rlim_t bytes) : handler_(std::signal(SIGXFSZ, SIG_IGN)) {
+    getrlimit(RLIMIT_FSIZE, &before_);
+    const rlimit limit{bytes, before_.rlim_max};
+    setrlimit(RLIMIT_FSIZE, &limit);
+  }
+  FullDisk(const FullDisk&) = delete;
+  FullDisk& operator=(const FullDisk&) = delete;
+  ~FullDisk() {
+    setrlimit(RLIMIT_FSIZE, &before_);
+    std::signal(SIGXFSZ, handler_);
+  }
+
+ private:
+  rlimit before_{};
+  void (*handler_)(int);
+};
 
 class ParameterFileTest : public ProgramTest {
  protected:
@@ -51,6 +72,10 @@ class ParameterFileTest : public ProgramTest {
   bool ReadText(const std::string& text) {
     std::ofstream(Path(), std::ios::binary) << text;
     return ReadFile();
+  }
+  std::size_t FilesInFolder() const {
+    return static_cast<std::size_t>(
+        std::distance(fs::directory_iterator(folder_), fs::directory_iterator()));
   }
   // A file that reads through, but for what `sections` says.
   static std::string Whole(const std::string& sections) {
@@ -152,6 +177,24 @@ TEST_F(ParameterFileTest, ProposesTheVehicleThenTheSerialNumberThenAPlainName) {
   EXPECT_EQ(proposed(), "VIN 7");
 }
 
+TEST_F(ParameterFileTest, SerialNumberOfBlanksProposesNoName) {
+  FillImage();
+  Ecu().SerialNum.Store("                ");
+  EXPECT_TRUE(WriteFile());
+  EXPECT_EQ(desktop.TakeFileDialogs().at(0).file_name, "");
+}
+
+TEST_F(ParameterFileTest, ProposalEndsAtANulAndIsInTheProgramsOwnCharacters) {
+  const auto proposed = [&] {
+    EXPECT_FALSE(program.parameter_file.WriteParmsToFile());
+    return desktop.TakeFileDialogs().at(0).file_name;
+  };
+  Ecu().SerialNum.Store(std::string("S\xE9\0XYZ", 6));
+  EXPECT_EQ(proposed(), "Sé");
+  Image().strTrailerVIN = " Ä7 ";
+  EXPECT_EQ(proposed(), "Ä7");
+}
+
 TEST_F(ParameterFileTest, NameThatWouldLeaveTheFolderEndsInSilence) {
   for (const char* name : {"AB/12", "..\\x", "C:x", "CON", "nul.txt", "a\tb", ".."}) {
     Image().strTrailerVIN = name;
@@ -181,6 +224,67 @@ TEST_F(ParameterFileTest, AbsentBlockOfARequiredSectionEndsTheWriteHalfWay) {
   EXPECT_EQ(text.find("[EOL7_Vehicle_Data]"), std::string::npos);
 }
 
+TEST_F(ParameterFileTest, CountBeyondTheBlockEndsTheWriteHalfWay) {
+  FillImage();
+  Image().EOL1.bNumBytes = 201;
+  EXPECT_TRUE(WriteFile());
+  EXPECT_NE(TextOf(Path()).find("P_200=0\r\nCount=200\r\n"), std::string::npos);
+  fs::remove(Path());
+  Image().EOL1.bNumBytes = 202;
+  EXPECT_FALSE(WriteFile());
+  const std::string text = TextOf(Path());
+  EXPECT_TRUE(text.ends_with("P_200=0\r\n")) << text;
+}
+
+TEST_F(ParameterFileTest, FullDiskLeavesTheOldFileWhole) {
+  FillImage();
+  Image().EOL1.bNumBytes = 201;
+  ASSERT_TRUE(WriteFile());
+  const std::string old = TextOf(Path());
+  Image().EOL1(1) = 99;
+  {
+    const FullDisk full(1000);
+    EXPECT_FALSE(WriteFile());
+  }
+  EXPECT_EQ(TextOf(Path()), old);
+  EXPECT_EQ(FilesInFolder(), 1u);
+  EXPECT_TRUE(WriteFile());
+  EXPECT_NE(TextOf(Path()).find("P_001=99\r\n"), std::string::npos);
+}
+
+TEST_F(ParameterFileTest, FullDiskLeavesNothingOfANewFile) {
+  FillImage();
+  Image().EOL5.bNumBytes = 0;  // which ends the write half-way on top of it
+  {
+    const FullDisk full(100);
+    EXPECT_FALSE(WriteFile());
+  }
+  EXPECT_EQ(FilesInFolder(), 0u);
+}
+
+TEST_F(ParameterFileTest, FolderInPlaceOfAFileNeitherReadsNorIsWritten) {
+  FillImage();
+  fs::create_directories(Path());
+  EXPECT_FALSE(WriteFile());
+  EXPECT_FALSE(ReadFile());
+  EXPECT_EQ(Image().EOL1.bNumBytes, 0);
+  EXPECT_EQ(FilesInFolder(), 1u);
+}
+
+TEST_F(ParameterFileTest, FileWithoutPermissionNeitherReadsNorIsWritten) {
+  if (::geteuid() == 0) GTEST_SKIP() << "everything is permitted to root";
+  FillImage();
+  std::ofstream(Path(), std::ios::binary) << Whole("");
+  fs::permissions(Path(), fs::perms::none);
+  EXPECT_FALSE(ReadFile());
+  EXPECT_FALSE(WriteFile());
+  fs::permissions(Path(), fs::perms::owner_read);
+  EXPECT_TRUE(ReadFile());
+  FillImage();
+  EXPECT_FALSE(WriteFile());
+  EXPECT_EQ(TextOf(Path()), Whole(""));
+}
+
 TEST_F(ParameterFileTest, SectionWithNoKeysIsLeftOut) {
   FillImage();
   Image().EOL2.bNumBytes = 1;
@@ -202,6 +306,24 @@ TEST_F(ParameterFileTest, ChecksumOverflowsBeyondSixteenBits) {
   const std::string text = TextOf(Path());
   EXPECT_NE(text.find("P_128=255"), std::string::npos);
   EXPECT_EQ(text.find("P_129"), std::string::npos);
+}
+
+// Padding blanks are lost on the way through a file.
+TEST_F(ParameterFileTest, ShortTextIsWrittenAndDoesNotReadBack) {
+  FillImage();
+  for (int i = 19; i < 22; ++i) Image().EOL7(i) = ' ';
+  ASSERT_TRUE(WriteFile());
+  EXPECT_NE(TextOf(Path()).find("VIN=XXXXXXXXXXXXXXX   \r\n"), std::string::npos);
+  EXPECT_FALSE(ReadFile());
+}
+
+TEST_F(ParameterFileTest, DateIsWrittenInItsHexadecimalText) {
+  FillImage();
+  Image().EOL7(1) = 0x0A;
+  Image().EOL7(2) = 0x00;
+  Image().EOL7(3) = 0xB7;
+  ASSERT_TRUE(WriteFile());
+  EXPECT_NE(TextOf(Path()).find("TrailerDateOfProduction=A00-B7\r\n"), std::string::npos);
 }
 
 TEST_F(ParameterFileTest, TextsEndAtANul) {
@@ -241,16 +363,89 @@ TEST_F(ParameterFileTest, DateIsPackedDigitByDigit) {
   EXPECT_EQ(Image().EOL7(3), 0x17);
 }
 
+TEST_F(ParameterFileTest, DateIsTakenByItsPlaces) {
+  struct Row {
+    const char* date;
+    int century, year, week;
+  };
+  for (const Row& row : std::vector<Row>{
+           {"2026/07", 0x20, 0x26, 0x07},
+           {"", 0, 0, 0},
+           {"2", 0x20, 0, 0},
+           {"2006", 0x20, 0x06, 0},
+           {"2006-1", 0x20, 0x06, 0x10},
+           {"AB1C-x9", 0, 0x10, 0x09},
+           {"2006-0100", 0x20, 0x06, 100},  // the week's second part is all the rest
+           {"2006-17.5", 0x20, 0x06, 0x18},
+           {"\"2006-17\"", 0x20, 0x06, 0x17},
+       }) {
+    std::string text = Whole("");
+    text.replace(text.find("2006-17"), 7, row.date);
+    ASSERT_TRUE(ReadText(text)) << row.date;
+    EXPECT_EQ(Image().EOL7(1), row.century) << row.date;
+    EXPECT_EQ(Image().EOL7(2), row.year) << row.date;
+    EXPECT_EQ(Image().EOL7(3), row.week) << row.date;
+  }
+  std::string text = Whole("");
+  text.replace(text.find("2006-17"), 7, "2006-1999");
+  EXPECT_FALSE(ReadText(text));
+}
+
+TEST_F(ParameterFileTest, SectionsAreReadInTheirOwnOrder) {
+  const char* const names[] = {"EOL1_System_Parameter", "EOL2_GIO_Functions", "EOL5_GIO_Connectors",
+                               "EOL3_GIO_Parameter",    "EOL4_SLEV_Parameter",
+                               "EOL6_ServiceIntervall", "EOL9_GIO_FID"};
+  for (std::size_t bad = 0; bad < std::size(names); ++bad) {
+    Image() = {};
+    std::string text;
+    for (std::size_t i = 0; i < std::size(names); ++i)
+      text += std::string("[") + names[i] + (i == bad ? "]\nCount=300\n" : "]\nCount=1\n");
+    EXPECT_FALSE(ReadText(Whole(text)));
+    const ParmBlock* const blocks[] = {&Image().EOL1, &Image().EOL2, &Image().EOL5, &Image().EOL3,
+                                       &Image().EOL4, &Image().EOL6, &Image().EOL9};
+    for (std::size_t i = 0; i < std::size(blocks); ++i)
+      EXPECT_EQ(blocks[i]->bNumBytes, i < bad ? 2 : 0) << names[bad] << " " << names[i];
+  }
+}
+
+TEST_F(ParameterFileTest, NamesMatchWithoutRegardToCaseAndOfTwoKeysTheFirstCounts) {
+  ASSERT_TRUE(ReadText(Whole("[eol1_SYSTEM_parameter]\ncOUNT=1\np_001=7\nP_001=8\n")));
+  EXPECT_EQ(Image().EOL1(1), 7);
+}
+
+TEST_F(ParameterFileTest, FilesInAnotherEncoding) {
+  const std::string plain = Whole("[EOL1_System_Parameter]\nCount=1\nP_001=7\n");
+  const auto with_vin = [&](const std::string& vin) {
+    std::string text = plain;
+    text.replace(text.find("ABCDEFGHIJKLMNOPQR"), 18, vin);
+    return text;
+  };
+  // UTF-16 behind its mark is understood.
+  std::string wide = "\xFF\xFE";
+  for (const char c : with_vin("\xE9" "BCDEFGHIJKLMNOPQR")) wide += {c, '\0'};
+  ASSERT_TRUE(ReadText(wide));
+  EXPECT_EQ(Image().EOL1(1), 7);
+  EXPECT_EQ(Ecu().VehicleId.Load(), "\xE9" "BCDEFGHIJKLMNOPQR");
+  // A mark of UTF-8 spoils the first line, here the header of the vehicle's bytes.
+  Image() = {};
+  ASSERT_TRUE(ReadText("\xEF\xBB\xBF" + plain));
+  EXPECT_EQ(Image().EOL1.bNumBytes, 0);
+  // UTF-8 without one is taken byte by byte, so this text is one byte longer and is cut.
+  ASSERT_TRUE(ReadText(with_vin("éBCDEFGHIJKLMNOPQR")));
+  EXPECT_EQ(Ecu().VehicleId.Load(), "\xC3\xA9" "BCDEFGHIJKLMNOPQ");
+}
+
 TEST_F(ParameterFileTest, ValuesAreReadByTheirLeadingNumber) {
   ASSERT_TRUE(
-      ReadText(Whole("[EOL1_System_Parameter]\nCount= 5 \nP_001= 12x\nP_002=abc\n"
-                     "P_004=2.5\nP_005=3.5\nChecksum=wrong\n")));
-  EXPECT_EQ(Image().EOL1.bNumBytes, 6);
+      ReadText(Whole("[EOL1_System_Parameter]\nCount= 6 \nP_001= 12x\nP_002=abc\n"
+                     "P_004=2.5\nP_005=3.5\nP_006=1e9\nChecksum=wrong\n")));
+  EXPECT_EQ(Image().EOL1.bNumBytes, 7);
   EXPECT_EQ(Image().EOL1(1), 12);
   EXPECT_EQ(Image().EOL1(2), 0);
   EXPECT_EQ(Image().EOL1(3), 0);  // no key
   EXPECT_EQ(Image().EOL1(4), 2);
   EXPECT_EQ(Image().EOL1(5), 4);
+  EXPECT_EQ(Image().EOL1(6), 1);
 }
 
 TEST_F(ParameterFileTest, BadNumbersEndTheReadAndKeepWhatWasRead) {
@@ -262,6 +457,7 @@ TEST_F(ParameterFileTest, BadNumbersEndTheReadAndKeepWhatWasRead) {
            {"[EOL1_System_Parameter]\nCount=256\n", 7},
            {"[EOL1_System_Parameter]\nCount=-1\n", 7},
            {"[EOL1_System_Parameter]\nCount=1000000000\n", 7},
+           {"[EOL1_System_Parameter]\nCount=255.5\n", 7},
            {"[EOL1_System_Parameter]\nCount=201\n", 201},
            {"[EOL1_System_Parameter]\nCount=255\n", 255},
            {"[EOL1_System_Parameter]\nCount=2\nP_001=5\nP_002=256\n", 2},
@@ -275,6 +471,18 @@ TEST_F(ParameterFileTest, BadNumbersEndTheReadAndKeepWhatWasRead) {
   }
 }
 
+TEST_F(ParameterFileTest, CountThatIsNoNumberMakesTheBlockAbsent) {
+  for (const char* count : {"", "abc", "-0.4", "0.5", "x5"}) {
+    Image().EOL1.bNumBytes = 7;
+    EXPECT_TRUE(ReadText(Whole(std::string("[EOL1_System_Parameter]\nCount=") + count +
+                               "\nP_001=9\n")))
+        << count;
+    EXPECT_EQ(Image().EOL1.bNumBytes, 0) << count;
+  }
+  // Four hundred digits are beyond every byte.
+  EXPECT_FALSE(ReadText(Whole("[EOL1_System_Parameter]\nCount=" + std::string(400, '9') + "\n")));
+}
+
 TEST_F(ParameterFileTest, TwoHundredBytesAreTheMost) {
   EXPECT_TRUE(ReadText(Whole("[EOL1_System_Parameter]\nCount=200\nP_200=9\n")));
   EXPECT_EQ(Image().EOL1(200), 9);
@@ -283,6 +491,7 @@ TEST_F(ParameterFileTest, TwoHundredBytesAreTheMost) {
 
 TEST_F(ParameterFileTest, ShortTextsEndTheReadInSilence) {
   const std::string whole = Whole("[EOL1_System_Parameter]\nCount=1\nP_001=5\n");
+  ASSERT_TRUE(ReadText(whole));
   for (const auto& [from, to] : std::vector<std::pair<std::string, std::string>>{
            {"VIN=ABCDEFGHIJKLMNOPQR", "VIN=ABCDEFGHIJKLMNOPQ"},
            {"Manufacturer=ABCDEFGHIJKLMNOPQRST", "Manufacturer=ABCDEFGHIJKLMNOPQRS "},
@@ -363,6 +572,12 @@ TEST_F(ParameterFileTest, StrangeFilesNeverHurt) {
   for (int i = 0; i < 4096; ++i) binary += static_cast<char>(i * 37);
   EXPECT_TRUE(ReadText(Whole(many)));
   EXPECT_TRUE(ReadText(Whole(std::string(1'000'000, 'k') + "=1\n")));
+  EXPECT_TRUE(ReadText(Whole("[Other]\n" + binary + "\n")));
+  std::string sections;
+  for (int i = 0; i < 10'000; ++i) sections += "[S" + std::to_string(i) + "]\nk=v\n";
+  EXPECT_TRUE(ReadText(Whole(sections)));
+  EXPECT_TRUE(ReadText(Whole("[EOL1_System_Parameter]\nCount=" + std::string(1'000'000, ' ') +
+                             "1\nP_001=" + std::string(1'000'000, '0') + "\n")));
   EXPECT_FALSE(ReadText(binary));
   EXPECT_FALSE(ReadText(std::string(1'000'000, '\0')));
   EXPECT_TRUE(ReadText(Whole("[EOL1_System_Parameter]\rCount=1\rP_001=7\r")));

@@ -176,6 +176,77 @@ TEST_F(ParameterReadingTest, FailedBlocksRefreshNothing) {
   EXPECT_EQ(Ecu().VehicleId.Load().substr(0, 4), "KEPT");
 }
 
+TEST_F(ParameterReadingTest, ResultIsTheStatusOfTheLastBlockAlone) {
+  Start();
+  link.read_block = [](std::uint8_t id, std::uint8_t*, std::uint8_t*) {
+    return id == 0x42 ? 0 : 7;
+  };
+  EXPECT_EQ(Read(), 0);
+  link.read_block = [](std::uint8_t id, std::uint8_t*, std::uint8_t*) {
+    return id == 0x42 ? 7 : 0;
+  };
+  EXPECT_EQ(Read(), 7);
+}
+
+TEST_F(ParameterReadingTest, RefusedSessionAndAccessDoNotStopTheRead) {
+  Start();
+  link.always = {{"StartSession", 1}, {"Password", 1}, {"StartRoutine", 1}};
+  Answer(80);
+  EXPECT_EQ(Read(), 0);
+  Calls expected(4, "StartSession 83");
+  expected.insert(expected.end(), 4, "Password");
+  expected.insert(expected.end(), 4, "StartRoutine 42:00000100");
+  for (const char* id : {"3D", "03", "06", "28", "27", "42"})
+    expected.push_back(std::string("ReadData ") + id);
+  EXPECT_EQ(link.TakeCalls(), expected);
+  EXPECT_EQ(Image().EOL1.bNumBytes, 80);
+}
+
+TEST_F(ParameterReadingTest, AccessStaysOpenBehindTheRead) {
+  Start();
+  Read();
+  EXPECT_EQ(std::ranges::count(link.TakeCalls(), "StartRoutine 42:00000000"), 0);
+}
+
+TEST_F(ParameterReadingTest, CountOfTheGuardIsEmptiedBeforeEachTryAndNoOther) {
+  Start();
+  Image().EOL2.bNumBytes = 33;
+  Image().EOL1.bNumBytes = 44;
+  std::map<int, std::vector<int>> given;
+  link.read_block = [&](std::uint8_t id, std::uint8_t* count, std::uint8_t*) {
+    given[id].push_back(*count);
+    *count = 99;
+    return 1;
+  };
+  Read();
+  EXPECT_EQ(given[0x3D], (std::vector<int>{0, 0, 0, 0}));
+  EXPECT_EQ(given[0x03], (std::vector<int>{44, 44, 44, 44}));
+}
+
+TEST_F(ParameterReadingTest, AnyCountAndAnotherBlocksAnswerAreTakenAsTheyAre) {
+  Start();
+  for (const int returned : {0, 1, 2, 200, 201, 202, 255}) {
+    link.read_block = [returned](std::uint8_t, std::uint8_t* count, std::uint8_t* data) {
+      std::fill_n(data, 512, std::uint8_t{0x99});  // the echo of no block at all
+      *count = static_cast<std::uint8_t>(returned);
+      return 0;
+    };
+    Image() = {};
+    EXPECT_EQ(Read(), 0);
+    for (const ParmBlock* block :
+         {&Image().EOL1, &Image().EOL2, &Image().EOL3, &Image().EOL5, &Image().EOL9}) {
+      EXPECT_EQ(block->bNumBytes, returned);
+      EXPECT_EQ((*block)(0), 0x99);
+      EXPECT_EQ((*block)(200), 0x99);
+    }
+    EXPECT_EQ(Image().EOL7.bNumBytes, 123);
+    EXPECT_EQ(Image().EOL4, ParmBlock());
+    // The wizard opens and closes on it.
+    desktop.OnModal("frmOVGParm1", [](Form& form) { form.UserClose(); });
+    Main().mnuSystem[0].UserClick();
+  }
+}
+
 TEST_F(ParameterReadingTest, MenuOpensTheWizardWhateverTheReadReturned) {
   Start();
   link.read_block = [](std::uint8_t, std::uint8_t*, std::uint8_t*) { return 1; };

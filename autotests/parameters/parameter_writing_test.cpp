@@ -136,6 +136,75 @@ TEST_F(ParameterWritingTest, CountBeyondTheBlockSendsZerosForTheRest) {
   desktop.TakeBoxes();
 }
 
+TEST_F(ParameterWritingTest, BlockOfItsIdAloneSendsNoBytes) {
+  Open();
+  Image().EOL2.bNumBytes = 1;
+  AnswerErrors({});
+  Write();
+  const Calls calls = link.TakeCalls();
+  EXPECT_EQ(std::ranges::count(calls, "WriteMemory 3D:0"), 1);
+  EXPECT_EQ(desktop.TakeBoxes(), Boxes{kSaved});
+}
+
+TEST_F(ParameterWritingTest, PointerShowsTheWorkFromTheFirstCallToTheLastComplaint) {
+  Open();
+  Image().EOL2.bNumBytes = 3;
+  std::vector<MousePointer> pointers;
+  link.on_call = [&](const std::string&) { pointers.push_back(Page().Pointer()); };
+  AnswerErrors({{1, 0x01}});
+  desktop.OnBox([&](const MessageBox&) { pointers.push_back(Page().Pointer()); });
+  MousePointer at_the_end = MousePointer::kHourglass;
+  std::string status_at_the_end;
+  desktop.OnBox([&](const MessageBox&) {
+    at_the_end = Page().Pointer();
+    status_at_the_end = Page().txtStatus.Text();
+  });
+  Write();
+  EXPECT_EQ(desktop.TakeBoxes().size(), 2u);
+  EXPECT_FALSE(pointers.empty());
+  for (const MousePointer pointer : pointers) EXPECT_EQ(pointer, MousePointer::kHourglass);
+  EXPECT_EQ(at_the_end, MousePointer::kDefault);
+  EXPECT_EQ(status_at_the_end, " ");
+}
+
+TEST_F(ParameterWritingTest, RefusedSessionAndAccessDoNotStopTheWrite) {
+  Open();
+  Image().EOL2.bNumBytes = 3;
+  link.always = {{"StartSession", 1}, {"Password", 1}, {"StartRoutine", 1}};
+  AnswerErrors({});
+  Write();
+  const Calls calls = link.TakeCalls();
+  for (const char* call : {"StartSession 83", "Password", "StartRoutine 42:00000100",
+                           "StartRoutine 42:00000000"})
+    EXPECT_EQ(std::ranges::count(calls, call), 4) << call;
+  EXPECT_EQ(std::ranges::count(calls, "StartRoutine 05:"), 1);
+  EXPECT_EQ(std::ranges::count(calls, "WriteMemory 3D:2"), 1);
+  EXPECT_EQ(desktop.TakeBoxes(), Boxes{kSaved});
+}
+
+TEST_F(ParameterWritingTest, VerdictIsAskedUntilTheFirstAnswer) {
+  Open();
+  int tries = 0;
+  link.read_block = [&](std::uint8_t, std::uint8_t* count, std::uint8_t* data) {
+    EXPECT_EQ(*count, 0);
+    if (++tries < 4) return 1;
+    data[2] = 0x10;
+    return 0;
+  };
+  Write();
+  EXPECT_EQ(tries, 4);
+  const Boxes boxes = desktop.TakeBoxes();
+  ASSERT_EQ(boxes.size(), 2u);
+  EXPECT_TRUE(boxes[0].text.starts_with("Parameter Error 2-4 : ")) << boxes[0].text;
+}
+
+TEST_F(ParameterWritingTest, TenBitsAreTenMessages) {
+  Open();
+  AnswerErrors({{3, 0xFF}, {4, 0x03}});
+  Write();
+  EXPECT_EQ(desktop.TakeBoxes().size(), 11u);
+}
+
 TEST_F(ParameterWritingTest, RefusedBlocksAreTriedFourTimesAndToldOneByOne) {
   Open();
   FillAll();

@@ -2,6 +2,9 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <string>
+#include <utility>
+#include <vector>
 
 #include "autotests/common/program_fixture.h"
 #include "parameters/conversions.h"
@@ -291,12 +294,202 @@ TEST_F(WizardTest, EmptyDatesEncodeAsZero) {
   EXPECT_EQ(Image().EOL7(3), 0);
 }
 
-TEST_F(WizardTest, WhatIsNoNumberEndsInAMismatch) {
+TEST_F(WizardTest, DatesAreTakenByTheirFirstAndLastCharacters) {
+  struct Row {
+    const char* year;
+    const char* week;
+    int century, years, weeks;
+  };
+  for (const Row& row : std::vector<Row>{
+           {"2026", "53", 0x20, 0x26, 0x53},
+           {"7", "7", 0x77, 0x77, 0x77},
+           {"26", "07", 0x26, 0x26, 0x07},
+           {"206", "1", 0x20, 0x06, 0x11},
+           {"abcd", "x", 0, 0, 0},
+           {"2x-6", "4x", 0x20, 0x06, 0x40},
+           {"é2", "é7", 0x02, 0x02, 0x07},  // a letter is one character, whatever its bytes
+           {"2é6€", "€", 0x20, 0x60, 0},
+       }) {
+    Page().Unload();
+    OpenPage();
+    Page().txtProdYear.UserType(row.year);
+    Page().txtProdWeek.UserType(row.week);
+    Press(Page().cmdNext);
+    EXPECT_EQ(Image().EOL7(1), row.century) << row.year;
+    EXPECT_EQ(Image().EOL7(2), row.years) << row.year;
+    EXPECT_EQ(Image().EOL7(3), row.weeks) << row.week;
+  }
+}
+
+// The fields of row 0 that must hold a number; the others may hold anything.
+std::vector<TextBox*> StrictFields(frmOVGParm2& page, bool air) {
+  std::vector<TextBox*> fields = {
+      &page.txtBrakingPressLadenPm_AN[0], &page.txtBrakingPressLadenPm_K1[0],
+      &page.txtBrakingPressLadenPm_Max[0], &page.txtBrakingPressUnladen[0],
+      &page.txtSuspensionPressLaden[0]};
+  fields.push_back(air ? &page.txtSuspensionPressUnladen[0] : &page.txtLeverLength[0]);
+  return fields;
+}
+
+TEST_F(WizardTest, WhatIsNoNumberEndsInAMismatchAndWhatDoesNotFitInAnOverflow) {
+  const std::vector<std::pair<std::string, int>> rows = {
+      {"", 13},     {" ", 13},   {"abc", 13},   {"12psi", 13},
+      {"1,5", 13},  {"1e2", 13}, {"1.2.3", 13}, {std::string(400, '9'), 6},
+      {"70000", 6}, {"-1", 6},   {" 60 ", 0}};
+  for (const bool air : {true, false}) {
+    if (!air) MakeMechanical();
+    System().Unload();
+    Page().Unload();
+    OpenPage();
+    for (TextBox* field : StrictFields(Page(), air)) {
+      const std::string good = field->Text();
+      for (const auto& [text, error] : rows) {
+        field->UserType(text);
+        EXPECT_EQ(ErrorOf([&] { Press(Page().cmdNext); }), error) << field->Name() << " " << text;
+      }
+      field->UserType(good);
+    }
+  }
+}
+
+TEST_F(WizardTest, AxleLoadsTakeAnyText) {
   OpenPage();
-  Page().txtBrakingPressUnladen[0].UserType("abc");
-  EXPECT_EQ(ErrorOf([&] { Press(Page().cmdNext); }), 13);
-  Page().txtBrakingPressUnladen[0].UserType("-1");
-  EXPECT_EQ(ErrorOf([&] { Press(Page().cmdNext); }), 6);
+  for (const auto& [text, kg] : std::vector<std::pair<std::string, int>>{
+           {"", 0}, {"abc", 0}, {"1,500", 1}, {"1500 kg", 1500}, {"12.5", 12}, {"13.5", 14}}) {
+    Page().txtAxleLoadUnladen[1].UserType(text);
+    Press(Page().cmdNext);
+    EXPECT_EQ(Vehicle()(9) * 256 + Vehicle()(10), kg) << text;
+  }
+  for (const std::string& text : {std::string("-1"), std::string(400, '9')}) {
+    Page().txtAxleLoadUnladen[1].UserType(text);
+    EXPECT_EQ(ErrorOf([&] { Press(Page().cmdNext); }), 6) << text;
+  }
+}
+
+TEST_F(WizardTest, LoadsOfAxlesThatAreNotThereAreCleared) {
+  Ecu().nNumAxles.Store(2);
+  for (int i = 3; i < 21; ++i) Vehicle()(i) = 0x11;
+  OpenPage();
+  Press(Page().cmdNext);
+  for (int i = 9; i <= 12; ++i) EXPECT_EQ(Vehicle()(i), 0x11) << i;
+  for (int i = 15; i <= 18; ++i) EXPECT_EQ(Vehicle()(i), 0) << i;
+  EXPECT_EQ(Vehicle()(19), 0x11);
+}
+
+TEST_F(WizardTest, RowThatWasFilledBeforeItsAxleWentKeepsItsLoad) {
+  Vehicle()(15) = 0x20;
+  OpenPage();
+  Press(Page().cmdNext);
+  System().optNumAxles[1].UserSelect();
+  EXPECT_EQ(Page().txtAxleLoadUnladen[2].Text(), "8192");
+  Press(Page().cmdNext);
+  EXPECT_EQ(Vehicle()(15), 0x20);
+}
+
+TEST_F(WizardTest, NumberOfRowsIsTheChoiceOfTheSystemPage) {
+  Vehicle()(9) = 0x20;
+  System().Load();
+  for (const int axles : {1, 2, 3}) {
+    System().optNumAxles[axles - 1].UserSelect();
+    Page().Unload();
+    Page().Load();
+    for (int i = 0; i < 5; ++i) {
+      EXPECT_EQ(Page().txtAxleLoadLaden[i].Enabled(), i < axles) << axles << " " << i;
+      EXPECT_EQ(Page().txtBrakingPressUnladen[i].Text(), i < axles ? "0" : "") << i;
+    }
+  }
+}
+
+TEST_F(WizardTest, SuspensionIsTheChoiceOfTheSystemPageAtTheLoad) {
+  OpenPage();
+  System().optSuspensionType[1].UserSelect();
+  EXPECT_FALSE(Page().LeverLengthFrame.Visible());
+  Page().Unload();
+  Page().Load();
+  EXPECT_TRUE(Page().LeverLengthFrame.Visible());
+}
+
+TEST_F(WizardTest, PressureBeyondTheRangeIsRefusedAsSoonAsItsFieldIsVisited) {
+  Vehicle()(42) = 255;
+  OpenPage();
+  EXPECT_EQ(Page().txtBrakingPressLadenPm_AN[0].Text(), "370");
+  Page().txtBrakingPressLadenPm_AN[0].SetFocus();
+  Page().txtProdYear.SetFocus();
+  EXPECT_EQ(desktop.TakeBoxes(),
+            (Boxes{PlainBox("Braking Pressure Laden out of range.  Valid range : 0 - 145 psi",
+                            "Range Limit Exceeded")}));
+  EXPECT_EQ(Page().FocusedControl(), &Page().txtBrakingPressLadenPm_AN[0]);
+}
+
+TEST_F(WizardTest, FieldsWithoutARangeSelectTheirTextAndTakeAnything) {
+  OpenPage();
+  for (TextBox* field : {&Page().txtProdYear, &Page().txtTrailerVIN, &Page().txtManufacturer,
+                         &Page().txtTrailerType, &Page().txtControlPressureUnladen[0],
+                         &Page().txtControlPressureLaden[0], &Page().txtControlPressureLaden[2]}) {
+    field->SetFocus();
+    EXPECT_TRUE(field->AllSelected()) << field->Name();
+    field->UserType("99999");
+  }
+  Page().cmdNext.SetFocus();
+  EXPECT_EQ(Page().FocusedControl(), &Page().cmdNext);
+}
+
+TEST_F(WizardTest, FieldsTakeAsManyCharactersAsTheBlockHolds) {
+  OpenPage();
+  EXPECT_EQ(Page().txtProdYear.MaxLength(), 4);
+  EXPECT_EQ(Page().txtProdWeek.MaxLength(), 2);
+  EXPECT_EQ(Page().txtTrailerVIN.MaxLength(), 18);
+  EXPECT_EQ(Page().txtManufacturer.MaxLength(), 20);
+  EXPECT_EQ(Page().txtTrailerType.MaxLength(), 20);
+}
+
+TEST_F(WizardTest, PagesBearTheirWords) {
+  OpenPage();
+  Last().Load();
+  EXPECT_EQ(Page().Caption(), "OVG LSV  Parameters");
+  EXPECT_EQ(Page().lblAxleLoadUnladen.Caption(), "Axle load \r\n(kg)\r\n");
+  EXPECT_EQ(Page().lblAxleLoadLaden.Caption(), "Axle load \r\n(kg)\r\n");
+  EXPECT_EQ(Page().txtColHdrUnladen.Text(), "Suspension pressure (bar)\r\n");
+  EXPECT_EQ(Page().lblBrakingPressUnladen.Caption(), "Braking \r\npressure\r\n");
+  EXPECT_EQ(Page().lblBrakingPressLaden.Caption(), "Braking \r\npressure\r\n");
+  EXPECT_EQ(Page().lblControlPressure.Caption(), "Control pressure PM (psi)");
+  EXPECT_EQ(Page().txtLeverLengthHdr.Text(), "Distance sensor lever length (mm)");
+  EXPECT_EQ(Page().lblProdDate.Caption(), "Production Date (week/year)");
+  EXPECT_EQ(Page().lblTrailerVIN.Caption(), "Vehicle ID");
+  EXPECT_EQ(Page().lblManufacturer.Caption(), "Manufacturer");
+  EXPECT_EQ(Page().lblTrailerType.Caption(), "Type");
+  for (int i = 0; i < 5; ++i) EXPECT_EQ(Page().txtNumAxles[i].Text(), std::to_string(i + 1));
+  EXPECT_EQ(Page().cmdPrev.Caption(), "&Previous");
+  EXPECT_EQ(Page().cmdClose.Caption(), "&Close");
+  EXPECT_EQ(Last().Caption(), "OVG/ABS Parameters");
+  EXPECT_EQ(Last().fraOVG.Caption(), "Overturn Guard (OVG)");
+  const char* const status[] = {"OVG Not Available", "OVG OFF", "OVG On - Single Tires",
+                                "OVG On - Twin Tires"};
+  for (int i = 0; i < 4; ++i) EXPECT_EQ(Last().optOVGStatus[i].Caption(), status[i]);
+  EXPECT_EQ(Last().lblTireSize.Caption(), "Tire Circumference (mm)");
+  EXPECT_EQ(Last().lblNumTeeth.Caption(), "Number of Teeth");
+  EXPECT_EQ(Last().lblAxleCD.Caption(), "Axle c-d");
+  EXPECT_EQ(Last().lblAxleEF.Caption(), "Axle e-f");
+  EXPECT_EQ(Last().cmdSaveToECU.Caption(), "&Save to ECU");
+  EXPECT_EQ(Last().cmdSaveToFile.Caption(), "Save To &File");
+  EXPECT_EQ(Last().cmdPrev.Caption(), "&Previous");
+  EXPECT_EQ(Last().cmdClose.Caption(), "&Close");
+}
+
+TEST_F(WizardTest, TextsLongerThanTheirFieldsAreCut) {
+  OpenPage();
+  const std::string letters = "ABCDEFGHIJKLMNOPQRSTUVWXYZ";
+  Page().txtTrailerVIN.UserType(letters);
+  Page().txtManufacturer.UserType(letters);
+  Page().txtTrailerType.UserType(letters);
+  const std::uint8_t behind = Image().EOL7(62);
+  Press(Page().cmdNext);
+  EXPECT_EQ(BlockText(Image().EOL7, 4, 18), letters.substr(0, 18));
+  EXPECT_EQ(BlockText(Image().EOL7, 22, 20), letters.substr(0, 20));
+  EXPECT_EQ(BlockText(Image().EOL7, 42, 20), letters.substr(0, 20));
+  EXPECT_EQ(Image().EOL7(62), behind);
+  EXPECT_EQ(Ecu().VehicleId.Load(), letters.substr(0, 18));
+  EXPECT_EQ(Ecu().Manufacturer.Load(), letters.substr(0, 20) + std::string(2, '\0'));
 }
 
 TEST_F(WizardTest, PreviousGoesToThePageThatFitsTheSystem) {
@@ -330,10 +523,24 @@ TEST_F(WizardTest, SingleModulatorSystemSkipsTheFunctions) {
   for (const ParmBlock& block : Image().FCF) EXPECT_EQ(block.bNumBytes, 0);
 }
 
+TEST_F(WizardTest, PreviousBringsTheFunctionsLoadedAnew) {
+  OpenPage();
+  program.gio_page.chkGIO[0].SetValue(true);
+  Image().EOL5(83) = 7;
+  Press(Page().cmdPrev);
+  EXPECT_FALSE(Page().Loaded());
+  EXPECT_FALSE(program.gio_page.Loaded());
+  EXPECT_TRUE(System().Loaded());
+  EXPECT_FALSE(program.gio_page.chkGIO[0].Value());
+  EXPECT_EQ(Image().EOL5(83), 0);
+}
+
 TEST_F(WizardTest, CloseEndsTheWizard) {
   OpenPage();
+  program.gio_page.Load();
   Press(Page().cmdClose);
   EXPECT_FALSE(System().Loaded());
+  EXPECT_FALSE(program.gio_page.Loaded());
   EXPECT_FALSE(Page().Loaded());
 }
 
@@ -403,6 +610,89 @@ TEST_F(WizardTest, LastPageRefusesWhatIsOutOfRange) {
     EXPECT_EQ(desktop.TakeBoxes(),
               (Boxes{PlainBox("Tire Size out of range.  Valid range : 1200 - 5200 mm",
                               "Range Limit Exceeded")}));
+  }
+  EXPECT_TRUE(link.TakeCalls().empty());
+}
+
+TEST_F(WizardTest, EveryButtonOfTheLastPageIsHeldByAFieldOutOfRange) {
+  OpenPage();
+  Last().Load();
+  Last().txtTireSize[0].UserType("3250");
+  for (TextBox* field : {&Last().txtNumTeeth[0], &Last().txtNumTeeth[1], &Last().txtTireSize[0],
+                         &Last().txtTireSize[1]})
+    for (Button* button :
+         {&Last().cmdSaveToECU, &Last().cmdSaveToFile, &Last().cmdPrev, &Last().cmdClose}) {
+      const ParmBlock before = Vehicle();
+      field->SetFocus();
+      EXPECT_TRUE(field->AllSelected());
+      field->UserType("");  // nothing counts as 0
+      field->UserType("5");
+      Press(*button);
+      EXPECT_EQ(desktop.TakeBoxes().size(), 1u) << field->Name() << " " << button->Name();
+      EXPECT_EQ(Last().FocusedControl(), field);
+      EXPECT_TRUE(Last().Loaded());
+      EXPECT_EQ(Vehicle(), before);
+      field->UserType(field->Name().starts_with("txtTire") ? "3250" : "100");
+    }
+  EXPECT_TRUE(link.TakeCalls().empty());
+  EXPECT_TRUE(desktop.TakeFileDialogs().empty());
+}
+
+TEST_F(WizardTest, LimitsOfTheLastPagePass) {
+  System().Load();
+  Last().Load();
+  for (const auto& [field, texts] : std::vector<std::pair<TextBox*, std::vector<const char*>>>{
+           {&Last().txtNumTeeth[1], {"50", "130"}}, {&Last().txtTireSize[1], {"1200", "5200"}}})
+    for (const char* text : texts) {
+      field->SetFocus();
+      field->UserType(text);
+      Last().cmdClose.SetFocus();
+      EXPECT_EQ(Last().FocusedControl(), &Last().cmdClose) << text;
+    }
+}
+
+TEST_F(WizardTest, PreviousOfTheLastPageBringsTheHiddenPageBackAsItWas) {
+  Start();
+  OpenPage();
+  Page().txtManufacturer.UserType("TYPED");
+  Press(Page().cmdNext);
+  Last().Load();
+  StoreBlockText(Image().EOL7, 22, 20, "OTHER");
+  Press(Last().cmdPrev);
+  EXPECT_FALSE(Last().Loaded());
+  EXPECT_TRUE(Page().Loaded());
+  EXPECT_EQ(Page().txtManufacturer.Text(), "TYPED");
+}
+
+TEST_F(WizardTest, CloseOfTheLastPageUnloadsAllAndWritesNothing) {
+  OpenPage();
+  program.gio_page.Load();
+  Last().Load();
+  const ParameterImage before = Image();
+  Last().optOVGStatus[3].UserSelect();
+  Last().txtNumTeeth[0].UserType("99");
+  Press(Last().cmdClose);
+  EXPECT_FALSE(System().Loaded());
+  EXPECT_FALSE(program.gio_page.Loaded());
+  EXPECT_FALSE(Page().Loaded());
+  EXPECT_FALSE(Last().Loaded());
+  EXPECT_EQ(Image().EOL1, before.EOL1);
+  EXPECT_EQ(Image().EOL2, before.EOL2);
+}
+
+TEST_F(WizardTest, WhatIsNoNumberOnTheLastPageEndsTheSave) {
+  System().Load();
+  Last().Load();
+  for (TextBox* field : {&Last().txtNumTeeth[0], &Last().txtNumTeeth[1], &Last().txtTireSize[0],
+                         &Last().txtTireSize[1]}) {
+    const std::string good = field->Text();
+    for (const auto& [text, error] : std::vector<std::pair<std::string, int>>{
+             {"", 13}, {"abc", 13}, {"1,5", 13}, {"-13", 6}, {std::string(400, '9'), 6}}) {
+      field->UserType(text);
+      EXPECT_EQ(ErrorOf([&] { Press(Last().cmdSaveToECU); }), error)
+          << field->Name() << " " << text;
+    }
+    field->UserType(good);
   }
   EXPECT_TRUE(link.TakeCalls().empty());
 }
@@ -481,6 +771,43 @@ TEST_F(SavingTest, SavingEndsTheWizard) {
   EXPECT_FALSE(System().Loaded());
   EXPECT_FALSE(Page().Loaded());
   EXPECT_FALSE(Last().Loaded());
+}
+
+TEST_F(SavingTest, TestFieldsFollowTheImageBeforeTheFirstCall) {
+  System().Load();
+  Vehicle()(42) = 8;
+  Vehicle()(43) = 40;
+  Last().Load();
+  std::vector<double> targets;
+  link.on_call = [&](const std::string&) {
+    targets.push_back(Ecu().dTargetPressure1.Load());
+    targets.push_back(Ecu().dTargetPressure2.Load());
+    link.on_call = nullptr;
+  };
+  Press(Last().cmdSaveToECU);
+  desktop.TakeBoxes();
+  EXPECT_EQ(targets, (std::vector<double>{8 * 1.451, 40 * 1.451}));
+}
+
+TEST_F(SavingTest, DisabledFieldsOfATwoSensorSystemAreWrittenAllTheSame) {
+  Ecu().bNumSensors.Store(2);
+  Vehicle()(56) = 131;
+  Vehicle()(59) = 90;
+  System().Load();
+  Last().Load();
+  Press(Last().cmdSaveToFile);
+  EXPECT_FALSE(Last().txtTireSize[1].Enabled());
+  EXPECT_EQ(Vehicle()(56), 131);
+  EXPECT_EQ(Vehicle()(59), 90);
+}
+
+TEST_F(SavingTest, FailedSaveToFileIsSilentAndKeepsThePage) {
+  System().Load();
+  Last().Load();
+  desktop.AnswerFileDialog("/no/such/folder/x.ecu");
+  Press(Last().cmdSaveToFile);
+  EXPECT_TRUE(Last().Loaded());
+  EXPECT_EQ(Last().txtStatus.Text(), "");
 }
 
 TEST_F(SavingTest, CancelledSaveToFileKeepsThePage) {

@@ -218,8 +218,8 @@ TEST_F(ControlsTest, FocusIsLostBeforeItIsGot) {
   form.other.SetFocus();
   form.UserFocus(&form.text);
   form.UserFocus(nullptr);
-  EXPECT_EQ(Take(), (Log{"text got", "text lost", "other got", "other lost", "text got",
-                         "text lost"}));
+  EXPECT_EQ(Take(),
+            (Log{"text got", "text lost", "other got", "other lost", "text got", "text lost"}));
   EXPECT_EQ(form.FocusedControl(), nullptr);
 }
 

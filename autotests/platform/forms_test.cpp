@@ -1,74 +1,20 @@
-// The life of a form: loading, showing, hiding and unloading, its timers, its keys and its place.
+// The life of a form: loading, hiding and unloading, its timers, its keys and its place.
 #include "platform/forms.h"
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <cstdint>
 #include <functional>
 #include <string>
-#include <utility>
 #include <vector>
 
-#include "platform/controls.h"
-#include "platform/headless/headless_desktop.h"
+#include "autotests/platform/forms_fixture.h"
 
 namespace lorimet {
 namespace {
 
-using Log = std::vector<std::string>;
-
-class SampleForm : public Form {
- public:
-  SampleForm(Desktop& desktop, Log& log, const std::string& name) : Form(desktop, name), log_(log) {}
-
-  TextBox text{*this, "text"};
-  Button button{*this, "button"};
-  DataGrid grid{*this, "grid"};
-  TabStrip tabs{*this, "tabs"};
-  Timer timer{*this, "timer"};
-
-  std::function<void()> at_load, at_unload, at_resize;
-  std::function<bool(UnloadMode)> refuses;
-  std::function<void(KeyEvent&)> at_key;
-  std::function<void(int&)> at_press;
-
- protected:
-  void OnLoad() override {
-    log_.push_back(Name() + " load");
-    if (at_load) at_load();
-  }
-  void OnQueryUnload(bool& cancel, UnloadMode mode) override {
-    if (refuses) cancel = refuses(mode);
-  }
-  void OnUnload() override {
-    log_.push_back(Name() + " unload");
-    if (at_unload) at_unload();
-  }
-  void OnResize() override {
-    if (at_resize) at_resize();
-  }
-  void OnKeyDown(KeyEvent& key) override {
-    if (at_key) at_key(key);
-  }
-  void OnKeyPress(int& character) override {
-    if (at_press) at_press(character);
-  }
-
- private:
-  Log& log_;
-};
-
-class FormsTest : public testing::Test {
- protected:
-  Log Take() { return std::exchange(log, {}); }
-
-  Log log;
-  VirtualClock clock;
-  HeadlessDesktop desktop{clock};
-  SampleForm form{desktop, log, "one"};
-  SampleForm other{desktop, log, "two"};
-};
+using testing_support::FormsTest;
+using testing_support::Log;
+using testing_support::SampleForm;
 
 TEST_F(FormsTest, LoadOnceUntilTheyAreUnloaded) {
   form.Load();
@@ -84,20 +30,13 @@ TEST_F(FormsTest, LoadOnceUntilTheyAreUnloaded) {
 TEST_F(FormsTest, LoadAtTheFirstTouchOfAControl) {
   using Touch = std::function<void(SampleForm&)>;
   const Touch touches[] = {
-      [](SampleForm& f) { f.text.Text(); },
-      [](SampleForm& f) { f.text.SetText(""); },
-      [](SampleForm& f) { f.text.MaxLength(); },
-      [](SampleForm& f) { f.text.SetFocus(); },
-      [](SampleForm& f) { f.button.Caption(); },
-      [](SampleForm& f) { f.button.SetEnabled(true); },
-      [](SampleForm& f) { f.button.Visible(); },
-      [](SampleForm& f) { f.button.ToolTipText(); },
-      [](SampleForm& f) { f.grid.RowCount(); },
-      [](SampleForm& f) { f.grid.FocusedRow(); },
-      [](SampleForm& f) { f.tabs.Selected(); },
-      [](SampleForm& f) { f.tabs.Tabs(); },
-      [](SampleForm& f) { f.timer.Interval(); },
-      [](SampleForm& f) { f.SetCaption("text"); },
+      [](SampleForm& f) { f.text.Text(); },      [](SampleForm& f) { f.text.SetText(""); },
+      [](SampleForm& f) { f.text.MaxLength(); }, [](SampleForm& f) { f.text.SetFocus(); },
+      [](SampleForm& f) { f.button.Caption(); }, [](SampleForm& f) { f.button.SetEnabled(true); },
+      [](SampleForm& f) { f.button.Visible(); }, [](SampleForm& f) { f.button.ToolTipText(); },
+      [](SampleForm& f) { f.grid.RowCount(); },  [](SampleForm& f) { f.grid.FocusedRow(); },
+      [](SampleForm& f) { f.tabs.Selected(); },  [](SampleForm& f) { f.tabs.Tabs(); },
+      [](SampleForm& f) { f.timer.Interval(); }, [](SampleForm& f) { f.SetCaption("text"); },
   };
   for (const Touch& touch : touches) {
     touch(form);
@@ -211,86 +150,6 @@ TEST_F(FormsTest, MayUnloadWithinTheirOwnHandlers) {
   EXPECT_FALSE(form.Loaded());
 }
 
-TEST_F(FormsTest, ReturnFromAModalShowWhenTheyAreHiddenOrUnloaded) {
-  desktop.OnModal("one", [this](Form& shown) {
-    EXPECT_TRUE(shown.Visible());
-    log.push_back("shown");
-    form.Hide();
-    log.push_back("hidden");
-  });
-  form.Show(Modality::kModal);
-  EXPECT_TRUE(form.Loaded());
-  EXPECT_EQ(Take(), (Log{"one load", "shown", "hidden"}));
-  desktop.OnModal("one", [](Form& shown) { shown.UserClose(); });
-  form.Show(Modality::kModal);
-  EXPECT_FALSE(form.Loaded());
-  EXPECT_EQ(Take(), Log{"one unload"});
-}
-
-TEST_F(FormsTest, StandModallyUntilATimerEndsThem) {
-  form.at_load = [this] { form.timer.SetInterval(250); };
-  form.timer.on_tick = [this] { form.Hide(); };
-  form.Show(Modality::kModal);
-  EXPECT_EQ(clock.Milliseconds(), 250u);
-}
-
-TEST_F(FormsTest, ReturnAtOnceFromAModelessShow) {
-  form.Show();
-  EXPECT_TRUE(form.Visible());
-  EXPECT_TRUE(desktop.ModalForms().empty());
-}
-
-TEST_F(FormsTest, WalkBackAndForthInOneShow) {
-  constexpr int kSteps = 1000;
-  int steps = 0;
-  std::vector<std::uintptr_t> places;  // of a local variable
-  const auto step = [&](SampleForm& from, SampleForm& to) {
-    const char here = 0;
-    places.push_back(reinterpret_cast<std::uintptr_t>(&here));
-    from.Unload();
-    if (++steps < kSteps) from.ContinueWith(to);
-  };
-  for (int i = 0; i < kSteps; i += 2) {
-    desktop.OnModal("one", [&](Form&) { step(form, other); });
-    desktop.OnModal("two", [&](Form&) { step(other, form); });
-  }
-  form.Show(Modality::kModal);
-  EXPECT_EQ(steps, kSteps);
-  EXPECT_EQ(desktop.DeepestModal(), 1);
-  EXPECT_EQ(desktop.ModalForms().size(), std::size_t{kSteps});
-  EXPECT_FALSE(form.Loaded());
-  EXPECT_FALSE(other.Loaded());
-  // The very same stack frames again and again.
-  const auto [lowest, highest] = std::minmax_element(places.begin(), places.end());
-  EXPECT_LT(*highest - *lowest, 4096u);
-}
-
-TEST_F(FormsTest, ContinueAlsoWhenTheLeftFormIsTouchedAgain) {
-  desktop.OnModal("one", [this](Form&) {
-    form.Unload();
-    form.ContinueWith(other);
-    form.text.SetText("for the next time");  // loads it
-  });
-  desktop.OnModal("two", [this](Form&) { other.Hide(); });
-  form.Show(Modality::kModal);
-  EXPECT_EQ(desktop.ModalForms(), (std::vector<std::string>{"one", "two"}));
-  // And only that once.
-  desktop.OnModal("one", [this](Form&) { form.Hide(); });
-  form.Show(Modality::kModal);
-  EXPECT_EQ(desktop.ModalForms(), (std::vector<std::string>{"one", "two", "one"}));
-}
-
-TEST_F(FormsTest, StandModallyOverEachOther) {
-  desktop.OnModal("two", [this](Form&) { other.Hide(); });
-  desktop.OnModal("one", [this](Form&) {
-    other.Show(Modality::kModal, &form);
-    EXPECT_TRUE(form.Visible());
-    form.Hide();
-  });
-  form.Show(Modality::kModal);
-  EXPECT_EQ(desktop.DeepestModal(), 2);
-}
-
 TEST_F(FormsTest, TickTheirTimersWhileTheyAreEnabledAndHaveAnInterval) {
   int ticks = 0;
   form.timer.on_tick = [&] { ++ticks; };
@@ -369,8 +228,10 @@ TEST_F(FormsTest, CentreOnTheScreenInWholeTwips) {
     int width, height, left, top;
   };
   // The screen has 15360 by 11520 twips.
-  constexpr Row kRows[] = {{1000, 1000, 7180, 5260}, {1001, 1001, 7179, 5259},
-                           {15360, 11520, 0, 0},     {15361, 11521, 0, 0},
+  constexpr Row kRows[] = {{1000, 1000, 7180, 5260},
+                           {1001, 1001, 7179, 5259},
+                           {15360, 11520, 0, 0},
+                           {15361, 11521, 0, 0},
                            {15363, 11523, -1, -1}};
   form.Load();
   for (const Row& row : kRows) {

@@ -79,8 +79,7 @@ TEST_F(ErrorReportTest, ShowsTheErrorOfAProcedureOnceAndRaisesTheObjectError) {
   } catch (const RuntimeError& error) {
     EXPECT_EQ(error.Number(), -2147221504);
   }
-  EXPECT_EQ(desktop.TakeBoxes(),
-            std::vector{Box("6:  Overflow", "Error", BoxIcon::kNone)});
+  EXPECT_EQ(desktop.TakeBoxes(), std::vector{Box("6:  Overflow", "Error", BoxIcon::kNone)});
 }
 
 TEST_F(ErrorReportTest, GivesTheResultOfAProcedureThatSucceeds) {

@@ -31,12 +31,18 @@ class FewTexts : public TranslationSource {
   int opened = 0;
   std::vector<std::pair<int, std::string>> asked;
   std::map<std::pair<int, std::string>, std::string> rows = {
-      {{kFrench, "Save"}, "Enregistrer"},        {{kSpanish, "Save"}, "Guardar"},
-      {{kFrench, "  Complete"}, "Terminé"},      {{kFrench, "one\r\ntwo"}, "un\r\ndeux"},
-      {{kFrench, "Only French"}, "En français"}, {{kFrench, "Yes"}, "Oui"},
-      {{kFrench, "No"}, "Non"},                  {{kFrench, "OK"}, "D'accord"},
-      {{kFrench, "Cancel"}, "Annuler"},          {{kFrench, "Language"}, "Langue"},
-      {{kFrench, "A form"}, "Un formulaire"},    {{kFrench, "A tip"}, "Une astuce"},
+      {{kFrench, "Save"}, "Enregistrer"},
+      {{kSpanish, "Save"}, "Guardar"},
+      {{kFrench, "  Complete"}, "Terminé"},
+      {{kFrench, "one\r\ntwo"}, "un\r\ndeux"},
+      {{kFrench, "Only French"}, "En français"},
+      {{kFrench, "Yes"}, "Oui"},
+      {{kFrench, "No"}, "Non"},
+      {{kFrench, "OK"}, "D'accord"},
+      {{kFrench, "Cancel"}, "Annuler"},
+      {{kFrench, "Language"}, "Langue"},
+      {{kFrench, "A form"}, "Un formulaire"},
+      {{kFrench, "A tip"}, "Une astuce"},
   };
 };
 
@@ -202,11 +208,11 @@ TEST_F(DictionaryTest, TranslatesAFormBackAndForth) {
 
 TEST_F(DictionaryTest, ShowsABoxOfEachKind) {
   dictionary.Open();
-  for (const auto& [kind, icon] : std::vector<std::pair<BoxKind, BoxIcon>>{
-           {BoxKind::kWarning, BoxIcon::kWarning},
-           {BoxKind::kError, BoxIcon::kCritical},
-           {BoxKind::kInformation, BoxIcon::kInformation},
-           {BoxKind::kConfirmation, BoxIcon::kQuestion}}) {
+  for (const auto& [kind, icon] :
+       std::vector<std::pair<BoxKind, BoxIcon>>{{BoxKind::kWarning, BoxIcon::kWarning},
+                                                {BoxKind::kError, BoxIcon::kCritical},
+                                                {BoxKind::kInformation, BoxIcon::kInformation},
+                                                {BoxKind::kConfirmation, BoxIcon::kQuestion}}) {
     dictionary.ShowMessageBox("Text", "Title", kind, kBoxOk, 0);
     MessageBox expected{"Text", "Title", icon, kBoxOk, "", "", "OK", ""};
     EXPECT_EQ(desktop.TakeBoxes(), std::vector{expected});
@@ -227,8 +233,8 @@ TEST_F(DictionaryTest, TranslatesTheButtonsOfABoxAndNotItsTexts) {
                                       kBoxYes | kBoxNo | kBoxOk | kBoxCancel, 0),
             kBoxNo);
   dictionary.ShowMessageBox("Save", "", BoxKind::kConfirmation, kBoxYes | kBoxNo, 0);
-  const MessageBox four{"Save", "Save", BoxIcon::kQuestion, 15, "Oui", "Non", "D'accord",
-                        "Annuler"};
+  const MessageBox four{"Save", "Save", BoxIcon::kQuestion, 15,
+                        "Oui",  "Non",  "D'accord",         "Annuler"};
   const MessageBox two{"Save", "", BoxIcon::kQuestion, 3, "Oui", "Non", "", ""};
   EXPECT_EQ(desktop.TakeBoxes(), (std::vector{four, two}));
 }
@@ -243,8 +249,7 @@ TEST_F(DictionaryTest, OffersTheLanguagesInTheirOwnWords) {
   const auto lists = desktop.TakeLists();
   ASSERT_EQ(lists.size(), 2u);
   EXPECT_EQ(lists[0].title, "Langue");
-  EXPECT_EQ(lists[0].items,
-            (std::vector<std::string>{"Native", "français", "English", "Español"}));
+  EXPECT_EQ(lists[0].items, (std::vector<std::string>{"Native", "français", "English", "Español"}));
   EXPECT_EQ(lists[0].selected, 1);
   EXPECT_EQ(dictionary.Language(), kFrench);  // choosing alone changes nothing
 }

@@ -83,8 +83,8 @@ TEST_F(HelpTest, ShowsTheErrorOfTheViewer) {
   help_viewer.fails_with = 53;
   program.help.ShowContents("Title");
   program.help.ShowSearch("Title");
-  EXPECT_EQ(desktop.TakeBoxes(), (Boxes{PlainBox("File not found", ""),
-                                        PlainBox("File not found", "")}));
+  EXPECT_EQ(desktop.TakeBoxes(),
+            (Boxes{PlainBox("File not found", ""), PlainBox("File not found", "")}));
 }
 
 TEST_F(HelpTest, IsReachedFromTheMenuUnderTheMainFormsTitle) {
@@ -105,10 +105,9 @@ TEST_F(HelpTest, AboutBoxNamesTheProgramAndItsVersion) {
   about.Load();
   EXPECT_EQ(about.Caption(), "About Lorimet");
   EXPECT_EQ(about.lblTitle.Caption(), "Norvick Lorimet");
-  EXPECT_EQ(about.lblVersion.Caption(),
-            "Version " + std::to_string(LORIMET_VERSION_MAJOR) + "." +
-                std::to_string(LORIMET_VERSION_MINOR) + "." +
-                std::to_string(LORIMET_VERSION_REVISION));
+  EXPECT_EQ(about.lblVersion.Caption(), "Version " + std::to_string(LORIMET_VERSION_MAJOR) + "." +
+                                            std::to_string(LORIMET_VERSION_MINOR) + "." +
+                                            std::to_string(LORIMET_VERSION_REVISION));
   EXPECT_EQ(about.lblDescription.Caption(),
             "Diagnostics and end-of-line tests for trailer brake ECUs");
   EXPECT_GT(about.lblDisclaimer.Caption().size(), 100u);

@@ -313,9 +313,9 @@ TEST_F(SettingsTest, TellThatAValueWasNotWritten) {
 
 TEST_F(SettingsTest, CreateAlwaysUnderTheCurrentUser) {
   EXPECT_FALSE(settings.WriteRegDword("Key", "Value", 1, kMachine));
-  EXPECT_EQ(registry.Take(), (std::vector<std::string>{"open machine Key 2",
-                                                       "create user Key 131078",
-                                                       "open machine Key 2"}));
+  EXPECT_EQ(registry.Take(),
+            (std::vector<std::string>{"open machine Key 2", "create user Key 131078",
+                                      "open machine Key 2"}));
   registry.SetText(kMachine, "Key", "Other", "");
   EXPECT_TRUE(settings.WriteRegDword("Key", "Value", 1, kMachine));
   EXPECT_NE(registry.Find(kMachine, "Key", "Value"), nullptr);

@@ -37,9 +37,7 @@ TEST(CodePage, HasACharacterForEveryByte) {
   EXPECT_EQ(FromCp1252(AllBytes()), LowerHalf() + kUpperHalf);
 }
 
-TEST(CodePage, HasEveryCharacterBack) {
-  EXPECT_EQ(ToCp1252(LowerHalf() + kUpperHalf), AllBytes());
-}
+TEST(CodePage, HasEveryCharacterBack) { EXPECT_EQ(ToCp1252(LowerHalf() + kUpperHalf), AllBytes()); }
 
 TEST(CodePage, TurnsACharacterWithoutACodeIntoOneQuestionMark) {
   // clang-format off

@@ -44,8 +44,7 @@ std::string ReadFile(const std::filesystem::path& path) {
 }
 
 std::vector<TranslationRow> RowsOf(const std::string& language) {
-  const std::string xml =
-      ReadFile(LORIMET_SOURCE_ROOT "/translations/lorimet_" + language + ".ts");
+  const std::string xml = ReadFile(LORIMET_SOURCE_ROOT "/translations/lorimet_" + language + ".ts");
   XmlReader reader(xml);
   std::vector<TranslationRow> rows;
   std::string value;
@@ -54,7 +53,8 @@ std::vector<TranslationRow> RowsOf(const std::string& language) {
     if (reader.Kind() == XmlReader::Token::kStart) {
       value.clear();
       if (reader.Name() == "message") rows.emplace_back();
-      if (reader.Name() == "translation") rows.back().unfinished = !reader.Attribute("type").empty();
+      if (reader.Name() == "translation")
+        rows.back().unfinished = !reader.Attribute("type").empty();
     }
     if (reader.Kind() != XmlReader::Token::kEnd) continue;
     if (reader.Name() == "source") rows.back().key = value;
@@ -174,7 +174,7 @@ TEST(Translations, HaveARowForEveryTextThatAUserReads) {
     const std::set<std::string> keys = KeysOf(language);
     for (const NeededText& needed : texts) {
       if (keys.contains(needed.text) || IsUntranslated(needed.text)) continue;
-      if (!told.insert(language + needed.text).second) continue;
+      if (!told.insert(std::string(language).append(needed.text)).second) continue;
       ADD_FAILURE() << needed.where << ": no " << language << " row for \"" << needed.text << "\"";
     }
   }
@@ -227,7 +227,8 @@ std::multiset<std::string> Placeholders(const std::string& text) {
 TEST(Translations, KeepTheFormOfTheirEnglish) {
   for (const char* language : kLanguages) {
     for (const auto& [key, text, unfinished] : RowsOf(language)) {
-      const std::string row = std::string(language) + " of \"" + key + "\": \"" + text + "\"";
+      std::string row(language);
+      row.append(" of \"").append(key).append("\": \"").append(text).append("\"");
       EXPECT_FALSE(unfinished) << row;
       EXPECT_NE(text.find_first_not_of(" \r\n"), std::string::npos) << "empty " << row;
       // This one stands in a table of its own and needs no distance there.
@@ -261,19 +262,25 @@ TEST(Translations, KeepTheTwoWordingsOfTheDataLogApart) {
 // The reader of the sources must not overlook a text.
 TEST(SourceLiterals, AreFoundWhereverTheyStand) {
   const std::vector<SourceLiteral> found = LiteralReader(R"cpp(
-    #include "platform/forms.h"
-    // "a comment" and /* "another" */ Translate("in a comment")
-    f(d.Translate("one"), "two");  auto n = 10'000; char c = '"', q = '\'';
-    f(Translate(a ? "three" : Name("four")) + "five");
-    x = Translate("six "
-                  "seven") + "eight\r\n";
-    y = R"(ra\w)";
-    z = Translate (kKey) + "nine \"ten\"";
-  )cpp").Read();
+#include "platform/forms.h"
+                                             // "a comment" and /* "another" */ Translate("in a
+                                             // comment")
+                                             f(d.Translate("one"), "two");
+                                             auto n = 10'000;
+                                             char c = '"', q = '\'';
+                                             f(Translate(a ? "three" : Name("four")) + "five");
+                                             x = Translate(
+                                                     "six "
+                                                     "seven") +
+                                                 "eight\r\n";
+                                             y = R"(ra\w)";
+                                             z = Translate(kKey) + "nine \"ten\"";
+                                           )cpp")
+                                               .Read();
   const std::vector<std::pair<std::string, bool>> expected = {
-      {"one", true},        {"two", false},        {"three", true}, {"four", false},
-      {"five", false},      {"six seven", true},   {"eight\r\n", false},
-      {"ra\\w", false},     {"nine \"ten\"", false}};
+      {"one", true},        {"two", false},   {"three", true},
+      {"four", false},      {"five", false},  {"six seven", true},
+      {"eight\r\n", false}, {"ra\\w", false}, {"nine \"ten\"", false}};
   ASSERT_EQ(found.size(), expected.size());
   for (std::size_t i = 0; i < found.size(); ++i) {
     EXPECT_EQ(found[i].text, expected[i].first);

@@ -9,7 +9,7 @@
 namespace lorimet::testing_support {
 
 struct SourceLiteral {
-  std::string text;  // adjacent literals joined, escapes decoded
+  std::string text;         // adjacent literals joined, escapes decoded
   bool translated = false;  // stands within the parentheses of a call of Translate
 };
 
@@ -27,12 +27,10 @@ class LiteralReader {
  private:
   void Step() {
     const std::string_view rest = source_.substr(at_);
-    if (rest.starts_with("//")) {
+    if (rest.starts_with("//") || rest.starts_with("#include")) {
       SkipPast("\n");
     } else if (rest.starts_with("/*")) {
       SkipPast("*/");
-    } else if (rest.starts_with("#include")) {
-      SkipPast("\n");
     } else if (rest.starts_with("R\"(")) {
       ReadRaw();
     } else if (rest.front() == '"') {
@@ -98,9 +96,7 @@ class LiteralReader {
     ++at_;
   }
 
-  static bool IsNamePart(char c) {
-    return std::isalnum(static_cast<unsigned char>(c)) || c == '_';
-  }
+  static bool IsNamePart(char c) { return std::isalnum(static_cast<unsigned char>(c)) || c == '_'; }
 
   void Add(const std::string& text) {
     if (joined_)

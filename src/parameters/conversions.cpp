@@ -33,7 +33,13 @@ BytePair PairOf(double value) {
 
 }  // namespace
 
-std::string PressureText(std::uint8_t byte) { return FormatNumber(byte * kPsiPerCount, "#0"); }
+double Psi(std::uint8_t byte) { return byte * kPsiPerCount; }
+
+double Millimetres(std::uint8_t high, std::uint8_t low) {
+  return (high * 256 + low) * kMillimetresPerCount;
+}
+
+std::string PressureText(std::uint8_t byte) { return FormatNumber(Psi(byte), "#0"); }
 
 std::string PressureTextPmAn(std::uint8_t byte) {
   return FormatNumber(byte * kPsiPerBar / 10, "#0");
@@ -44,7 +50,7 @@ std::string ControlPressureText(std::uint8_t byte) {
 }
 
 std::string LengthText(std::uint8_t high, std::uint8_t low) {
-  return NumberText((high * 256 + low) * kMillimetresPerCount);
+  return NumberText(Millimetres(high, low));
 }
 
 std::string AxleLoadText(std::uint8_t high, std::uint8_t low) {

@@ -14,13 +14,17 @@ namespace lorimet {
 
 // --- To the screen.
 
+// psi of a 0.1 bar byte.
+double Psi(std::uint8_t byte);
+// mm of a pair that counts 0.1 mm, high byte first.
+double Millimetres(std::uint8_t high, std::uint8_t low);
 // psi of a 0.1 bar byte, as a whole number.
 std::string PressureText(std::uint8_t byte);
 // The same by another order of the products, for the braking pressure Pm_AN.
 std::string PressureTextPmAn(std::uint8_t byte);
 // The same in steps, for the control pressures.
 std::string ControlPressureText(std::uint8_t byte);
-// mm of a pair that counts 0.1 mm, high byte first.
+// mm of a pair that counts 0.1 mm, with its tenths where there are any.
 std::string LengthText(std::uint8_t high, std::uint8_t low);
 // kg of an axle load pair, high byte first.
 std::string AxleLoadText(std::uint8_t high, std::uint8_t low);

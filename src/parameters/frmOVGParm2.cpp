@@ -212,11 +212,12 @@ void frmOVGParm2::StoreBrakingPressures() {
 
 void frmOVGParm2::StoreProductionDate() {
   ParmBlock& trailer = parts_.image.EOL7;
-  const std::string year = txtProdYear.Text();
+  // In single-byte characters, so that any letter counts as one.
+  const std::string year = ToCp1252(txtProdYear.Text());
   trailer(1) = Packed(Front(year, 2));
   trailer(2) = Packed(Back(year, 2));
   // A single digit is the left and the right one: "7" is 0x77.
-  trailer(3) = Packed(txtProdWeek.Text());
+  trailer(3) = Packed(ToCp1252(txtProdWeek.Text()));
 }
 
 void frmOVGParm2::StoreIdentity() {

@@ -200,7 +200,8 @@ bool ParameterFile::WriteParmsToFile() {
     dialog.kind = FileDialog::Kind::kSave;
     dialog.default_extension = ".ecu";
     dialog.file_name = Proposal();
-    CheckFileName(dialog.file_name);
+    // A serial number of blanks proposes no name at all, which leads nowhere.
+    if (!dialog.file_name.empty()) CheckFileName(dialog.file_name);
     dialog.initial_directory = process_.ProgramFolder();
     dialog.filter = "ECU (*.ecu)|*.ecu|Text (*.txt)|*.txt|All Files (*.*)|*.*";
     dialog.path_must_exist = true;

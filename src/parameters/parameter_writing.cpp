@@ -5,6 +5,7 @@
 #include <string>
 
 #include "faults/faults.h"
+#include "parameters/conversions.h"
 #include "parameters/parameter_errors.h"
 #include "platform/clock.h"
 #include "platform/desktop.h"
@@ -134,16 +135,13 @@ void WriteParmsToECU(const WritingParts& parts) {
 }
 
 void RefreshTestFields(const ParameterImage& image, ECUData& ecu_data) {
-  constexpr double kPsiPerCount = 1.451;
-  constexpr double kMillimetresPerCount = 0.1;
   const ParmBlock& vehicle = image.EOL1;
   const bool mechanical = (vehicle(1) & 0x20) != 0;
   ecu_data.nMounting.Store((vehicle(1) & 0x80) != 0 ? 1 : 0);
   ecu_data.nMechanicalSuspension.Store(mechanical ? 1 : 0);
-  ecu_data.dTargetPressure1.Store(vehicle(42) * kPsiPerCount);
-  ecu_data.dTargetPressure2.Store(vehicle(43) * kPsiPerCount);
-  if (mechanical)
-    ecu_data.dLadenHeightValue.Store((vehicle(68) * 256 + vehicle(69)) * kMillimetresPerCount);
+  ecu_data.dTargetPressure1.Store(Psi(vehicle(42)));
+  ecu_data.dTargetPressure2.Store(Psi(vehicle(43)));
+  if (mechanical) ecu_data.dLadenHeightValue.Store(Millimetres(vehicle(68), vehicle(69)));
 }
 
 }  // namespace lorimet

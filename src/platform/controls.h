@@ -393,7 +393,7 @@ class MenuItem : public CaptionedControl {
 // A button of a toolbar; its name is the toolbar's with the button's key, "tbrABS_faults".
 class ToolButton : public Control {
  public:
-  ToolButton(Form& form, std::string toolbar, std::string key)
+  ToolButton(Form& form, const std::string& toolbar, std::string key)
       : Control(form, ControlKind::kToolButton, toolbar + "_" + key, -1), key_(std::move(key)) {}
 
   const std::string& Key() const { return key_; }

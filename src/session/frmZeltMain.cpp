@@ -57,7 +57,7 @@ void frmZeltMain::SetStartLanguage() {
   Dictionary& dictionary = parts_.connection.dictionary;
   const std::int16_t language = parts_.connection.settings.GetLanguage();
   dictionary.SetLanguage(language >= 0 && language <= kHighestLanguage ? int{language}
-                                                                           : int{kNative});
+                                                                       : int{kNative});
   dictionary.Open();
   dictionary.TranslateForm(*this);
 }

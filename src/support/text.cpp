@@ -44,8 +44,8 @@ std::size_t SequenceLength(std::uint8_t lead) {
   return 0;
 }
 
-// A character in more bytes than it needs, half of a surrogate pair, or one beyond the last plane is
-// as malformed as a broken sequence; else a separator could be smuggled in as an overlong "/".
+// A character in more bytes than it needs, half of a surrogate pair, or one beyond the last plane
+// is as malformed as a broken sequence; else a separator could be smuggled in as an overlong "/".
 bool IsWellFormed(char32_t c, std::size_t length) {
   constexpr std::array<char32_t, 5> kLeast = {0, 0, 0x80, 0x800, 0x10000};
   return c >= kLeast[length] && c <= 0x10FFFF && !(c >= 0xD800 && c <= 0xDFFF);

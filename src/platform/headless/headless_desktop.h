@@ -50,7 +50,9 @@ class HeadlessDesktop : public Desktop {
   // The answer to the next message box; kBoxOk or the box's only button without one.
   void AnswerBox(BoxButton answer) { answers_.push_back(answer); }
   // What happens while the next message box stands.
-  void OnBox(std::function<void(const MessageBox&)> action) { on_box_.push_back(std::move(action)); }
+  void OnBox(std::function<void(const MessageBox&)> action) {
+    on_box_.push_back(std::move(action));
+  }
   void AnswerFileDialog(std::optional<std::string> path) { files_.push_back(std::move(path)); }
   void AnswerChoice(std::optional<int> choice) { choices_.push_back(choice); }
   // Lets time pass, with its timers and its script.

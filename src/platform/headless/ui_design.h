@@ -17,12 +17,12 @@ struct UiControl {
 struct UiDesign {
   std::string name;
   std::string caption;
-  int width = 0;   // pixels
+  int width = 0;  // pixels
   int height = 0;
   std::map<std::string, UiControl> controls;  // by object name, layouts and containers included
 
-  // Every text that a user reads, by the property it stands in, in the order of the file; notr texts
-  // are left out.
+  // Every text that a user reads, by the property it stands in, in the order of the file; notr
+  // texts are left out.
   std::vector<std::string> texts;
 };
 

@@ -100,10 +100,9 @@ class ButtonBinding : public AbstractButtonBinding {
     // button that has the focus, see HandleKey.
     if (auto* push = qobject_cast<QPushButton*>(widget); push != nullptr && !push->isDefault())
       push->setAutoDefault(false);
-    QObject::connect(widget, &QAbstractButton::clicked, site.lifetime,
-                     [&button, dispatch = site.dispatch] {
-                       dispatch([&button] { button.UserClick(); });
-                     });
+    QObject::connect(
+        widget, &QAbstractButton::clicked, site.lifetime,
+        [&button, dispatch = site.dispatch] { dispatch([&button] { button.UserClick(); }); });
   }
   bool HandleKey(const QKeyEvent& key) override {
     const bool is_enter = key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
@@ -267,9 +266,7 @@ class TimerBinding : public Binding {
       : Binding(timer), timer_(timer), ticker_(new QTimer(site.window)) {
     ticker_->setObjectName(ToQString(timer.Name()));
     QObject::connect(ticker_, &QTimer::timeout, site.lifetime,
-                     [&timer, dispatch = site.dispatch] {
-                       dispatch([&timer] { timer.Tick(); });
-                     });
+                     [&timer, dispatch = site.dispatch] { dispatch([&timer] { timer.Tick(); }); });
   }
   void Mirror(unsigned changes) override {
     if (!(changes & (Control::kInterval | Control::kEnabled))) return;
@@ -290,24 +287,21 @@ class ActionBinding : public Binding {
  public:
   ActionBinding(MenuItem& item, QAction* action, const BindingSite& site)
       : Binding(item), item_(&item), action_(action) {
-    QObject::connect(action, &QAction::triggered, site.lifetime,
-                     [&item, dispatch = site.dispatch] {
-                       dispatch([&item] { item.UserClick(); });
-                     });
+    QObject::connect(action, &QAction::triggered, site.lifetime, [&item, dispatch = site.dispatch] {
+      dispatch([&item] { item.UserClick(); });
+    });
   }
   ActionBinding(MenuItem& item, QMenu* menu, const BindingSite& site)
       : Binding(item), item_(&item), action_(menu->menuAction()) {
-    QObject::connect(menu, &QMenu::aboutToShow, site.lifetime,
-                     [&item, dispatch = site.dispatch] {
-                       if (item.on_click) dispatch([&item] { item.UserClick(); });
-                     });
+    QObject::connect(menu, &QMenu::aboutToShow, site.lifetime, [&item, dispatch = site.dispatch] {
+      if (item.on_click) dispatch([&item] { item.UserClick(); });
+    });
   }
   ActionBinding(ToolButton& button, QAction* action, const BindingSite& site)
       : Binding(button), action_(action) {
-    QObject::connect(action, &QAction::triggered, site.lifetime,
-                     [&button, dispatch = site.dispatch] {
-                       dispatch([&button] { button.UserClick(); });
-                     });
+    QObject::connect(
+        action, &QAction::triggered, site.lifetime,
+        [&button, dispatch = site.dispatch] { dispatch([&button] { button.UserClick(); }); });
     NameButtons();
   }
 
@@ -366,8 +360,7 @@ std::unique_ptr<Binding> BindMenuItem(Control& control, const BindingSite& site)
 
 std::unique_ptr<Binding> BindText(Control& control, const BindingSite& site) {
   auto* widget = Find<QWidget>(site, control);
-  return widget == nullptr ? nullptr
-                           : BindTextBox(static_cast<TextBox&>(control), widget, site);
+  return widget == nullptr ? nullptr : BindTextBox(static_cast<TextBox&>(control), widget, site);
 }
 
 const char* Wanted(ControlKind kind) {

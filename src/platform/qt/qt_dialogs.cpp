@@ -119,8 +119,7 @@ void SetUp(const FileDialog& dialog, QFileDialog& chooser) {
   chooser.setFileMode(dialog.file_must_exist ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
   if (!dialog.title.empty()) chooser.setWindowTitle(ToQString(dialog.title));
   if (!dialog.filter.empty()) chooser.setNameFilters(NameFilters(dialog.filter));
-  if (!dialog.initial_directory.empty())
-    chooser.setDirectory(ToQString(dialog.initial_directory));
+  if (!dialog.initial_directory.empty()) chooser.setDirectory(ToQString(dialog.initial_directory));
   QString suffix = ToQString(dialog.default_extension);
   if (suffix.startsWith(QLatin1Char('.'))) suffix.remove(0, 1);
   if (!suffix.isEmpty()) chooser.setDefaultSuffix(suffix);

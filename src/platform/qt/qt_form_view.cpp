@@ -222,7 +222,8 @@ void QtFormView::Show(bool modal, Form* owner) {
     window_->windowHandle()->setTransientParent(
         parent != nullptr && parent != window_ ? parent->windowHandle() : nullptr);
   }
-  if (window_->isMinimized()) window_->setWindowState(window_->windowState() & ~Qt::WindowMinimized);
+  if (window_->isMinimized())
+    window_->setWindowState(window_->windowState() & ~Qt::WindowMinimized);
   window_->show();
   if (!alive) return;
   // A window that is new on the screen is on top already.

@@ -176,8 +176,8 @@ std::vector<HelpHit> HelpPages::Search(const QString& words) const {
   if (wanted.isEmpty()) return hits;
   for (const HelpPage& page : pages_) {
     int rank = 0;
-    const bool has_all = std::ranges::all_of(
-        wanted, [&](const QString& word) { return Rank(page, word, rank); });
+    const bool has_all =
+        std::ranges::all_of(wanted, [&](const QString& word) { return Rank(page, word, rank); });
     if (!has_all) continue;
     hits.push_back({&page, Snippet(page.text, FirstPlace(page, wanted), wanted), rank});
   }

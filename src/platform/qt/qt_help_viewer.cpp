@@ -61,8 +61,7 @@ std::vector<std::string> QtHelpViewer::Folders(const std::string& help_file) con
   return result;
 }
 
-void QtHelpViewer::Show(const std::string& help_file, HelpCommand command,
-                        const std::string& key) {
+void QtHelpViewer::Show(const std::string& help_file, HelpCommand command, const std::string& key) {
   if (window_ == nullptr) window_ = new HelpWindow(translate_);
   QStringList folders;
   for (const std::string& folder : Folders(help_file)) folders << ToQString(folder);

@@ -81,9 +81,7 @@ class QtPagePrinter::Document {
  private:
   int Resolution() const { return printer_.resolution(); }
   QFontMetricsF Metrics() const { return QFontMetricsF(painter_.font(), &printer_); }
-  double PageHeight() const {
-    return printer_.pageLayout().paintRectPixels(Resolution()).height();
-  }
+  double PageHeight() const { return printer_.pageLayout().paintRectPixels(Resolution()).height(); }
 
   mutable QPrinter printer_;
   QPainter painter_;

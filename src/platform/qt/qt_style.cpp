@@ -21,26 +21,26 @@ struct ColorRow {
 // A light grey-blue bench with white fields and one accent. Text on its ground has a contrast of
 // at least 7 to 1, of disabled text 3.5 to 1.
 constexpr ColorRow kColors[] = {
-    {QPalette::Window,          "#eef1f4", "#eef1f4"},
-    {QPalette::WindowText,      "#1b2733", "#6f7a85"},
-    {QPalette::Base,            "#ffffff", "#e6eaee"},
-    {QPalette::AlternateBase,   "#f3f7fa", "#e6eaee"},
-    {QPalette::Text,            "#14202b", "#6f7a85"},
+    {QPalette::Window, "#eef1f4", "#eef1f4"},
+    {QPalette::WindowText, "#1b2733", "#6f7a85"},
+    {QPalette::Base, "#ffffff", "#e6eaee"},
+    {QPalette::AlternateBase, "#f3f7fa", "#e6eaee"},
+    {QPalette::Text, "#14202b", "#6f7a85"},
     {QPalette::PlaceholderText, "#6f7a85", "#6f7a85"},
-    {QPalette::Button,          "#e4e9ee", "#e9edf0"},
-    {QPalette::ButtonText,      "#1b2733", "#6f7a85"},
-    {QPalette::BrightText,      "#ffffff", "#ffffff"},
-    {QPalette::ToolTipBase,     "#fffbe6", "#fffbe6"},
-    {QPalette::ToolTipText,     "#1b2733", "#1b2733"},
-    {QPalette::Highlight,       "#1f5f99", "#b9c4ce"},
+    {QPalette::Button, "#e4e9ee", "#e9edf0"},
+    {QPalette::ButtonText, "#1b2733", "#6f7a85"},
+    {QPalette::BrightText, "#ffffff", "#ffffff"},
+    {QPalette::ToolTipBase, "#fffbe6", "#fffbe6"},
+    {QPalette::ToolTipText, "#1b2733", "#1b2733"},
+    {QPalette::Highlight, "#1f5f99", "#b9c4ce"},
     {QPalette::HighlightedText, "#ffffff", "#ffffff"},
-    {QPalette::Link,            "#0b5394", "#6f7a85"},
-    {QPalette::LinkVisited,     "#0b5394", "#6f7a85"},
-    {QPalette::Light,           "#ffffff", "#ffffff"},
-    {QPalette::Midlight,        "#f4f6f8", "#f4f6f8"},
-    {QPalette::Mid,             "#b4bec8", "#c9d1d8"},
-    {QPalette::Dark,            "#8b97a3", "#a9b3bc"},
-    {QPalette::Shadow,          "#5b6670", "#8b97a3"},
+    {QPalette::Link, "#0b5394", "#6f7a85"},
+    {QPalette::LinkVisited, "#0b5394", "#6f7a85"},
+    {QPalette::Light, "#ffffff", "#ffffff"},
+    {QPalette::Midlight, "#f4f6f8", "#f4f6f8"},
+    {QPalette::Mid, "#b4bec8", "#c9d1d8"},
+    {QPalette::Dark, "#8b97a3", "#a9b3bc"},
+    {QPalette::Shadow, "#5b6670", "#8b97a3"},
 };
 
 // By kind only, so that the colour of one field, which goes by its name, is the stronger.
@@ -111,7 +111,7 @@ QProgressBar {
   text-align: center;
   min-height: 18px;
 }
-QProgressBar::chunk { background-color: #2f7d4f; border-radius: 2px; }
+QProgressBar::chunk { background-color: #8fcaa6; border-radius: 2px; }
 QMenuBar { background-color: #e4e9ee; border-bottom: 1px solid #c3ccd5; }
 QMenuBar::item { padding: 4px 10px; background: transparent; }
 QMenuBar::item:selected { background-color: #1f5f99; color: #ffffff; }

@@ -109,9 +109,7 @@ class PageBinding : public TextBinding {
   PageBinding(TextBox& box, Edit* edit, const BindingSite& site)
       : TextBinding(box, edit), edit_(edit) {
     QObject::connect(edit, &Edit::textChanged, site.lifetime,
-                     [this, dispatch = site.dispatch] {
-                       dispatch([this] { Typed(); });
-                     });
+                     [this, dispatch = site.dispatch] { dispatch([this] { Typed(); }); });
   }
 
   ControlDesign Design() const override {

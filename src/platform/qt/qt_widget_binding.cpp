@@ -12,8 +12,7 @@ ControlDesign WidgetBinding::Design() const {
   design.tool_tip = FromWidgetText(widget_->toolTip());
   design.enabled = !widget_->testAttribute(Qt::WA_ForceDisabled);
   // A child that nobody has hidden shows with its window.
-  design.visible =
-      !(widget_->isHidden() && widget_->testAttribute(Qt::WA_WState_ExplicitShowHide));
+  design.visible = !(widget_->isHidden() && widget_->testAttribute(Qt::WA_WState_ExplicitShowHide));
   return design;
 }
 

@@ -1,0 +1,109 @@
+// The forms of the parameter wizard within the whole program, for the tests of each.
+#pragma once
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <map>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "autotests/common/program_fixture.h"
+
+namespace lorimet::testing_support {
+
+// The bytes of two images that differ, as "EOL2(5): 16 -> 176".
+inline std::vector<std::string> Differences(const ParameterImage& before,
+                                            const ParameterImage& after) {
+  std::vector<std::string> lines;
+  const auto compare = [&](const std::string& name, const ParmBlock& a, const ParmBlock& b) {
+    for (int i = 0; i < ParmBlock::kSize; ++i)
+      if (a(i) != b(i))
+        lines.push_back(name + "(" + std::to_string(i) + "): " + std::to_string(a(i)) + " -> " +
+                        std::to_string(b(i)));
+    if (a.bNumBytes != b.bNumBytes)
+      lines.push_back(name + " count: " + std::to_string(a.bNumBytes) + " -> " +
+                      std::to_string(b.bNumBytes));
+  };
+  compare("EOL1", before.EOL1, after.EOL1);
+  compare("EOL2", before.EOL2, after.EOL2);
+  compare("EOL3", before.EOL3, after.EOL3);
+  compare("EOL4", before.EOL4, after.EOL4);
+  compare("EOL5", before.EOL5, after.EOL5);
+  compare("EOL6", before.EOL6, after.EOL6);
+  compare("EOL7", before.EOL7, after.EOL7);
+  compare("EOL9", before.EOL9, after.EOL9);
+  for (std::size_t i = 0; i < before.FCF.size(); ++i)
+    compare("FCF" + std::to_string(i + 1), before.FCF[i], after.FCF[i]);
+  return lines;
+}
+
+using Lines = std::vector<std::string>;
+
+// The forms are loaded and driven by themselves; the program need not be started.
+class WizardFormTest : public ProgramTest {
+ protected:
+  ParameterImage& Image() { return program.image; }
+  frmOVGParm1& System() { return program.system_page; }
+  frmGIOSelection& Gio() { return program.gio_page; }
+  frmGIOSpecial& Special() { return program.special_gio; }
+  frmLiftAxlePressures& LiftAxle() { return program.lift_axle; }
+  frmSpeedSwitchThresh& SpeedSwitch() { return program.speed_switch; }
+
+  // Fills every byte with its own value, so that a byte that is not written shows.
+  void FillImage() {
+    std::uint8_t value = 37;
+    const auto fill = [&](ParmBlock& block) {
+      for (std::uint8_t& byte : block.DataArr) byte = value = static_cast<std::uint8_t>(value + 89);
+    };
+    ParameterImage& i = Image();
+    for (ParmBlock* block :
+         {&i.EOL1, &i.EOL2, &i.EOL3, &i.EOL4, &i.EOL5, &i.EOL6, &i.EOL7, &i.EOL9})
+      fill(*block);
+    for (ParmBlock& block : i.FCF) fill(block);
+  }
+  // The bytes that the action changes.
+  Lines ChangesOf(const std::function<void()>& action) {
+    const ParameterImage before = Image();
+    action();
+    return Differences(before, Image());
+  }
+  void Speak(int language) {
+    program.dictionary.Open();
+    program.dictionary.SetLanguage(language);
+  }
+  // As the mouse does it: the button gets the focus before its click.
+  static void Press(Button& button) {
+    button.Owner().UserFocus(&button);
+    button.UserClick();
+  }
+  // The number of the run-time error that the action raises; 0 for none.
+  static int ErrorOf(const std::function<void()>& action) {
+    try {
+      action();
+    } catch (const RuntimeError& error) {
+      return error.Number();
+    }
+    return 0;
+  }
+  static MessageBox RangeBox(const std::string& text) {
+    return PlainBox(text, "Range Limit Exceeded");
+  }
+  static MessageBox ValuesBox(const std::string& text) { return PlainBox(text, "Invalid Values"); }
+};
+
+// What the ECU's memory holds, by address, as first and second byte.
+using Memory = std::map<int, std::pair<std::uint8_t, std::uint8_t>>;
+
+inline auto AnswerFrom(const Memory& memory) {
+  return [memory](int address, std::uint8_t* high, std::uint8_t* low) {
+    const auto word = memory.find(address);
+    if (word == memory.end()) return 1;
+    *high = word->second.first;
+    *low = word->second.second;
+    return 0;
+  };
+}
+
+}  // namespace lorimet::testing_support

@@ -1,0 +1,209 @@
+// The program as a process: what it shows, what it asks of the library, and how it ends.
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "autotests/process/running_program.h"
+
+namespace lorimet {
+namespace {
+
+using testing::AssertionResult;
+using Operations = std::vector<std::string>;
+
+const Operations kStartOperations = {
+    "Connect",
+    "Trailer_ABS_QOR_ReadStaticData",
+    "Trailer_ABS_KWP_StartSession",
+    "Trailer_ABS_KWP_Password",
+};
+
+class ProgramProcessTest : public ProcessTest {
+ protected:
+  // The panel of a trailer that is connected and whose identity has been read.
+  static AssertionResult IsConnected(const Run& run) {
+    return run.Shows("frmZeltMain", "txtECUType", "text", "TRAILER OVG 4S/2M");
+  }
+};
+
+using ProgramStartTest = ProgramProcessTest;
+using ProgramLinkTest = ProgramProcessTest;
+using ProgramEndTest = ProgramProcessTest;
+
+TEST_F(ProgramStartTest, ShowsTheIdentityAndTheLiveValues) {
+  Trailer("field dSupplyPress 101.25");
+  Trailer("distance odometer 1234567.89");
+  Run run(*this, "run");
+  EXPECT_TRUE(IsConnected(run));
+  EXPECT_EQ(run.Get("frmZeltMain", "txtConfig", "text"), "4S/2M");
+  EXPECT_EQ(run.Get("frmZeltMain", "txtSerialNum", "text"), "000417723518");
+  EXPECT_TRUE(run.Shows("frmZeltMain", "txtSupply", "text", "101.3"));
+  EXPECT_TRUE(run.Shows("frmZeltMain", "txtOdom", "text", "1,234,567.9"));
+  Trailer("field dSupplyPress 42");
+  EXPECT_TRUE(run.Shows("frmZeltMain", "txtSupply", "text", "42.0"));
+  EXPECT_EQ(run.Ask("windows"), "frmZeltMain");
+  auto requests = Requests();
+  for (const std::string& operation : kStartOperations) EXPECT_EQ(requests[operation], 1);
+  EXPECT_EQ(requests["Disconnect"], 0);
+  EXPECT_EQ(run.Output(), "");
+}
+
+TEST_F(ProgramStartTest, GivesTheStoredSettingsToTheLibrary) {
+  StoreSetting("\"Vendor\"=\"NLDLA32\"");
+  StoreSetting("\"DeviceID\"=\"7\"");
+  StoreSetting("\"Protocol\"=\"J1708\"");
+  Trailer("adapter vendor NLDLA32");
+  Trailer("adapter device 7");
+  Trailer("adapter protocol J1708");
+  Run run(*this, "run");
+  EXPECT_TRUE(IsConnected(run));
+  EXPECT_FALSE(std::filesystem::exists(folder / "control.errors"));
+}
+
+TEST_F(ProgramStartTest, ASecondInstanceEndsAtOnceAndTheFirstStands) {
+  Run first(*this, "first");
+  ASSERT_TRUE(IsConnected(first));
+  const auto before = Requests();
+  Run second(*this, "second");
+  EXPECT_EQ(second.ExitStatus(), 0);
+  EXPECT_EQ(second.Output(), "");
+  EXPECT_TRUE(first.Stands());
+  EXPECT_TRUE(IsConnected(first));
+  EXPECT_EQ(Requests(), before);
+}
+
+TEST_F(ProgramStartTest, StartsAgainAfterItWasKilled) {
+  Run first(*this, "first");
+  ASSERT_TRUE(IsConnected(first));
+  first.Kill();
+  Run second(*this, "second");
+  EXPECT_TRUE(IsConnected(second));
+  EXPECT_TRUE(second.Stands());
+}
+
+TEST_F(ProgramStartTest, TwoUsersRunOneInstanceEach) {
+  Run first(*this, "first");
+  ASSERT_TRUE(IsConnected(first));
+  std::filesystem::create_directory(folder / "other");
+  environment["XDG_RUNTIME_DIR"] = folder / "other";
+  std::filesystem::permissions(folder / "other", std::filesystem::perms::owner_all);
+  Run second(*this, "second");
+  EXPECT_TRUE(IsConnected(second));
+  EXPECT_TRUE(first.Stands());
+}
+
+TEST_F(ProgramStartTest, ALibraryFileThatIsMissingIsToldInTwoDialogsAndTheProgramStands) {
+  const std::string missing = folder / "nowhere/libLorimet32.so";
+  environment["LORIMET32"] = missing;
+  Run run(*this, "run");
+  ASSERT_TRUE(run.ShowsWindow("frmRP1210Err"));
+  ASSERT_TRUE(run.Tell("click frmRP1210Err cmdDetails"));
+  ASSERT_TRUE(run.Shows("frmRP1210Err", "lblRP1210ErrDesc", "visible", "true"));
+  EXPECT_NE(run.Get("frmRP1210Err", "lblRP1210ErrDesc", "text").find(missing), std::string::npos)
+      << run.Get("frmRP1210Err", "lblRP1210ErrDesc", "text");
+  ASSERT_TRUE(run.Tell("click frmRP1210Err cmdOK"));
+  ASSERT_TRUE(run.ShowsWindow("msgBox"));
+  EXPECT_EQ(run.Get("msgBox", ".", "windowTitle"), "ERROR: Unable to connect to the device");
+  EXPECT_EQ(run.Get("msgBox", ".", "text"),
+            "Please check to make sure the device drivers and libraries are correctly installed.");
+  ASSERT_TRUE(run.Tell("click msgBox ."));
+  ASSERT_TRUE(run.ShowsNoWindow("msgBox"));
+  EXPECT_EQ(run.Get("frmZeltMain", "txtECUType", "text"), "");
+  EXPECT_NE(run.Get("frmZeltMain", "txtError", "plainText").find(missing), std::string::npos);
+  EXPECT_TRUE(run.Stands());
+
+  ASSERT_TRUE(run.Tell("trigger frmZeltMain tbrABS_restart"));
+  EXPECT_TRUE(run.ShowsWindow("frmRP1210Err")) << "a restart tries again";
+}
+
+TEST_F(ProgramStartTest, ADeviceThatIsNoNumberIsToldAndEndsTheProgramWithAStatus) {
+  StoreSetting("\"DeviceID\"=\"COM1\"");
+  Run run(*this, "run");
+  ASSERT_TRUE(run.ShowsWindow("msgBox"));
+  EXPECT_EQ(run.Get("msgBox", ".", "windowTitle"), "Error");
+  EXPECT_EQ(run.Get("msgBox", ".", "text"), "13:  Type mismatch");
+  ASSERT_TRUE(run.Tell("click msgBox ."));
+  EXPECT_GT(run.ExitStatus(), 0);
+  EXPECT_EQ(run.Output(), "");
+}
+
+TEST_F(ProgramLinkTest, ALostLinkIsToldAndTheMessageGoesWithItsReturn) {
+  Run run(*this, "run");
+  ASSERT_TRUE(IsConnected(run));
+  EXPECT_EQ(run.Get("frmZeltMain", "txtError", "plainText"), "");
+  Trailer("cable out");
+  ASSERT_TRUE(run.ShowsWindow("frmErr"));
+  EXPECT_TRUE(run.Shows("frmErr", "lblErr", "text",
+                        "Successful connection was attained but has since been lost.\n"
+                        "Please check connection between the PC and ECU."));
+  EXPECT_TRUE(run.Get("frmZeltMain", "txtError", "plainText").starts_with("Error:  -100\n"))
+      << run.Get("frmZeltMain", "txtError", "plainText");
+  Trailer("cable in");
+  EXPECT_TRUE(run.Shows("frmZeltMain", "txtError", "plainText", "")) << "while the dialog stands";
+  ASSERT_TRUE(run.Tell("click frmErr cmdOK"));
+  EXPECT_TRUE(run.ShowsNoWindow("frmErr"));
+  EXPECT_EQ(run.Get("frmZeltMain", "txtError", "plainText"), "");
+  EXPECT_EQ(run.Output(), "");
+}
+
+TEST_F(ProgramLinkTest, ARestartDisconnectsAndReadsAnew) {
+  environment["LORIMET32"] = kRecorder;
+  Run run(*this, "run");
+  ASSERT_TRUE(IsConnected(run));
+  EXPECT_EQ(Record(), kStartOperations);
+  Trailer("identity system_name \"TRAILER ANEW\"");
+  ASSERT_TRUE(run.Tell("trigger frmZeltMain tbrABS_restart"));
+  EXPECT_TRUE(run.Shows("frmZeltMain", "txtECUType", "text", "TRAILER ANEW"));
+  Operations wanted = kStartOperations;
+  wanted.emplace_back("Disconnect");
+  wanted.insert(wanted.end(), kStartOperations.begin(), kStartOperations.end());
+  EXPECT_EQ(Record(), wanted);
+  EXPECT_EQ(Requests()["Disconnect"], 1);
+}
+
+TEST_F(ProgramEndTest, DisconnectsStopsTheSessionAndReturnsToTheLauncher) {
+  InstallLauncher();
+  environment["LORIMET32"] = kRecorder;
+  Run run(*this, "run");
+  ASSERT_TRUE(IsConnected(run));
+  ASSERT_TRUE(run.Tell("trigger frmZeltMain tbrABS_exit"));
+  EXPECT_EQ(run.ExitStatus(), 0);
+  Operations wanted = kStartOperations;
+  wanted.insert(wanted.end(),
+                {"BusMonitorStopRecord", "Disconnect", "Trailer_ABS_KWP_StopSession"});
+  EXPECT_EQ(Record(), wanted);
+  EXPECT_TRUE(Eventually([this] { return std::filesystem::exists(folder / "launched"); }));
+  EXPECT_EQ(ReadFile(folder / "launched"), "[NO]");
+  EXPECT_EQ(run.Output(), "");
+}
+
+TEST_F(ProgramEndTest, SaysThatThereIsNoLauncherAndEnds) {
+  Run run(*this, "run");
+  ASSERT_TRUE(IsConnected(run));
+  ASSERT_TRUE(run.Tell("close frmZeltMain"));
+  ASSERT_TRUE(run.ShowsWindow("msgBox"));
+  EXPECT_EQ(run.Get("msgBox", ".", "text"), "Could not locate the Norvick Main executable.");
+  EXPECT_TRUE(run.Stands());
+  ASSERT_TRUE(run.Tell("click msgBox ."));
+  EXPECT_EQ(run.ExitStatus(), 0);
+  EXPECT_EQ(run.Output(), "");
+}
+
+TEST_F(ProgramEndTest, EndsWhenItsWindowIsClosedInAStaticReadThatNeverEnds) {
+  InstallLauncher();
+  environment["LORIMET32"] = kRecorder;
+  Trailer("failure static_read_never_ends");
+  Run run(*this, "run");
+  ASSERT_TRUE(Eventually([this] { return Record() == kStartOperations; }));
+  ASSERT_TRUE(run.ShowsWindow("frmZeltMain"));
+  EXPECT_EQ(run.Get("frmZeltMain", "txtECUType", "text"), "");
+  ASSERT_TRUE(run.Tell("close frmZeltMain"));
+  EXPECT_EQ(run.ExitStatus(), 0);
+  EXPECT_EQ(Record().back(), "Trailer_ABS_KWP_StopSession");
+  EXPECT_TRUE(Eventually([this] { return std::filesystem::exists(folder / "launched"); }));
+  EXPECT_EQ(run.Output(), "");
+}
+
+}  // namespace
+}  // namespace lorimet

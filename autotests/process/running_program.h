@@ -1,0 +1,90 @@
+// The real program as a process of its own, on the real library file, with folders of its own.
+#pragma once
+
+#include <gtest/gtest.h>
+#include <sys/types.h>
+
+#include <functional>
+#include <map>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "autotests/platform/native_fixture.h"
+
+namespace lorimet {
+
+// Looks again and again until something comes true, and gives up after a generous time.
+bool Eventually(const std::function<bool()>& condition);
+
+// What one user has: settings, the lock of the single instance, the simulated trailer.
+class ProcessTest : public testing::Test {
+ protected:
+  static constexpr const char* kLibrary = LORIMET_BINARY_DIR "/libLorimet32.so";
+  static constexpr const char* kRecorder =
+      LORIMET_BINARY_DIR "/autotests/liblorimet_link_recorder.so";
+
+  ProcessTest();
+
+  // A row of the product's key in the registry, such as "DeviceID"="7"; before the first run.
+  void StoreSetting(const std::string& row) { settings_ += row + "\r\n"; }
+  // A script that leaves its arguments in the file "launched".
+  void InstallLauncher();
+  // A command to the simulated trailer.
+  void Trailer(const std::string& command);
+  // The counts that the library gives for the operations so far; needs a connection.
+  std::map<std::string, int> Requests();
+  // The operations in their order, when the recorder is the link library.
+  std::vector<std::string> Record() const;
+
+  // One run of the program; killed, if it still runs, at the end of its life.
+  class Run {
+   public:
+    Run(ProcessTest& test, const std::string& name);
+    ~Run();
+    Run(const Run&) = delete;
+    Run& operator=(const Run&) = delete;
+
+    // What the window probe answers; nothing when it refuses or cannot be reached.
+    std::optional<std::string> Ask(const std::string& command) const;
+    // As Ask, until it is not refused any more.
+    bool Tell(const std::string& command) const;
+    // Waits until a property has a value.
+    testing::AssertionResult Shows(const std::string& window, const std::string& name,
+                                   const std::string& property, const std::string& value) const;
+    testing::AssertionResult ShowsWindow(const std::string& window) const;
+    testing::AssertionResult ShowsNoWindow(const std::string& window) const;
+    std::string Get(const std::string& window, const std::string& name,
+                    const std::string& property) const {
+      return Ask("get " + window + " " + name + " " + property).value_or("(nothing)");
+    }
+
+    bool Stands();
+    // The exit status, -1 when a signal ended it; fails the test when it does not end.
+    int ExitStatus();
+    void Kill();
+    // What it wrote to its standard outputs.
+    std::string Output() const { return ReadFile(output_); }
+
+   private:
+    [[noreturn]] void Become(const std::map<std::string, std::string>& variables) const;
+    // Takes the child's end, if it has come.
+    bool Reaped();
+
+    std::string output_;
+    std::string socket_;
+    pid_t child_ = -1;
+    std::optional<int> status_;
+  };
+
+  std::map<std::string, std::string> environment;
+  ScratchFolder folder;
+
+ private:
+  void WriteSettings() const;
+
+  std::string settings_;
+  std::string machine_;
+};
+
+}  // namespace lorimet

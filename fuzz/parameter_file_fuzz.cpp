@@ -1,0 +1,138 @@
+// Fuzzes the parameter file: any bytes, read through the profile file and through its plain model,
+// must give the same image, the same record and the same verdict, and an image that has been read
+// must be written the same both ways.
+#include "fuzz/profile_file_model.h"
+#include "parameters/parameter_file.h"
+#include "parameters/parm_block.h"
+#include "platform/headless/headless_desktop.h"
+#include "platform/headless/headless_ports.h"
+#include "platform/posix/posix_profile_file.h"
+#include "session/ecu_data.h"
+
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <cstring>
+#include <fstream>
+#include <iterator>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include <unistd.h>
+
+namespace {
+
+void Check(bool holds, const char* what) {
+  if (holds) return;
+  std::fprintf(stderr, "the parameter file and its model differ: %s\n", what);
+  std::abort();
+}
+
+// The plain model of one file. The lines of the section that was asked last are kept, as a text of
+// their own, so that a read need not take the whole file apart again.
+class ModelProfileFile : public lorimet::ProfileFile {
+ public:
+  explicit ModelProfileFile(std::string bytes) : bytes_(std::move(bytes)) {}
+  const std::string& Bytes() const { return bytes_; }
+
+  std::string GetString(const std::string& section, const std::string& key,
+                        const std::string& fallback, std::size_t size,
+                        const std::string&) override {
+    if (!section_ || *section_ != section) Cut(section);
+    return lorimet::model::Read(section_bytes_, section, key, fallback, size);
+  }
+  bool WriteString(const std::string& section, const std::string& key, const std::string& value,
+                   const std::string&) override {
+    bytes_ = lorimet::model::Write(bytes_, section, key, value);
+    section_.reset();
+    return true;
+  }
+  bool Flush() override { return true; }
+
+ private:
+  void Cut(const std::string& section) {
+    namespace model = lorimet::model;
+    section_ = section;
+    const std::vector<model::Line> lines = model::Lines(model::Decode(bytes_));
+    model::Units text;
+    if (const auto range = model::FindSection(lines, model::NameArgument(section)))
+      for (std::size_t i = range->header; i < range->end; ++i) text += lines[i].text + lines[i].end;
+    section_bytes_ = model::Encode(text, model::IsUnicode(bytes_));
+  }
+
+  std::string bytes_;
+  std::optional<std::string> section_;
+  std::string section_bytes_;
+};
+
+const std::string& Path() {
+  static const std::string path = [] {
+    const char* base = std::getenv("TMPDIR");
+    std::string name = std::string(base != nullptr ? base : "/tmp") + "/parameter_file_fuzz_XXXXXX";
+    if (mkdtemp(name.data()) == nullptr) std::abort();
+    return name + "/trailer.ecu";
+  }();
+  return path;
+}
+
+std::string OnDisk() {
+  std::ifstream in(Path(), std::ios::binary);
+  return std::string(std::istreambuf_iterator<char>(in), {});
+}
+
+// One program's half of the road: a file, an image and a record of its own.
+class Side {
+ public:
+  explicit Side(lorimet::ProfileFile& file)
+      : parameters(file, desktop_, process_, clock_, ecu_data, image) {}
+
+  bool Read() {
+    desktop_.AnswerFileDialog(Path());
+    return parameters.ReadParmsFromFile();
+  }
+  bool Write() {
+    desktop_.AnswerFileDialog(Path());
+    return parameters.WriteParmsToFile();
+  }
+  bool operator==(const Side& other) const {
+    return image.EOL1 == other.image.EOL1 && image.EOL2 == other.image.EOL2 &&
+           image.EOL3 == other.image.EOL3 && image.EOL4 == other.image.EOL4 &&
+           image.EOL5 == other.image.EOL5 && image.EOL6 == other.image.EOL6 &&
+           image.EOL7 == other.image.EOL7 && image.EOL9 == other.image.EOL9 &&
+           image.FCF == other.image.FCF &&
+           std::memcmp(&ecu_data, &other.ecu_data, sizeof ecu_data) == 0;
+  }
+
+  lorimet::ECUData ecu_data{};
+  lorimet::ParameterImage image;
+
+ private:
+  lorimet::VirtualClock clock_;
+  lorimet::HeadlessDesktop desktop_{clock_};
+  lorimet::HeadlessProcess process_;
+
+ public:
+  lorimet::ParameterFile parameters;
+};
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  const std::string bytes(reinterpret_cast<const char*>(data), size);
+  std::ofstream(Path(), std::ios::binary | std::ios::trunc) << bytes;
+  lorimet::PosixProfileFile real_file;
+  ModelProfileFile model_file(bytes);
+  Side real(real_file);
+  Side model(model_file);
+  const bool read = real.Read();
+  Check(read == model.Read(), "whether the file reads");
+  Check(real == model, "what was read");
+  Check(OnDisk() == bytes, "reading has changed the file");
+  if (!read) return 0;
+  Check(real.image.EOL7.bNumBytes == 123, "the count of the trailer's bytes");
+  Check(real.Write() == model.Write(), "whether the image can be written");
+  Check(OnDisk() == model_file.Bytes(), "the bytes written");
+  return 0;
+}
