@@ -167,7 +167,9 @@ TEST_F(HelpTest, LanguageWithoutPagesShowsTheEnglishOnes) {
 
 TEST(HelpViewerTest, MissingPagesSayWhereTheyWereLookedFor) {
   const QTemporaryDir empty;
-  QtHelpViewer viewer(FromQString(empty.path()), [](const std::string& text) { return text; });
+  const std::string folder = FromQString(empty.path());
+  QtHelpViewer viewer(
+      folder, [](const std::string& text) { return text; }, folder);
   viewer.Show("/some/where/Trailer.hlp", HelpCommand::kContents, "");
   for (QWidget* widget : QApplication::topLevelWidgets()) {
     if (widget->objectName() != "frmHelp") continue;

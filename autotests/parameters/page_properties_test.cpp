@@ -253,8 +253,8 @@ void PageProperties::PassLastPage(const Round& round) {
   const int shown = Image().EOL2(5) < 128 ? 1 : vehicle(62) % 2 == 0 ? 2 : 3;
   for (int i = 0; i < 4; ++i) EXPECT_EQ(Last().optOVGStatus[i].Value(), i == shown);
 
-  Last().optOVGStatus[guard].UserSelect();
-  System().optSLAC[cable].UserSelect();
+  Last().optOVGStatus[guard].UserClick();
+  System().optSLAC[cable].UserClick();
   Ecu().bNumModulators.Store(static_cast<std::uint8_t>(modulators));
   ParameterImage expected = Image();
   Put(expected.EOL2, 5, 0x80, guard > 1 ? 0x80 : 0);

@@ -123,7 +123,19 @@ void ProcessTest::Run::Become(const std::map<std::string, std::string>& variable
   _exit(127);
 }
 
-ProcessTest::Run::~Run() { Kill(); }
+ProcessTest::Run::~Run() {
+  Kill();
+  EXPECT_EQ(Complaints(), "");
+}
+
+// Without what the offscreen platform says of itself.
+std::string ProcessTest::Run::Complaints() const {
+  std::string complaints;
+  std::istringstream lines(ReadFile(output_));
+  for (std::string line; std::getline(lines, line);)
+    if (!line.starts_with("This plugin does not support ")) complaints += line + "\n";
+  return complaints;
+}
 
 bool ProcessTest::Run::Reaped() {
   if (status_) return true;
@@ -136,7 +148,8 @@ bool ProcessTest::Run::Reaped() {
 bool ProcessTest::Run::Stands() { return !Reaped(); }
 
 int ProcessTest::Run::ExitStatus() {
-  EXPECT_TRUE(Eventually([this] { return Reaped(); })) << "the program does not end; " << Output();
+  EXPECT_TRUE(Eventually([this] { return Reaped(); }))
+      << "the program does not end; " << Complaints();
   return status_.value_or(-1);
 }
 
@@ -183,12 +196,12 @@ testing::AssertionResult ProcessTest::Run::Shows(const std::string& window, cons
   const bool fits = Eventually([&] { return (shown = Get(window, name, property)) == value; });
   if (fits) return testing::AssertionSuccess();
   return testing::AssertionFailure() << window << "." << name << " shows \"" << shown
-                                     << "\", not \"" << value << "\"; " << Output();
+                                     << "\", not \"" << value << "\"; " << Complaints();
 }
 
 testing::AssertionResult ProcessTest::Run::ShowsWindow(const std::string& window) const {
   if (Tell("get " + window + " . objectName")) return testing::AssertionSuccess();
-  return testing::AssertionFailure() << "there is no window " << window << "; " << Output();
+  return testing::AssertionFailure() << "there is no window " << window << "; " << Complaints();
 }
 
 testing::AssertionResult ProcessTest::Run::ShowsNoWindow(const std::string& window) const {

@@ -37,7 +37,8 @@ class ProcessTest : public testing::Test {
   // The operations in their order, when the recorder is the link library.
   std::vector<std::string> Record() const;
 
-  // One run of the program; killed, if it still runs, at the end of its life.
+  // One run of the program; killed, if it still runs, at the end of its life, and a failure of the
+  // test if it complained.
   class Run {
    public:
     Run(ProcessTest& test, const std::string& name);
@@ -63,8 +64,8 @@ class ProcessTest : public testing::Test {
     // The exit status, -1 when a signal ended it; fails the test when it does not end.
     int ExitStatus();
     void Kill();
-    // What it wrote to its standard outputs.
-    std::string Output() const { return ReadFile(output_); }
+    // What it wrote to its standard outputs, which is to be nothing.
+    std::string Complaints() const;
 
    private:
     [[noreturn]] void Become(const std::map<std::string, std::string>& variables) const;

@@ -202,6 +202,15 @@ TEST_F(ClosedInTheMiddleTest, OfADisconnectDoesNotDisconnectAgain) {
   ExpectEndedInOrder();
 }
 
+TEST_F(ClosedInTheMiddleTest, OfADisconnectThatFailsShowsNoBox) {
+  Start();
+  link.answers["Disconnect"] = {-1};
+  link.on_disconnect = [&] { CloseSoon(); };
+  Main().RestartECU();
+  EXPECT_EQ(link.TakeCalls(), (Calls{"Disconnect", "StopSession"}));
+  ExpectEndedInOrder();
+}
+
 TEST_F(ClosedInTheMiddleTest, OfTheConnectErrorShowsNoSecondBox) {
   link.answers["Connect"] = {128};
   desktop.OnModal("frmRP1210Err", [&](Form&) { Main().UserClose(); });

@@ -45,6 +45,7 @@ class frmOVGParm1 : public Form {
   ControlArray<OptionButton> optSLAC{*this, "optSLAC", 3};
 
   // The diagram: boxes p and p + 3 are the wheels of row p.
+  Frame fraDiagram{*this, "fraDiagram"};
   ControlArray<TextBox> txtSensor{*this, "txtSensor", 6};
   Picture picOVG_ECU{*this, "picOVG_ECU"};
   Picture picOVGFwd{*this, "picOVGFwd"};

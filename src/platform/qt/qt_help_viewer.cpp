@@ -29,8 +29,14 @@ QString FolderOf(const std::string& file) {
 
 }  // namespace
 
-QtHelpViewer::QtHelpViewer(std::string program_folder, Translator translate)
-    : program_folder_(std::move(program_folder)), translate_(std::move(translate)) {}
+QtHelpViewer::QtHelpViewer(std::string program_folder, Translator translate,
+                           std::string executable_folder)
+    : program_folder_(std::move(program_folder)),
+      executable_folder_(std::move(executable_folder)),
+      translate_(std::move(translate)) {
+  if (executable_folder_.empty())
+    executable_folder_ = FromQString(QCoreApplication::applicationDirPath());
+}
 
 QtHelpViewer::~QtHelpViewer() { delete window_; }
 
@@ -46,9 +52,9 @@ std::vector<std::string> QtHelpViewer::Folders(const std::string& help_file) con
   if (!help_file.empty()) roots << FolderOf(help_file) + QStringLiteral("/help");
   roots << program + QStringLiteral("/help");
   // The place of an installed program: bin/ beside share/.
-  roots << QCoreApplication::applicationDirPath() + QStringLiteral("/help");
-  roots << QCoreApplication::applicationDirPath() +
-               QStringLiteral("/../share/norvick-lorimet/help");
+  const QString executable = ToQString(executable_folder_);
+  roots << executable + QStringLiteral("/help");
+  roots << executable + QStringLiteral("/../share/norvick-lorimet/help");
   std::vector<std::string> languages{LanguageFolder(language_)};
   if (languages.front() != "en") languages.emplace_back("en");
   QStringList folders;

@@ -20,7 +20,9 @@ class QtHelpViewer : public HelpViewer {
 
   // The program's folder, where a folder "help" is looked for, with one folder a language in it;
   // and what puts the viewer's own words into the current language.
-  QtHelpViewer(std::string program_folder, Translator translate);
+  // `executable_folder` is looked in as well, and the share/ beside it; empty is this program's.
+  QtHelpViewer(std::string program_folder, Translator translate,
+               std::string executable_folder = {});
   ~QtHelpViewer() override;
 
   // An index of the dictionary's languages; a language without pages shows the English ones.
@@ -33,6 +35,7 @@ class QtHelpViewer : public HelpViewer {
   std::vector<std::string> Folders(const std::string& help_file) const;
 
   std::string program_folder_;
+  std::string executable_folder_;
   Translator translate_;
   int language_ = 0;
   QPointer<HelpWindow> window_;

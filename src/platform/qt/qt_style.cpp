@@ -116,7 +116,12 @@ QMenuBar { background-color: #e4e9ee; border-bottom: 1px solid #c3ccd5; }
 QMenuBar::item { padding: 4px 10px; background: transparent; }
 QMenuBar::item:selected { background-color: #1f5f99; color: #ffffff; }
 QMenuBar::item:disabled { color: #8b97a3; }
-QToolBar { background-color: #eef1f4; border-bottom: 1px solid #c3ccd5; spacing: 3px; padding: 2px; }
+QToolBar {
+  background-color: #eef1f4;
+  border-bottom: 1px solid #c3ccd5;
+  spacing: 3px;
+  padding: 2px;
+}
 QToolButton { padding: 3px; border: 1px solid transparent; border-radius: 4px; }
 QToolButton:hover { background-color: #e8f0f7; border-color: #a3afba; }
 QToolButton:focus { border: 2px solid #1f5f99; padding: 2px; }
