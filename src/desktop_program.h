@@ -70,8 +70,8 @@ class DesktopProgram {
   QtHelpViewer help_viewer{process.ProgramFolder(), [this](const std::string& text) {
                              return program.dictionary.Translate(text);
                            }};
-  Program program{{desktop, clock, registry, hook, process, link, help_viewer, translations,
-                   profile_file}};
+  Program program{
+      {desktop, clock, registry, hook, process, link, help_viewer, translations, profile_file}};
 
  private:
   std::unique_ptr<QSocketNotifier> notifier_;

@@ -2353,5 +2353,37 @@ frenado&#13;
         <source>Tires and Pole Wheels</source>
         <translation>Neumáticos y coronas dentadas</translation>
     </message>
+    <message>
+        <source>Forward</source>
+        <translation>Siguiente</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Inicio</translation>
+    </message>
+    <message>
+        <source>Words to look for</source>
+        <translation>Palabras que buscar</translation>
+    </message>
+    <message>
+        <source>Pages found</source>
+        <translation>Páginas encontradas</translation>
+    </message>
+    <message>
+        <source>Help page</source>
+        <translation>Página de ayuda</translation>
+    </message>
+    <message>
+        <source>The help pages were not found.</source>
+        <translation>No se han encontrado las páginas de ayuda.</translation>
+    </message>
+    <message>
+        <source>They were looked for in these folders:</source>
+        <translation>Se han buscado en estas carpetas:</translation>
+    </message>
+    <message>
+        <source>No page holds all of these words.</source>
+        <translation>Ninguna página contiene todas estas palabras.</translation>
+    </message>
 </context>
 </TS>

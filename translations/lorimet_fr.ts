@@ -2353,5 +2353,37 @@ freinage&#13;
         <source>Tires and Pole Wheels</source>
         <translation>Pneus et couronnes dentées</translation>
     </message>
+    <message>
+        <source>Forward</source>
+        <translation>Suivant</translation>
+    </message>
+    <message>
+        <source>Home</source>
+        <translation>Accueil</translation>
+    </message>
+    <message>
+        <source>Words to look for</source>
+        <translation>Mots à rechercher</translation>
+    </message>
+    <message>
+        <source>Pages found</source>
+        <translation>Pages trouvées</translation>
+    </message>
+    <message>
+        <source>Help page</source>
+        <translation>Page d'aide</translation>
+    </message>
+    <message>
+        <source>The help pages were not found.</source>
+        <translation>Les pages d'aide sont introuvables.</translation>
+    </message>
+    <message>
+        <source>They were looked for in these folders:</source>
+        <translation>Elles ont été cherchées dans ces dossiers :</translation>
+    </message>
+    <message>
+        <source>No page holds all of these words.</source>
+        <translation>Aucune page ne contient tous ces mots.</translation>
+    </message>
 </context>
 </TS>

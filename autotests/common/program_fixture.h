@@ -75,8 +75,8 @@ class ProgramTest : public testing::Test {
   RecordingHelpViewer help_viewer;
   TsTranslations translations{LORIMET_SOURCE_ROOT "/translations"};
   PosixProfileFile profile_file;
-  Program program{{desktop, clock, registry, hook, process, link, help_viewer, translations,
-                   profile_file}};
+  Program program{
+      {desktop, clock, registry, hook, process, link, help_viewer, translations, profile_file}};
 };
 
 }  // namespace lorimet::testing_support

@@ -156,7 +156,9 @@ void PageProperties::PassSystemPage(const Round& round) {
     const int lift = expected.EOL1(7 + 6 * a) % 8;
     int bits = lift == 1 || lift == 3 ? lift : 0;
     if (a == cd && a < round.axles) bits += 0x10;
-    if (a == ef && four_sensors && (a < round.axles || a < 2)) bits += 0x20;
+    // The choice of 4S/2M opens the first two rows, whatever the number of axles.
+    const bool open = a < round.axles || (selected == 1 && a < 2);
+    if (a == ef && four_sensors && open) bits += 0x20;
     Put(expected.EOL1, 7 + 6 * a, 0x37, bits);
   }
   Put(expected.EOL2, 4, 0x03, round.mechanical ? 1 : 0);

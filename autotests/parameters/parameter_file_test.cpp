@@ -392,9 +392,9 @@ TEST_F(ParameterFileTest, DateIsTakenByItsPlaces) {
 }
 
 TEST_F(ParameterFileTest, SectionsAreReadInTheirOwnOrder) {
-  const char* const names[] = {"EOL1_System_Parameter", "EOL2_GIO_Functions", "EOL5_GIO_Connectors",
-                               "EOL3_GIO_Parameter",    "EOL4_SLEV_Parameter",
-                               "EOL6_ServiceIntervall", "EOL9_GIO_FID"};
+  const char* const names[] = {
+      "EOL1_System_Parameter", "EOL2_GIO_Functions",    "EOL5_GIO_Connectors", "EOL3_GIO_Parameter",
+      "EOL4_SLEV_Parameter",   "EOL6_ServiceIntervall", "EOL9_GIO_FID"};
   for (std::size_t bad = 0; bad < std::size(names); ++bad) {
     Image() = {};
     std::string text;
@@ -422,17 +422,23 @@ TEST_F(ParameterFileTest, FilesInAnotherEncoding) {
   };
   // UTF-16 behind its mark is understood.
   std::string wide = "\xFF\xFE";
-  for (const char c : with_vin("\xE9" "BCDEFGHIJKLMNOPQR")) wide += {c, '\0'};
+  for (const char c : with_vin("\xE9"
+                               "BCDEFGHIJKLMNOPQR"))
+    wide += {c, '\0'};
   ASSERT_TRUE(ReadText(wide));
   EXPECT_EQ(Image().EOL1(1), 7);
-  EXPECT_EQ(Ecu().VehicleId.Load(), "\xE9" "BCDEFGHIJKLMNOPQR");
+  EXPECT_EQ(Ecu().VehicleId.Load(),
+            "\xE9"
+            "BCDEFGHIJKLMNOPQR");
   // A mark of UTF-8 spoils the first line, here the header of the vehicle's bytes.
   Image() = {};
   ASSERT_TRUE(ReadText("\xEF\xBB\xBF" + plain));
   EXPECT_EQ(Image().EOL1.bNumBytes, 0);
   // UTF-8 without one is taken byte by byte, so this text is one byte longer and is cut.
   ASSERT_TRUE(ReadText(with_vin("éBCDEFGHIJKLMNOPQR")));
-  EXPECT_EQ(Ecu().VehicleId.Load(), "\xC3\xA9" "BCDEFGHIJKLMNOPQ");
+  EXPECT_EQ(Ecu().VehicleId.Load(),
+            "\xC3\xA9"
+            "BCDEFGHIJKLMNOPQ");
 }
 
 TEST_F(ParameterFileTest, ValuesAreReadByTheirLeadingNumber) {
@@ -474,8 +480,8 @@ TEST_F(ParameterFileTest, BadNumbersEndTheReadAndKeepWhatWasRead) {
 TEST_F(ParameterFileTest, CountThatIsNoNumberMakesTheBlockAbsent) {
   for (const char* count : {"", "abc", "-0.4", "0.5", "x5"}) {
     Image().EOL1.bNumBytes = 7;
-    EXPECT_TRUE(ReadText(Whole(std::string("[EOL1_System_Parameter]\nCount=") + count +
-                               "\nP_001=9\n")))
+    EXPECT_TRUE(
+        ReadText(Whole(std::string("[EOL1_System_Parameter]\nCount=") + count + "\nP_001=9\n")))
         << count;
     EXPECT_EQ(Image().EOL1.bNumBytes, 0) << count;
   }

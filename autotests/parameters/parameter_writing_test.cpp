@@ -174,8 +174,8 @@ TEST_F(ParameterWritingTest, RefusedSessionAndAccessDoNotStopTheWrite) {
   AnswerErrors({});
   Write();
   const Calls calls = link.TakeCalls();
-  for (const char* call : {"StartSession 83", "Password", "StartRoutine 42:00000100",
-                           "StartRoutine 42:00000000"})
+  for (const char* call :
+       {"StartSession 83", "Password", "StartRoutine 42:00000100", "StartRoutine 42:00000000"})
     EXPECT_EQ(std::ranges::count(calls, call), 4) << call;
   EXPECT_EQ(std::ranges::count(calls, "StartRoutine 05:"), 1);
   EXPECT_EQ(std::ranges::count(calls, "WriteMemory 3D:2"), 1);

@@ -67,8 +67,10 @@ void frmLiftAxlePressures::OnAccept() {
 void frmLiftAxlePressures::Store(std::int16_t psi, int index) {
   const std::int16_t counts = ToInteger(psi / kPsi * kCounts);
   ParmBlock& block = parts_.image.FCF[0];
-  block(index) = ToByte(counts / 256);
-  block(index + 1) = ToByte(counts % 256);
+  const int high = counts / 256;
+  const int low = counts % 256;
+  block(index) = ToByte(high);
+  block(index + 1) = ToByte(low);
 }
 
 }  // namespace lorimet

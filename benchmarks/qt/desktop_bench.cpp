@@ -1,0 +1,132 @@
+// The same as the panel's measurements with real windows: what their drawing costs.
+#include <benchmark/benchmark.h>
+
+#include <QApplication>
+#include <QEvent>
+
+#include "benchmarks/simulated_program.h"
+#include "platform/qt/qt_desktop.h"
+#include "platform/qt/qt_style.h"
+#include "platform/qt/qt_translations.h"
+
+namespace lorimet::benchmarks {
+namespace {
+
+// Lives to the end: nothing of the toolkit is torn down behind the measurements.
+QApplication& Application() {
+  static int argc = 1;
+  static char name[] = "lorimet_qt_bench";
+  static char* argv[] = {name, nullptr};
+  static QApplication* const application = [] {
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    auto* made = new QApplication(argc, argv);
+    ApplyStyle(*made);
+    return made;
+  }();
+  return *application;
+}
+
+class PaintCounter : public QObject {
+ public:
+  PaintCounter() { Application().installEventFilter(this); }
+  bool eventFilter(QObject*, QEvent* event) override {
+    if (event->type() == QEvent::Paint) ++paints;
+    return false;
+  }
+  int paints = 0;
+};
+
+struct QtProgram {
+  // Posted events, layouts and repaints, without the rest that an idle loop takes.
+  static void Draw() {
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  }
+  // The paints that an action causes.
+  template <typename Action>
+  static int Paints(const Action& action) {
+    PaintCounter counter;
+    action();
+    return counter.paints;
+  }
+
+  QApplication& application = Application();
+  VirtualClock clock;
+  QtDesktop desktop;
+  QtTranslations translations;
+  SimulatedProgram simulated{desktop, clock, translations};
+};
+
+// Aim: below 1 millisecond.
+void LiveDataPassWithAllValuesRepainted(benchmark::State& state) {
+  QtProgram qt;
+  SimulatedProgram& simulated = qt.simulated;
+  simulated.program.main_form.tmrABS.SetEnabled(false);
+  const auto pass = [&] {
+    simulated.ChangeLiveValues();
+    qt.desktop.RunEvent([&] { simulated.program.main_form.UpdateLiveData(); });
+    QtProgram::Draw();
+  };
+  pass();
+  constexpr int kFields = 12;
+  if (QtProgram::Paints(pass) < kFields) state.SkipWithError("the fields are not painted");
+  for (auto _ : state) pass();
+}
+BENCHMARK(LiveDataPassWithAllValuesRepainted)->Unit(benchmark::kMicrosecond);
+
+void MainWindowRepaintedAsAWhole(benchmark::State& state) {
+  QtProgram qt;
+  for (auto _ : state) qt.desktop.Repaint();
+}
+BENCHMARK(MainWindowRepaintedAsAWhole)->Unit(benchmark::kMicrosecond);
+
+void FillFaultListRepainted(benchmark::State& state) {
+  QtProgram qt;
+  frmFaults& list = qt.simulated.program.fault_list;
+  qt.simulated.SetFaults(static_cast<std::size_t>(state.range(0)));
+  list.Show();
+  const auto pass = [&] {
+    qt.desktop.RunEvent([&] { list.cmdUpdate.UserClick(); });
+    QtProgram::Draw();
+  };
+  pass();
+  if (QtProgram::Paints(pass) == 0) state.SkipWithError("the list is not painted");
+  for (auto _ : state) pass();
+  if (list.grdFaults.RowCount() != state.range(0)) state.SkipWithError("rows are missing");
+  state.SetItemsProcessed(state.iterations() * state.range(0));
+}
+BENCHMARK(FillFaultListRepainted)->Arg(20)->Arg(1000)->Unit(benchmark::kMicrosecond);
+
+void ChangeOfLanguageRepainted(benchmark::State& state) {
+  QtProgram qt;
+  Program& program = qt.simulated.program;
+  int language = kNative;
+  for (auto _ : state) {
+    language = language == kFrench ? kSpanish : kFrench;
+    qt.desktop.RunEvent([&] {
+      program.dictionary.SetLanguage(language);
+      program.dictionary.TranslateForm(program.main_form);
+    });
+    QtProgram::Draw();
+  }
+}
+BENCHMARK(ChangeOfLanguageRepainted)->Unit(benchmark::kMicrosecond);
+
+// By the compiled translations that the program carries.
+void TranslateCompiled(benchmark::State& state, int language, const std::string& text,
+                       bool has_row) {
+  QtProgram qt;
+  Dictionary& dictionary = qt.simulated.program.dictionary;
+  dictionary.SetLanguage(language);
+  if ((dictionary.Translate(text) != text) != has_row) state.SkipWithError("not that text's row");
+  for (auto _ : state) benchmark::DoNotOptimize(dictionary.Translate(text));
+}
+BENCHMARK_CAPTURE(TranslateCompiled, native, kNative,
+                  "Could not locate the Norvick Main executable.", false);
+BENCHMARK_CAPTURE(TranslateCompiled, french, kFrench,
+                  "Could not locate the Norvick Main executable.", true);
+BENCHMARK_CAPTURE(TranslateCompiled, french_miss, kFrench,
+                  "A text that has no row in the dictionary.", false);
+
+}  // namespace
+}  // namespace lorimet::benchmarks
