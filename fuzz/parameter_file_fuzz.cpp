@@ -15,9 +15,7 @@
 #include <cstring>
 #include <fstream>
 #include <iterator>
-#include <optional>
 #include <string>
-#include <utility>
 #include <vector>
 
 #include <unistd.h>
@@ -30,41 +28,32 @@ void Check(bool holds, const char* what) {
   std::abort();
 }
 
-// The plain model of one file. The lines of the section that was asked last are kept, as a text of
-// their own, so that a read need not take the whole file apart again.
+// The plain model of one file, whose lines are taken apart anew behind each line that is added.
 class ModelProfileFile : public lorimet::ProfileFile {
  public:
-  explicit ModelProfileFile(std::string bytes) : bytes_(std::move(bytes)) {}
-  const std::string& Bytes() const { return bytes_; }
+  explicit ModelProfileFile(const std::string& bytes)
+      : unicode_(lorimet::model::IsUnicode(bytes)),
+        lines_(lorimet::model::Lines(lorimet::model::Decode(bytes))) {}
+  std::string Bytes() const {
+    return lorimet::model::Encode(lorimet::model::Joined(lines_), unicode_);
+  }
 
   std::string GetString(const std::string& section, const std::string& key,
                         const std::string& fallback, std::size_t size,
                         const std::string&) override {
-    if (!section_ || *section_ != section) Cut(section);
-    return lorimet::model::Read(section_bytes_, section, key, fallback, size);
+    return lorimet::model::Read(lines_, section, key, fallback, size);
   }
   bool WriteString(const std::string& section, const std::string& key, const std::string& value,
                    const std::string&) override {
-    bytes_ = lorimet::model::Write(bytes_, section, key, value);
-    section_.reset();
+    if (lorimet::model::Write(lines_, section, key, value))
+      lines_ = lorimet::model::Lines(lorimet::model::Joined(lines_));
     return true;
   }
   bool Flush() override { return true; }
 
  private:
-  void Cut(const std::string& section) {
-    namespace model = lorimet::model;
-    section_ = section;
-    const std::vector<model::Line> lines = model::Lines(model::Decode(bytes_));
-    model::Units text;
-    if (const auto range = model::FindSection(lines, model::NameArgument(section)))
-      for (std::size_t i = range->header; i < range->end; ++i) text += lines[i].text + lines[i].end;
-    section_bytes_ = model::Encode(text, model::IsUnicode(bytes_));
-  }
-
-  std::string bytes_;
-  std::optional<std::string> section_;
-  std::string section_bytes_;
+  bool unicode_;
+  std::vector<lorimet::model::Line> lines_;
 };
 
 const std::string& Path() {

@@ -69,17 +69,22 @@ inline std::string Encode(const Units& units, bool unicode) {
   return result;
 }
 
-inline bool SameName(Units a, Units b) {
+inline char32_t Folded(char32_t c) {
   static const Units upper = FromBytes(
       "ABCDEFGHIJKLMNOPQRSTUVWXYZ\x8A\x8C\x8E\x9F\xC0\xC1\xC2\xC3\xC4\xC5\xC6\xC7\xC8\xC9\xCA\xCB"
       "\xCC\xCD\xCE\xCF\xD0\xD1\xD2\xD3\xD4\xD5\xD6\xD8\xD9\xDA\xDB\xDC\xDD\xDE");
   static const Units lower = FromBytes(
       "abcdefghijklmnopqrstuvwxyz\x9A\x9C\x9E\xFF\xE0\xE1\xE2\xE3\xE4\xE5\xE6\xE7\xE8\xE9\xEA\xEB"
       "\xEC\xED\xEE\xEF\xF0\xF1\xF2\xF3\xF4\xF5\xF6\xF8\xF9\xFA\xFB\xFC\xFD\xFE");
-  for (Units* name : {&a, &b})
-    for (char32_t& c : *name)
-      if (const auto i = upper.find(c); i != Units::npos) c = lower[i];
-  return a == b;
+  const auto i = upper.find(c);
+  return i == Units::npos ? c : lower[i];
+}
+
+inline bool SameName(const Units& a, const Units& b) {
+  if (a.size() != b.size()) return false;
+  for (std::size_t i = 0; i < a.size(); ++i)
+    if (a[i] != b[i] && Folded(a[i]) != Folded(b[i])) return false;
+  return true;
 }
 
 inline Units Strip(Units text, const Units& what) {
@@ -150,10 +155,8 @@ inline Units Argument(const std::string& text) {
 }
 inline Units NameArgument(const std::string& text) { return Strip(Argument(text), U" "); }
 
-// `file` is nothing when it is missing.
-inline std::string Read(const std::optional<std::string>& file, const std::string& section,
+inline std::string Read(const std::vector<Line>& lines, const std::string& section,
                         const std::string& key, const std::string& fallback, std::size_t size) {
-  const std::vector<Line> lines = Lines(Decode(file.value_or("")));
   const auto range = FindSection(lines, NameArgument(section));
   const auto found = range ? FindKey(lines, *range, NameArgument(key)) : std::nullopt;
   std::string answer;
@@ -170,10 +173,9 @@ inline std::string Read(const std::optional<std::string>& file, const std::strin
   return size == 0 ? "" : answer.substr(0, size - 1);
 }
 
-inline std::string Write(const std::optional<std::string>& file, const std::string& section,
-                         const std::string& key, const std::string& value) {
-  std::string before = file.value_or("");
-  std::vector<Line> lines = Lines(Decode(before));
+// False when nothing changed. A line that is written is not taken apart again.
+inline bool Write(std::vector<Line>& lines, const std::string& section, const std::string& key,
+                  const std::string& value) {
   const auto insert = [&](std::size_t at, const Units& text) {
     if (at > 0 && lines[at - 1].end.empty()) lines[at - 1].end = U"\r\n";
     Line line;
@@ -186,7 +188,7 @@ inline std::string Write(const std::optional<std::string>& file, const std::stri
     insert(lines.size(), U"[" + NameArgument(section) + U"]");
     insert(lines.size(), key_line);
   } else if (const auto found = FindKey(lines, *range, NameArgument(key))) {
-    if (lines[*found].value == Argument(value)) return before;
+    if (lines[*found].value == Argument(value)) return false;
     lines[*found].text = lines[*found].name + U"=" + Argument(value);
     lines[*found].end = U"\r\n";
   } else {
@@ -195,9 +197,26 @@ inline std::string Write(const std::optional<std::string>& file, const std::stri
     while (Strip(lines[at - 1].text, fillers).empty()) --at;
     insert(at, key_line);
   }
+  return true;
+}
+
+inline Units Joined(const std::vector<Line>& lines) {
   Units text;
   for (const Line& line : lines) text += line.text + line.end;
-  return Encode(text, IsUnicode(before));
+  return text;
+}
+
+// `file` is nothing when it is missing.
+inline std::string Read(const std::optional<std::string>& file, const std::string& section,
+                        const std::string& key, const std::string& fallback, std::size_t size) {
+  return Read(Lines(Decode(file.value_or(""))), section, key, fallback, size);
+}
+
+inline std::string Write(const std::optional<std::string>& file, const std::string& section,
+                         const std::string& key, const std::string& value) {
+  const std::string before = file.value_or("");
+  std::vector<Line> lines = Lines(Decode(before));
+  return Write(lines, section, key, value) ? Encode(Joined(lines), IsUnicode(before)) : before;
 }
 
 }  // namespace lorimet::model

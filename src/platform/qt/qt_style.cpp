@@ -99,7 +99,7 @@ QPushButton {
 }
 QPushButton:hover { background-color: #e8f0f7; border-color: #1f5f99; }
 QPushButton:pressed { background-color: #d3e2f0; }
-QPushButton:default { border-color: #1f5f99; font-weight: 600; }
+QPushButton:default { border: 2px solid #1f5f99; padding: 2px 13px; }
 QPushButton:focus { border: 2px solid #1f5f99; padding: 2px 13px; }
 QPushButton:disabled { background-color: #e9edf0; color: #6f7a85; border-color: #ccd4db; }
 QRadioButton, QCheckBox { spacing: 6px; min-height: 20px; }
