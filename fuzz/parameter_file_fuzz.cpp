@@ -28,7 +28,8 @@ void Check(bool holds, const char* what) {
   std::abort();
 }
 
-// The plain model of one file, whose lines are taken apart anew behind each line that is added.
+// The plain model of one file. No value of a parameter file holds a line break, so its lines need
+// not be taken apart anew for each call.
 class ModelProfileFile : public lorimet::ProfileFile {
  public:
   explicit ModelProfileFile(const std::string& bytes)
@@ -45,8 +46,7 @@ class ModelProfileFile : public lorimet::ProfileFile {
   }
   bool WriteString(const std::string& section, const std::string& key, const std::string& value,
                    const std::string&) override {
-    if (lorimet::model::Write(lines_, section, key, value))
-      lines_ = lorimet::model::Lines(lorimet::model::Joined(lines_));
+    lorimet::model::Write(lines_, section, key, value);
     return true;
   }
   bool Flush() override { return true; }

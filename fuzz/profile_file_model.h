@@ -173,15 +173,21 @@ inline std::string Read(const std::vector<Line>& lines, const std::string& secti
   return size == 0 ? "" : answer.substr(0, size - 1);
 }
 
-// False when nothing changed. A line that is written is not taken apart again.
+// A line to be written; one that holds line breaks is not taken apart.
+inline Line Written(const Units& text) {
+  const std::vector<Line> taken = Lines(text + U"\r\n");
+  Line line = taken.size() == 1 ? taken.front() : Line();
+  line.text = text;
+  line.end = U"\r\n";
+  return line;
+}
+
+// False when nothing changed.
 inline bool Write(std::vector<Line>& lines, const std::string& section, const std::string& key,
                   const std::string& value) {
   const auto insert = [&](std::size_t at, const Units& text) {
     if (at > 0 && lines[at - 1].end.empty()) lines[at - 1].end = U"\r\n";
-    Line line;
-    line.text = text;
-    line.end = U"\r\n";
-    lines.insert(lines.begin() + static_cast<std::ptrdiff_t>(at), line);
+    lines.insert(lines.begin() + static_cast<std::ptrdiff_t>(at), Written(text));
   };
   const Units key_line = NameArgument(key) + U"=" + Argument(value);
   if (const auto range = FindSection(lines, NameArgument(section)); !range) {
@@ -189,8 +195,7 @@ inline bool Write(std::vector<Line>& lines, const std::string& section, const st
     insert(lines.size(), key_line);
   } else if (const auto found = FindKey(lines, *range, NameArgument(key))) {
     if (lines[*found].value == Argument(value)) return false;
-    lines[*found].text = lines[*found].name + U"=" + Argument(value);
-    lines[*found].end = U"\r\n";
+    lines[*found] = Written(lines[*found].name + U"=" + Argument(value));
   } else {
     std::size_t at = range->end;
     const Units fillers = Units(U" \t\v\x1A") + U'\0';

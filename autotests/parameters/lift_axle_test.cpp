@@ -107,6 +107,8 @@ TEST_F(LiftAxleTest, ButtonDoesNothingWhileAFieldIsOutOfRange) {
   EXPECT_EQ(desktop.TakeBoxes(), Boxes{RangeBox(kLiftingRange)});
   EXPECT_TRUE(Dialog().Loaded());
   EXPECT_EQ(Dialog().FocusedControl(), &Dialog().txtLiftingPress);
+  Dialog().Command1.UserClick();
+  EXPECT_EQ(desktop.TakeBoxes(), Boxes{RangeBox(kLiftingRange)}) << "a press of its own";
 }
 
 TEST_F(LiftAxleTest, DefaultButtonChecksTheFieldThatKeepsTheFocus) {

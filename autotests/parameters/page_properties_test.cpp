@@ -61,8 +61,7 @@ int Unpacked(const std::string& text) { return Digit(text.front()) * 16 + Digit(
 
 std::string TextIn(const ParmBlock& block, int first, int count) {
   std::string text;
-  for (int i = first; i < first + count && block(i) != 0; ++i)
-    text += static_cast<char>(block(i));
+  for (int i = first; i < first + count && block(i) != 0; ++i) text += static_cast<char>(block(i));
   return text;
 }
 void PutText(ParmBlock& block, int first, std::size_t count, std::string text) {
