@@ -76,6 +76,7 @@ inline char32_t Folded(char32_t c) {
   static const Units lower = FromBytes(
       "abcdefghijklmnopqrstuvwxyz\x9A\x9C\x9E\xFF\xE0\xE1\xE2\xE3\xE4\xE5\xE6\xE7\xE8\xE9\xEA\xEB"
       "\xEC\xED\xEE\xEF\xF0\xF1\xF2\xF3\xF4\xF5\xF6\xF8\xF9\xFA\xFB\xFC\xFD\xFE");
+  if (c < U'A') return c;
   const auto i = upper.find(c);
   return i == Units::npos ? c : lower[i];
 }

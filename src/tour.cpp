@@ -75,12 +75,13 @@ class Tour {
   void Picture(const QString& window, const QString& name) {
     WhenShown(window, [] {});
     Pause(kSettle);
-    WhenShown(window, [this, window, name] {
-      const QString file = QString("%1-%2.png").arg(++pictures_, 2, 10, QChar('0')).arg(name);
-      if (!Window(window)->grab().save(folder_ + "/" + file)) failed_ = true;
-      std::printf("    %s\n", qPrintable(file));
-      std::fflush(stdout);
-    });
+    WhenShown(window, [this, window, name] { Save(window, name); });
+  }
+  void Save(const QString& window, const QString& name) {
+    const QString file = QString("%1-%2.png").arg(++pictures_, 2, 10, QChar('0')).arg(name);
+    if (!Window(window)->grab().save(folder_ + "/" + file)) failed_ = true;
+    std::printf("    %s\n", qPrintable(file));
+    std::fflush(stdout);
   }
   void Pause(int milliseconds) {
     auto since = std::make_shared<QElapsedTimer>();
@@ -182,8 +183,7 @@ class Tour {
     Trigger("mnuSystem_0");
     Picture("frmOVGParm1", "parameters-system");
     Press("frmOVGParm1", "cmdNext");
-    Picture("frmGIOSelection", "parameters-functions");
-    Press("frmGIOSelection", "cmdNext");
+    PassFunctions();
     Picture("frmOVGParm2", "parameters-load-sensing");
     Press("frmOVGParm2", "cmdNext");
     Picture("frmOVGParm3", "parameters-overturn-guard");
@@ -198,12 +198,28 @@ class Tour {
     WhenGone("frmOVGParm3");
     Trigger("mnuSystem_0");
     Press("frmOVGParm1", "cmdNext");
-    Press("frmGIOSelection", "cmdNext");
+    PassFunctions();
     Press("frmOVGParm2", "cmdNext");
     Press("frmOVGParm3", "cmdSaveToECU");
     Picture("msgBox", "parameters-saved-to-ecu");
     PressBox();
     WhenGone("frmOVGParm3");
+  }
+
+  // A system with a single modulator has no page of functions.
+  void PassFunctions() {
+    When(
+        "the page behind the system page",
+        [] { return Window("frmGIOSelection") != nullptr || Window("frmOVGParm2") != nullptr; },
+        [] {});
+    Pause(kSettle);
+    When(
+        "the page of functions", [] { return true; },
+        [this] {
+          if (Window("frmGIOSelection") == nullptr) return;
+          Save("frmGIOSelection", "parameters-functions");
+          Find<QAbstractButton>("frmGIOSelection", "cmdNext")->click();
+        });
   }
 
   void HelpAndAbout() {

@@ -212,6 +212,15 @@ TEST_F(FailureTest, ARestartHooksOnTopOfTheHookAndMessagesStillReachTheWindow) {
   EXPECT_EQ(hook.ReachedOriginal(), (std::vector<std::uint32_t>{0x0010, 0x0011}));
 }
 
+TEST_F(FailureTest, StatusesOfAClosingLibraryAreDroppedEvenUnderAHookThatStays) {
+  Fail([&] { program.Start(); });
+  Main().RestartECU();
+  link.on_disconnect = [&] { hook.Post(-500); };
+  Main().RestartECU();
+  EXPECT_EQ(hook.Pending(), 0u);
+  EXPECT_EQ(desktop.Beeps(), 0);
+}
+
 TEST_F(FailureTest, AfterAFailedRestartTheTimerGoesOnPaintingTheLastValues) {
   Start();
   Fail([&] { Main().RestartECU(); });

@@ -64,7 +64,7 @@ void QtFormView::BindControls() {
     by_control_[control] = binding.get();
     if (binding->Widget() != nullptr) {
       by_widget_[binding->Widget()] = binding.get();
-      const bool has_words = binding->Design().caption.has_value();
+      const bool has_words = !binding->Design().caption.value_or("").empty();
       if (!has_words) field_names_.Add(*binding->Widget());
     }
     control->ImportDesign(binding->Design());
