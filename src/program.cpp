@@ -65,7 +65,15 @@ void Program::PlugParameters() {
                       main_form.txtError});
   };
   actions.read_parameters_from_file = [this] { return parameter_file.ReadParmsFromFile(); };
-  actions.show_parameters = [this] { system_page.Show(Modality::kModal, &main_form); };
+  actions.show_parameters = [this] {
+    // A page that was left by its window's close box leaves the ones before it hidden, with what
+    // another trailer had put into them.
+    for (Form* page :
+         {static_cast<Form*>(&system_page), static_cast<Form*>(&gio_page),
+          static_cast<Form*>(&load_sensing_page), static_cast<Form*>(&overturn_guard_page)})
+      page->Unload();
+    system_page.Show(Modality::kModal, &main_form);
+  };
 }
 
 void Program::PlugCommands() {

@@ -535,6 +535,23 @@ TEST_F(WizardTest, PreviousBringsTheFunctionsLoadedAnew) {
   EXPECT_EQ(Image().EOL5(83), 0);
 }
 
+TEST_F(WizardTest, PageLeftByItsCloseBoxHandsNothingToTheNextTrailer) {
+  Start();
+  Ecu().bNumModulators.Store(1);
+  Ecu().nVehicleType.Store(0);
+  link.always["ReadData"] = 1;
+  desktop.OnModal("frmOVGParm1", [](Form& f) { Press(static_cast<frmOVGParm1&>(f).cmdNext); });
+  desktop.OnModal("frmOVGParm2", [](Form& f) { f.UserClose(); });
+  Main().mnuSystem[0].UserClick();
+  EXPECT_TRUE(System().Loaded());
+  Ecu().nVehicleType.Store(2);
+  desktop.OnModal("frmOVGParm1", [](Form& f) {
+    EXPECT_TRUE(static_cast<frmOVGParm1&>(f).optVehicleType[2].Value());
+    Press(static_cast<frmOVGParm1&>(f).cmdClose);
+  });
+  Main().mnuSystem[0].UserClick();
+}
+
 TEST_F(WizardTest, CloseEndsTheWizard) {
   OpenPage();
   program.gio_page.Load();
