@@ -2,6 +2,7 @@
 #include <benchmark/benchmark.h>
 
 #include "benchmarks/simulated_program.h"
+#include "support/numbers.h"
 
 namespace lorimet::benchmarks {
 namespace {
@@ -15,6 +16,9 @@ void LiveDataPassWithAllValuesChanged(benchmark::State& state) {
     simulated.program.main_form.UpdateLiveData();
     headless.desktop.Flush();
   }
+  const double supply = simulated.Ecu().dSupplyPress.Load();
+  if (simulated.program.main_form.txtSupply.Text() != FormatNumber(supply, "##0.0"))
+    state.SkipWithError("the panel does not follow");
 }
 BENCHMARK(LiveDataPassWithAllValuesChanged)->Unit(benchmark::kMicrosecond);
 

@@ -59,8 +59,8 @@ TEST_F(BindingTest, CentredWindowStandsInTheMiddleOfTheScreen) {
   Pump();
   const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
   const QWidget* window = desktop.Window(form);
-  EXPECT_NEAR(window->pos().x(), screen.x() + (screen.width() - window->width()) / 2, 1);
-  EXPECT_NEAR(window->pos().y(), screen.y() + (screen.height() - window->height()) / 2, 1);
+  EXPECT_NEAR(window->pos().x(), screen.x() + (screen.width() - window->width()) / 2.0, 1);
+  EXPECT_NEAR(window->pos().y(), screen.y() + (screen.height() - window->height()) / 2.0, 1);
 }
 
 TEST_F(BindingTest, WindowThatGrowsWithItsWordsStaysCentred) {

@@ -17,7 +17,7 @@ const Calls kFill = {"FaultLock", "FaultGetCount", "FaultGetData", "FaultUnlock"
 
 class FaultListTest : public ProgramTest {
  protected:
-  void Hold(std::vector<FaultRecord> records) {
+  void Hold(const std::vector<FaultRecord>& records) {
     link.always["FaultGetCount"] = static_cast<std::int32_t>(records.size());
     link.fault_data = [records](void* first) {
       std::memcpy(first, records.data(), records.size() * sizeof(FaultRecord));

@@ -15,7 +15,7 @@ using Calls = std::vector<std::string>;
 class FaultsTest : public ProgramTest {
  protected:
   // The store that the fake library answers with.
-  void Hold(std::vector<FaultRecord> records) {
+  void Hold(const std::vector<FaultRecord>& records) {
     link.always["FaultGetCount"] = static_cast<std::int32_t>(records.size());
     link.fault_data = [records](void* first) {
       std::memcpy(first, records.data(), records.size() * sizeof(FaultRecord));
