@@ -41,7 +41,7 @@ class ParameterWritingTest : public ProgramTest {
       block->bNumBytes = count++;
     for (ParmBlock& block : image.FCF) block.bNumBytes = 111;
   }
-  void AnswerErrors(std::map<int, int> bytes) {
+  void AnswerErrors(const std::map<int, int>& bytes) {
     link.read_block = [bytes](std::uint8_t id, std::uint8_t* count, std::uint8_t* data) {
       EXPECT_EQ(id, 0x29);
       for (const auto& [index, value] : bytes) data[index] = static_cast<std::uint8_t>(value);

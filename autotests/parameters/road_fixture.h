@@ -47,7 +47,7 @@ class RoadFixture : public Base {
   // Walks through the wizard and saves; `edit` may change a page on the way.
   void Walk(const std::function<void(Form&)>& edit, Button frmOVGParm3::*save) {
     const auto next = [&](const char* form, auto member) {
-      desktop.OnModal(form, [this, edit, member](Form& page) {
+      desktop.OnModal(form, [edit, member](Form& page) {
         edit(page);
         Press(member(page));
       });

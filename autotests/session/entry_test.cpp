@@ -131,7 +131,7 @@ TEST_P(LanguageSettingTest, SelectsALanguageOrTheNativeOne) {
   EXPECT_EQ(program.help.HelpFile(), "/program/Trailer.hlp");
 }
 
-MemoryRegistry::Value Dword(std::vector<std::uint8_t> bytes) { return {kRegDword, bytes}; }
+MemoryRegistry::Value Dword(const std::vector<std::uint8_t>& bytes) { return {kRegDword, bytes}; }
 MemoryRegistry::Value Words(const std::string& text) {
   MemoryRegistry::Value value{kRegString, {text.begin(), text.end()}};
   value.data.push_back(0);

@@ -89,6 +89,7 @@ Run Measure(const char* file) {
 
 double Median(const std::vector<Run>& runs, double Run::*value) {
   std::vector<double> values;
+  values.reserve(runs.size());
   for (const Run& run : runs) values.push_back(run.*value);
   std::ranges::sort(values);
   const std::size_t middle = values.size() / 2;
