@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstring>
 
 #include "autotests/common/program_fixture.h"
@@ -20,7 +21,7 @@ class FaultListTest : public ProgramTest {
   void Hold(const std::vector<FaultRecord>& records) {
     link.always["FaultGetCount"] = static_cast<std::int32_t>(records.size());
     link.fault_data = [records](void* first) {
-      std::memcpy(first, records.data(), records.size() * sizeof(FaultRecord));
+      std::copy(records.begin(), records.end(), static_cast<FaultRecord*>(first));
     };
   }
   frmFaults& List() { return program.fault_list; }

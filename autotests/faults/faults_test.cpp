@@ -3,7 +3,7 @@
 
 #include <gtest/gtest.h>
 
-#include <cstring>
+#include <algorithm>
 
 #include "autotests/common/program_fixture.h"
 
@@ -18,7 +18,7 @@ class FaultsTest : public ProgramTest {
   void Hold(const std::vector<FaultRecord>& records) {
     link.always["FaultGetCount"] = static_cast<std::int32_t>(records.size());
     link.fault_data = [records](void* first) {
-      std::memcpy(first, records.data(), records.size() * sizeof(FaultRecord));
+      std::copy(records.begin(), records.end(), static_cast<FaultRecord*>(first));
     };
   }
   Faults& Module() { return program.faults; }

@@ -93,8 +93,13 @@ void HeadlessDesktop::TimerChanged(Timer& timer) {
   timers_.push_back({&timer, interval, clock_.Milliseconds() + static_cast<unsigned>(interval)});
 }
 
+// A form that is destroyed while it is loaded has lost its timers by now: only their addresses
+// count.
 void HeadlessDesktop::ForgetTimers(const Form& form) {
-  std::erase_if(timers_, [&](const auto& entry) { return &entry.timer->Owner() == &form; });
+  const std::vector<Control*>& controls = form.Controls();
+  std::erase_if(timers_, [&](const auto& entry) {
+    return std::ranges::find(controls, static_cast<Control*>(entry.timer)) != controls.end();
+  });
 }
 
 // Runs what is due, each timer once; true when anything ran.
