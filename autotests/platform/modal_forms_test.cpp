@@ -48,10 +48,9 @@ TEST_F(ModalFormsTest, ReturnAtOnceFromAModelessShow) {
 TEST_F(ModalFormsTest, WalkBackAndForthInOneShow) {
   constexpr int kSteps = 1000;
   int steps = 0;
-  std::vector<std::uintptr_t> places;  // of a local variable
+  std::vector<std::uintptr_t> places;  // of the handler's stack frame
   const auto step = [&](SampleForm& from, SampleForm& to) {
-    const char here = 0;
-    places.push_back(reinterpret_cast<std::uintptr_t>(&here));
+    places.push_back(reinterpret_cast<std::uintptr_t>(__builtin_frame_address(0)));
     from.Unload();
     if (++steps < kSteps) from.ContinueWith(to);
   };
