@@ -7,11 +7,11 @@
 #include <string>
 #include <vector>
 
+#include "adapters/headless/headless_desktop.h"
+#include "adapters/headless/headless_ports.h"
+#include "adapters/posix/posix_profile_file.h"
 #include "autotests/common/simulated_link.h"
 #include "faults/faults.h"
-#include "platform/headless/headless_desktop.h"
-#include "platform/headless/headless_ports.h"
-#include "platform/posix/posix_profile_file.h"
 #include "program.h"
 
 namespace lorimet::benchmarks {

@@ -4,7 +4,7 @@
 
 #include <cstdint>
 
-#include "platform/posix/posix_message_hook.h"
+#include "adapters/posix/posix_message_hook.h"
 
 namespace lorimet::benchmarks {
 namespace {

@@ -16,7 +16,7 @@ function(lorimet_generate_views result)
   endforeach()
   set(file ${CMAKE_BINARY_DIR}/generated/views.cpp)
   set(text "// The windows of the forms, one row a .ui file. Generated.
-#include \"platform/qt/views.h\"
+#include \"adapters/qt/views.h\"
 
 #include <QDialog>
 #include <QMainWindow>

@@ -1,12 +1,12 @@
 // Fuzzes the parameter file: any bytes, read through the profile file and through its plain model,
 // must give the same image, the same record and the same verdict, and an image that has been read
 // must be written the same both ways.
+#include "adapters/headless/headless_desktop.h"
+#include "adapters/headless/headless_ports.h"
+#include "adapters/posix/posix_profile_file.h"
 #include "fuzz/profile_file_model.h"
 #include "parameters/parameter_file.h"
 #include "parameters/parm_block.h"
-#include "platform/headless/headless_desktop.h"
-#include "platform/headless/headless_ports.h"
-#include "platform/posix/posix_profile_file.h"
 #include "session/ecu_data.h"
 
 #include <cstdint>

@@ -1,7 +1,7 @@
 // Fuzzes the profile file: random calls on a random file, with edits from outside between them,
 // must give what the plain model gives.
+#include "adapters/posix/posix_profile_file.h"
 #include "fuzz/profile_file_model.h"
-#include "platform/posix/posix_profile_file.h"
 
 #include <array>
 #include <cstdint>

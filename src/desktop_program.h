@@ -5,26 +5,26 @@
 #include <cstdlib>
 #include <memory>
 
-#include "platform/qt/qt_clock.h"
-#include "platform/qt/qt_desktop.h"
-#include "platform/qt/qt_help_viewer.h"
-#include "platform/qt/qt_translations.h"
+#include "adapters/qt/qt_clock.h"
+#include "adapters/qt/qt_desktop.h"
+#include "adapters/qt/qt_help_viewer.h"
+#include "adapters/qt/qt_translations.h"
 #include "program.h"
 #include "session/loaded_link_library.h"
 
 #if defined(_WIN32)
-#include "platform/windows/windows_help_viewer.h"
-#include "platform/windows/windows_message_hook.h"
-#include "platform/windows/windows_process.h"
-#include "platform/windows/windows_profile_file.h"
-#include "platform/windows/windows_registry.h"
-#include "platform/windows/windows_shared_library.h"
+#include "adapters/windows/windows_help_viewer.h"
+#include "adapters/windows/windows_message_hook.h"
+#include "adapters/windows/windows_process.h"
+#include "adapters/windows/windows_profile_file.h"
+#include "adapters/windows/windows_registry.h"
+#include "adapters/windows/windows_shared_library.h"
 #else
-#include "platform/posix/posix_message_hook.h"
-#include "platform/posix/posix_process.h"
-#include "platform/posix/posix_profile_file.h"
-#include "platform/posix/posix_registry.h"
-#include "platform/posix/posix_shared_library.h"
+#include "adapters/posix/posix_message_hook.h"
+#include "adapters/posix/posix_process.h"
+#include "adapters/posix/posix_profile_file.h"
+#include "adapters/posix/posix_registry.h"
+#include "adapters/posix/posix_shared_library.h"
 #endif
 
 namespace lorimet {

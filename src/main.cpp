@@ -1,8 +1,8 @@
 // Composition root: starts the program on this desktop.
 #include <QApplication>
 
+#include "adapters/qt/qt_style.h"
 #include "desktop_program.h"
-#include "platform/qt/qt_style.h"
 
 int main(int argc, char** argv) {
   QApplication application(argc, argv);

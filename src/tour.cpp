@@ -21,8 +21,8 @@
 #include <deque>
 #include <functional>
 
+#include "adapters/qt/qt_style.h"
 #include "desktop_program.h"
-#include "platform/qt/qt_style.h"
 
 namespace {
 

@@ -12,7 +12,7 @@ The floors, the lowest first; a file includes its own folder and the floors belo
     tests       src/tests
     reports     src/reports
     program     src/program.*          composes records and forms from ports
-    adapters    src/platform/{qt,windows,posix,headless}   use any floor of the core but program,
+    adapters    src/adapters/{qt,windows,posix,headless}   use any floor of the core but program,
                                        and never one another
     roots       src/main.cpp, src/tour.cpp, and src/desktop_program.*, which makes the adapters for
                 both; they know everybody, and nobody includes them
@@ -150,7 +150,7 @@ def place(name):
         return "other", parts[0]
     if len(parts) == 2:
         return ("root", "") if parts[1] in ROOTS else ("core", parts[1].split(".")[0])
-    if parts[1] == "platform" and len(parts) > 3:
+    if parts[1] == "adapters" and len(parts) > 3:
         return "adapter", parts[2]
     return "core", parts[1]
 

@@ -95,7 +95,7 @@ class LayerCheckTest(unittest.TestCase):
     def test_each_adapter_takes_its_own_platform(self):
         for name, header in (("qt", "QLabel"), ("posix", "unistd.h"), ("windows", "windows.h"),
                              ("headless", "map")):
-            self.include(f"src/platform/{name}/a.cpp", header)
+            self.include(f"src/adapters/{name}/a.cpp", header)
         self.include("src/main.cpp", "QApplication")
         self.assert_clean()
 
@@ -103,9 +103,9 @@ class LayerCheckTest(unittest.TestCase):
         for name, header in (("qt", "unistd.h"), ("posix", "QLabel"), ("windows", "QLabel"),
                              ("headless", "unistd.h"), ("headless", "QLabel")):
             with self.subTest(f"{name} {header}"):
-                self.include(f"src/platform/{name}/a.cpp", header)
-                self.assert_finds(f"src/platform/{name}/a.cpp", "toolkit")
-                (self.root / f"src/platform/{name}/a.cpp").unlink()
+                self.include(f"src/adapters/{name}/a.cpp", header)
+                self.assert_finds(f"src/adapters/{name}/a.cpp", "toolkit")
+                (self.root / f"src/adapters/{name}/a.cpp").unlink()
 
     def test_a_comment_includes_nothing(self):
         self.write("src/session/a.cpp", "// x\n/*\n#include <QString>\n*/\n//#include <QString>\n")
@@ -139,23 +139,23 @@ class LayerCheckTest(unittest.TestCase):
         self.assert_finds("src/reports/a.cpp:1: up")
 
     def test_no_core_file_includes_an_adapter(self):
-        self.include("src/program.cpp", "platform/qt/b.h", "src/platform/qt/b.h")
+        self.include("src/program.cpp", "adapters/qt/b.h", "src/adapters/qt/b.h")
         self.assert_finds("src/program.cpp:1: up")
 
     def test_adapters_include_the_core_but_not_one_another(self):
-        self.include("src/platform/qt/a.cpp", "support/b.h", "src/support/b.h")
+        self.include("src/adapters/qt/a.cpp", "support/b.h", "src/support/b.h")
         self.assert_clean()
-        self.include("src/platform/qt/c.cpp", "platform/headless/d.h",
-                     "src/platform/headless/d.h")
-        self.assert_finds("src/platform/qt/c.cpp:1: up")
+        self.include("src/adapters/qt/c.cpp", "adapters/headless/d.h",
+                     "src/adapters/headless/d.h")
+        self.assert_finds("src/adapters/qt/c.cpp:1: up")
 
     def test_an_adapter_does_not_include_the_program(self):
-        self.include("src/platform/qt/a.cpp", "program.h", "src/program.h")
-        self.assert_finds("src/platform/qt/a.cpp:1: up")
+        self.include("src/adapters/qt/a.cpp", "program.h", "src/program.h")
+        self.assert_finds("src/adapters/qt/a.cpp:1: up")
 
     def test_main_knows_everybody_in_src(self):
-        self.write("src/main.cpp", '#include "platform/qt/a.h"\n#include "reports/b.h"\n')
-        self.write("src/platform/qt/a.h", "")
+        self.write("src/main.cpp", '#include "adapters/qt/a.h"\n#include "reports/b.h"\n')
+        self.write("src/adapters/qt/a.h", "")
         self.write("src/reports/b.h", "")
         self.assert_clean()
 
@@ -167,7 +167,7 @@ class LayerCheckTest(unittest.TestCase):
         self.assert_clean()
 
     def test_nothing_in_src_includes_the_simulator(self):
-        for name in ("src/session/a.cpp", "src/platform/qt/a.cpp", "src/tour.cpp"):
+        for name in ("src/session/a.cpp", "src/adapters/qt/a.cpp", "src/tour.cpp"):
             with self.subTest(name):
                 self.include(name, "simulator/trailer/b.h", "simulator/trailer/b.h")
                 self.assert_finds(name, "simulator/trailer/b.h")
@@ -204,7 +204,7 @@ class LayerCheckTest(unittest.TestCase):
         self.assert_finds("missing", "session/gone.h")
 
     def test_generated_windows_are_known(self):
-        self.write("src/platform/qt/a.cpp", '#include "ui_frmMain.h"\n#include "a.moc"\n')
+        self.write("src/adapters/qt/a.cpp", '#include "ui_frmMain.h"\n#include "a.moc"\n')
         self.assert_clean()
 
     # Circles.

@@ -6,10 +6,10 @@
 #include <string>
 #include <vector>
 
+#include "adapters/headless/headless_desktop.h"
+#include "adapters/headless/headless_ports.h"
+#include "adapters/posix/posix_profile_file.h"
 #include "autotests/common/fake_link.h"
-#include "platform/headless/headless_desktop.h"
-#include "platform/headless/headless_ports.h"
-#include "platform/posix/posix_profile_file.h"
 #include "program.h"
 
 namespace lorimet::testing_support {

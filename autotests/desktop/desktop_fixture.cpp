@@ -23,7 +23,7 @@
 #include <QToolBar>
 #include <QVBoxLayout>
 
-#include "platform/qt/qt_style.h"
+#include "adapters/qt/qt_style.h"
 
 // How the toolkit itself asks for shortcuts before it delivers a key.
 QT_BEGIN_NAMESPACE

@@ -13,9 +13,9 @@
 #include <string>
 #include <vector>
 
+#include "adapters/qt/qt_desktop.h"
 #include "platform/controls.h"
 #include "platform/forms.h"
-#include "platform/qt/qt_desktop.h"
 
 class QEvent;
 

@@ -11,8 +11,8 @@
 #include <QPushButton>
 #include <QTemporaryDir>
 
+#include "adapters/qt/qt_text.h"
 #include "autotests/desktop/desktop_fixture.h"
-#include "platform/qt/qt_text.h"
 
 namespace lorimet {
 namespace {

@@ -10,11 +10,11 @@
 #include <QTextBrowser>
 #include <QTreeWidget>
 
+#include "adapters/qt/qt_help_pages.h"
+#include "adapters/qt/qt_help_viewer.h"
+#include "adapters/qt/qt_help_window.h"
+#include "adapters/qt/qt_text.h"
 #include "autotests/desktop/desktop_fixture.h"
-#include "platform/qt/qt_help_pages.h"
-#include "platform/qt/qt_help_viewer.h"
-#include "platform/qt/qt_help_window.h"
-#include "platform/qt/qt_text.h"
 
 namespace lorimet {
 namespace {

@@ -3,12 +3,12 @@
 #include <QKeyEvent>
 #include <QTemporaryDir>
 
+#include "adapters/qt/qt_clock.h"
+#include "adapters/qt/qt_keys.h"
+#include "adapters/qt/qt_page_printer.h"
+#include "adapters/qt/qt_text.h"
+#include "adapters/qt/qt_translations.h"
 #include "autotests/desktop/desktop_fixture.h"
-#include "platform/qt/qt_clock.h"
-#include "platform/qt/qt_keys.h"
-#include "platform/qt/qt_page_printer.h"
-#include "platform/qt/qt_text.h"
-#include "platform/qt/qt_translations.h"
 
 namespace lorimet {
 namespace {

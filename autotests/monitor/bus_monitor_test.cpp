@@ -7,8 +7,8 @@
 #include <string>
 #include <vector>
 
+#include "adapters/headless/headless_ports.h"
 #include "autotests/common/fake_link.h"
-#include "platform/headless/headless_ports.h"
 #include "support/text.h"
 
 namespace lorimet {

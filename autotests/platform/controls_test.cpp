@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "adapters/headless/headless_desktop.h"
 #include "platform/forms.h"
-#include "platform/headless/headless_desktop.h"
 #include "platform/runtime_error.h"
 
 namespace lorimet {

@@ -8,9 +8,9 @@
 #include <utility>
 #include <vector>
 
+#include "adapters/headless/headless_desktop.h"
 #include "platform/controls.h"
 #include "platform/forms.h"
-#include "platform/headless/headless_desktop.h"
 
 namespace lorimet::testing_support {
 

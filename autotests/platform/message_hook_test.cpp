@@ -10,7 +10,7 @@
 #include <thread>
 #include <vector>
 
-#include "platform/posix/posix_message_hook.h"
+#include "adapters/posix/posix_message_hook.h"
 
 namespace lorimet {
 namespace {

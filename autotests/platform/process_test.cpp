@@ -12,9 +12,9 @@
 #include <ios>
 #include <sstream>
 
+#include "adapters/posix/posix_process.h"
+#include "adapters/posix/user_folders.h"
 #include "autotests/platform/native_fixture.h"
-#include "platform/posix/posix_process.h"
-#include "platform/posix/user_folders.h"
 
 namespace lorimet {
 namespace {

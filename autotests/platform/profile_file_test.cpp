@@ -1,4 +1,4 @@
-#include "platform/posix/posix_profile_file.h"
+#include "adapters/posix/posix_profile_file.h"
 
 #include "fuzz/profile_file_model.h"
 

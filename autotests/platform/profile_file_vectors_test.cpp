@@ -1,8 +1,8 @@
 // Runs every call of profile_file_vectors.txt against this platform's profile file.
 #if defined(_WIN32)
-#include "platform/windows/windows_profile_file.h"
+#include "adapters/windows/windows_profile_file.h"
 #else
-#include "platform/posix/posix_profile_file.h"
+#include "adapters/posix/posix_profile_file.h"
 #endif
 
 #include <gtest/gtest.h>

@@ -10,8 +10,8 @@
 #include <string_view>
 #include <vector>
 
+#include "adapters/posix/posix_registry.h"
 #include "autotests/platform/native_fixture.h"
-#include "platform/posix/posix_registry.h"
 
 namespace lorimet {
 namespace {

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/headless/headless_desktop.h"
+#include "adapters/headless/headless_desktop.h"
 #include "support/error_report.h"
 
 namespace lorimet {

@@ -5,8 +5,8 @@
 
 #include <cstdlib>
 
+#include "adapters/posix/posix_shared_library.h"
 #include "autotests/platform/native_fixture.h"
-#include "platform/posix/posix_shared_library.h"
 
 namespace lorimet {
 namespace {

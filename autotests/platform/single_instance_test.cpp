@@ -9,8 +9,8 @@
 #include <memory>
 #include <optional>
 
+#include "adapters/posix/posix_process.h"
 #include "autotests/platform/native_fixture.h"
-#include "platform/posix/posix_process.h"
 
 namespace lorimet {
 namespace {

@@ -1,5 +1,5 @@
 // The reading of .ui files without a toolkit.
-#include "platform/headless/ui_design.h"
+#include "adapters/headless/ui_design.h"
 
 #include <gtest/gtest.h>
 
@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/headless/xml_reader.h"
+#include "adapters/headless/xml_reader.h"
 
 namespace lorimet {
 namespace {

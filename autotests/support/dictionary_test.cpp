@@ -9,9 +9,9 @@
 #include <utility>
 #include <vector>
 
+#include "adapters/headless/headless_desktop.h"
 #include "autotests/common/program_fixture.h"
 #include "platform/forms.h"
-#include "platform/headless/headless_desktop.h"
 
 namespace lorimet {
 namespace {

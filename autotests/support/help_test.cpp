@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
+#include "adapters/headless/headless_ports.h"
 #include "autotests/common/program_fixture.h"
-#include "platform/headless/headless_ports.h"
 #include "support/text.h"
 
 namespace lorimet {

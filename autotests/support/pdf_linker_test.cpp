@@ -5,8 +5,8 @@
 
 #include <string>
 
-#include "platform/headless/headless_desktop.h"
-#include "platform/headless/headless_ports.h"
+#include "adapters/headless/headless_desktop.h"
+#include "adapters/headless/headless_ports.h"
 #include "support/dictionary.h"
 #include "support/frmPDFDDEForm.h"
 

@@ -8,7 +8,7 @@
 #include <utility>
 #include <vector>
 
-#include "platform/headless/headless_ports.h"
+#include "adapters/headless/headless_ports.h"
 #include "platform/runtime_error.h"
 
 namespace lorimet {

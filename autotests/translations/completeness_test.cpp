@@ -17,11 +17,11 @@
 #include <utility>
 #include <vector>
 
+#include "adapters/headless/ui_design.h"
+#include "adapters/headless/xml_reader.h"
 #include "autotests/translations/source_literals.h"
 #include "faults/fault_catalogue.h"
 #include "faults/repair_instructions.h"
-#include "platform/headless/ui_design.h"
-#include "platform/headless/xml_reader.h"
 #include "support/text.h"
 
 namespace lorimet {
@@ -139,7 +139,8 @@ void CollectSources(std::vector<NeededText>& needed) {
     const std::string extension = entry.path().extension().string();
     if (extension != ".h" && extension != ".cpp") continue;
     // Adapters speak to the developer, in English; what they show comes from the core.
-    const bool adapter = file.starts_with("platform/") || file == "main.cpp" || file == "tour.cpp";
+    const bool adapter = file.starts_with("platform/") || file.starts_with("adapters/") ||
+                         file == "main.cpp" || file == "tour.cpp";
     for (const SourceLiteral& literal : LiteralReader(ReadFile(entry.path())).Read()) {
       const bool sentence =
           !adapter && !UntranslatedFiles().contains(file) && HasTwoWords(literal.text);

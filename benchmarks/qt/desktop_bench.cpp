@@ -4,10 +4,10 @@
 #include <QApplication>
 #include <QEvent>
 
+#include "adapters/qt/qt_desktop.h"
+#include "adapters/qt/qt_style.h"
+#include "adapters/qt/qt_translations.h"
 #include "benchmarks/simulated_program.h"
-#include "platform/qt/qt_desktop.h"
-#include "platform/qt/qt_style.h"
-#include "platform/qt/qt_translations.h"
 
 namespace lorimet::benchmarks {
 namespace {

@@ -1,0 +1,164 @@
+#include "adapters/qt/qt_text_binding.h"
+
+#include <QFontInfo>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QTextCursor>
+#include <QTextEdit>
+#include <QVariant>
+#include <algorithm>
+
+#include "adapters/qt/qt_text.h"
+#include "adapters/qt/qt_widget_binding.h"
+#include "platform/forms.h"
+
+namespace lorimet {
+namespace {
+
+// What the three text fields of the toolkit do alike.
+class TextBinding : public WidgetBinding {
+ public:
+  TextBinding(TextBox& box, QWidget* widget) : WidgetBinding(box, widget), box_(box) {}
+
+  ControlDesign Design() const override {
+    ControlDesign design = WidgetBinding::Design();
+    design.text = FromWidgetText(Read());
+    return design;
+  }
+
+  void Mirror(unsigned changes) override {
+    WidgetBinding::Mirror(changes);
+    if (changes & Control::kText) {
+      const QString text = ToWidgetText(box_.Text());
+      // The same text again would lose the user's place in it.
+      if (Read() != text) Write(text);
+    }
+    if ((changes & (Control::kText | Control::kSelection)) && box_.AllSelected()) SelectAll();
+  }
+
+  void Measure() override {
+    const QWidget& widget = *Widget();
+    box_.ViewMeasured(widget.height() * kTwipsPerPixel, QFontInfo(widget.font()).pointSizeF());
+  }
+
+  void MouseReleased() override {
+    // The click that brought the focus has put the cursor somewhere; what the form selected on
+    // getting the focus stands.
+    if (box_.AllSelected() && !HasSelection()) SelectAll();
+    if (box_.on_click) box_.UserClick();
+  }
+
+ protected:
+  virtual QString Read() const = 0;
+  virtual void Write(const QString& text) = 0;
+  virtual void SelectAll() = 0;
+  virtual bool HasSelection() const = 0;
+
+  TextBox& box_;
+};
+
+class LineBinding : public TextBinding {
+ public:
+  LineBinding(TextBox& box, QLineEdit* edit, const BindingSite& site)
+      : TextBinding(box, edit), edit_(edit) {
+    QObject::connect(edit, &QLineEdit::textChanged, site.lifetime,
+                     [this, dispatch = site.dispatch](const QString& text) {
+                       dispatch([this, &text] {
+                         Limit(text.size());
+                         box_.UserType(FromWidgetText(text));
+                       });
+                     });
+  }
+
+  ControlDesign Design() const override {
+    ControlDesign design = TextBinding::Design();
+    if (edit_->maxLength() != kNoLimit) design.max_length = edit_->maxLength();
+    return design;
+  }
+
+ protected:
+  QString Read() const override { return edit_->text(); }
+  void Write(const QString& text) override {
+    Limit(text.size());
+    edit_->setText(text);
+    edit_->setCursorPosition(0);
+  }
+  void SelectAll() override { edit_->selectAll(); }
+  bool HasSelection() const override { return edit_->hasSelectedText(); }
+
+ private:
+  static constexpr int kNoLimit = 32767;  // the toolkit's own
+
+  // The limit holds for what the user types; a longer text that code has set stays whole.
+  void Limit(qsizetype length) {
+    const int wanted = box_.MaxLength() > 0 ? std::max<int>(box_.MaxLength(), length)
+                                            : std::max<int>(kNoLimit, length);
+    if (edit_->maxLength() == wanted) return;
+    const int cursor = edit_->cursorPosition();
+    edit_->setMaxLength(wanted);
+    edit_->setCursorPosition(cursor);
+  }
+
+  QLineEdit* edit_;
+};
+
+// QPlainTextEdit and QTextEdit, which have no ancestor with these functions.
+template <typename Edit>
+class PageBinding : public TextBinding {
+ public:
+  PageBinding(TextBox& box, Edit* edit, const BindingSite& site)
+      : TextBinding(box, edit), edit_(edit) {
+    QObject::connect(edit, &Edit::textChanged, site.lifetime,
+                     [this, dispatch = site.dispatch] { dispatch([this] { Typed(); }); });
+  }
+
+  ControlDesign Design() const override {
+    ControlDesign design = TextBinding::Design();
+    const QVariant limit = edit_->property("maxLength");
+    if (limit.isValid()) design.max_length = limit.toInt();
+    return design;
+  }
+
+ protected:
+  QString Read() const override { return edit_->toPlainText(); }
+  void Write(const QString& text) override { edit_->setPlainText(text); }
+  void SelectAll() override { edit_->selectAll(); }
+  bool HasSelection() const override { return edit_->textCursor().hasSelection(); }
+
+ private:
+  void Typed() {
+    const std::string typed = FromWidgetText(Read());
+    if (TooLong(typed) && typed.size() > box_.Text().size())
+      Restore();
+    else
+      box_.UserType(typed);
+  }
+
+  bool TooLong(const std::string& text) const {
+    return box_.MaxLength() > 0 && ToQString(text).size() > box_.MaxLength();
+  }
+
+  void Restore() {
+    const int position = edit_->textCursor().position();
+    edit_->setPlainText(ToWidgetText(box_.Text()));
+    QTextCursor cursor = edit_->textCursor();
+    cursor.setPosition(std::min<int>(position, Read().size()));
+    edit_->setTextCursor(cursor);
+  }
+
+  Edit* edit_;
+};
+
+}  // namespace
+
+std::unique_ptr<Binding> BindTextBox(TextBox& box, QWidget* widget, const BindingSite& site) {
+  if (auto* line = qobject_cast<QLineEdit*>(widget))
+    return std::make_unique<LineBinding>(box, line, site);
+  if (auto* plain = qobject_cast<QPlainTextEdit*>(widget))
+    return std::make_unique<PageBinding<QPlainTextEdit>>(box, plain, site);
+  if (auto* page = qobject_cast<QTextEdit*>(widget))
+    return std::make_unique<PageBinding<QTextEdit>>(box, page, site);
+  return nullptr;
+}
+
+}  // namespace lorimet

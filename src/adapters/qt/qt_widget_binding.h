@@ -1,0 +1,22 @@
+// What all controls that are widgets have in common: enabled, visible, colour and tool tip.
+#pragma once
+
+#include "adapters/qt/qt_binding.h"
+
+class QWidget;
+
+namespace lorimet {
+
+class WidgetBinding : public Binding {
+ public:
+  WidgetBinding(Control& control, QWidget* widget) : Binding(control), widget_(widget) {}
+
+  QWidget* Widget() const override { return widget_; }
+  ControlDesign Design() const override;
+  void Mirror(unsigned changes) override;
+
+ private:
+  QWidget* widget_;
+};
+
+}  // namespace lorimet
