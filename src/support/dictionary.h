@@ -7,24 +7,11 @@
 #include <string>
 
 #include "platform/desktop.h"
+#include "platform/translation_source.h"
 
 namespace lorimet {
 
 class Form;
-
-// The languages of the dictionary, by index. Native is the English text of the program.
-enum Language { kNative = 0, kFrench = 1, kEnglish = 2, kSpanish = 3 };
-constexpr int kLanguageCount = 4;
-
-// The dictionary's port to where the texts lie.
-class TranslationSource {
- public:
-  virtual ~TranslationSource() = default;
-  // False when the texts cannot be reached; the program then stays in its native language.
-  virtual bool Open() = 0;
-  // The text of an exact key, blanks, case and line ends included; empty when there is none.
-  virtual std::string Lookup(int language, const std::string& key) = 0;
-};
 
 // Kinds of the dictionary's message box.
 enum class BoxKind { kWarning = 0, kError = 1, kInformation = 2, kConfirmation = 3 };

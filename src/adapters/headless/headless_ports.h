@@ -12,7 +12,7 @@
 #include "platform/procedure_chain.h"
 #include "platform/process.h"
 #include "platform/registry.h"
-#include "support/dictionary.h"
+#include "platform/translation_source.h"
 
 namespace lorimet {
 

@@ -9,7 +9,7 @@
 
 #include "adapters/qt/qt_help_window.h"
 #include "adapters/qt/qt_text.h"
-#include "support/dictionary.h"
+#include "platform/translation_source.h"
 
 namespace lorimet {
 namespace {

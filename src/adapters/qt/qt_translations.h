@@ -4,7 +4,7 @@
 #include <memory>
 #include <string>
 
-#include "support/dictionary.h"
+#include "platform/translation_source.h"
 
 class QTranslator;
 
