@@ -125,7 +125,7 @@ void HelpWindow::BuildSides() {
 void HelpWindow::SetWords() {
   setWindowTitle(Words("Help"));
   back_->setText(Words("Back"));
-  forward_->setText(Words("Forward"));
+  forward_->setText(Words("Next"));
   home_->setText(Words("Home"));
   sides_->setTabText(0, Words("Contents"));
   sides_->setTabText(1, Words("Search"));
