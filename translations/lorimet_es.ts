@@ -117,7 +117,7 @@
     </message>
     <message>
         <source>Service Brake Demand</source>
-        <translation>Demanda freno de servicio</translation>
+        <translation>Demanda de freno de servicio</translation>
     </message>
     <message>
         <source>Supply</source>
@@ -277,7 +277,7 @@
     </message>
     <message>
         <source>&amp;Reset ECU</source>
-        <translation>&amp;Reinicializar la ECU</translation>
+        <translation>&amp;Reiniciar la ECU</translation>
     </message>
     <message>
         <source>&amp;Display ODR Overview Data</source>
@@ -481,7 +481,7 @@
     </message>
     <message>
         <source>Range Limit Exceeded</source>
-        <translation>Límite de rango superado</translation>
+        <translation>Valor fuera de rango</translation>
     </message>
     <message>
         <source>Invalid Values</source>
@@ -573,7 +573,7 @@
     </message>
     <message>
         <source>Modular Mounting</source>
-        <translation>Montaje modular</translation>
+        <translation>Montaje del modulador</translation>
     </message>
     <message>
         <source>Facing Forward</source>
@@ -629,7 +629,7 @@
     </message>
     <message>
         <source>No Stoplight Activation Cable Installed</source>
-        <translation>Sin cable de activación de las luces de freno instalado</translation>
+        <translation>Cable de activación de las luces de freno no instalado</translation>
     </message>
     <message>
         <source>&amp;Next</source>
@@ -674,7 +674,7 @@
     <message>
         <source>Suspension pressure (bar)&#13;
 </source>
-        <translation>Presión suspensión (bar)&#13;
+        <translation>Presión suspensión (psi)&#13;
 </translation>
     </message>
     <message>
@@ -695,7 +695,7 @@ frenado&#13;
     </message>
     <message>
         <source>Distance sensor lever length (mm)</source>
-        <translation>Longitud de palanca del sensor de distancia (mm)</translation>
+        <translation>Longitud de palanca del sensor de recorrido (mm)</translation>
     </message>
     <message>
         <source>Production Date (week/year)</source>
@@ -711,11 +711,11 @@ frenado&#13;
     </message>
     <message>
         <source>Axle Load Laden out of range.  Valid range : 0 - 25,000 kg</source>
-        <translation>Carga del eje en carga fuera de rango. Rango válido: 0 - 25000 kg</translation>
+        <translation>Carga del eje (en carga) fuera de rango. Rango válido: 0 - 25000 kg</translation>
     </message>
     <message>
         <source>Axle Load Unladen out of range.  Valid range : 0 - 25,000 kg</source>
-        <translation>Carga del eje en vacío fuera de rango. Rango válido: 0 - 25000 kg</translation>
+        <translation>Carga del eje (en vacío) fuera de rango. Rango válido: 0 - 25000 kg</translation>
     </message>
     <message>
         <source>Braking Pressure Laden out of range.  Valid range : 0 - 145 psi</source>
@@ -751,7 +751,7 @@ frenado&#13;
     </message>
     <message>
         <source>Tire Size out of range.  Valid range : 1200 - 5200 mm</source>
-        <translation>Tamaño del neumático fuera de rango. Rango válido: 1200 - 5200 mm</translation>
+        <translation>Circunferencia del neumático fuera de rango. Rango válido: 1200 - 5200 mm</translation>
     </message>
     <message>
         <source>Lifting Pressure out of range.  Valid range : 0 - 100 psi</source>
@@ -763,11 +763,11 @@ frenado&#13;
     </message>
     <message>
         <source>Turn On Thresh out of range.  Valid range : 2 - 100 kph</source>
-        <translation>Umbral de conexión fuera de rango. Rango válido: 2 - 100 km/h</translation>
+        <translation>Umbral de activación fuera de rango. Rango válido: 2 - 100 km/h</translation>
     </message>
     <message>
         <source>Turn Off Thresh out of range.  Valid range : 0 - 100 kph</source>
-        <translation>Umbral de desconexión fuera de rango. Rango válido: 0 - 100 km/h</translation>
+        <translation>Umbral de desactivación fuera de rango. Rango válido: 0 - 100 km/h</translation>
     </message>
     <message>
         <source>GIO Selection</source>
@@ -783,7 +783,7 @@ frenado&#13;
     </message>
     <message>
         <source>Tag Axle (Rear Suspension Dump)</source>
-        <translation>Eje arrastrado (vaciado suspensión trasera)</translation>
+        <translation>Eje arrastrado (vaciado de la suspensión trasera)</translation>
     </message>
     <message>
         <source>Reverse Light</source>
@@ -791,15 +791,15 @@ frenado&#13;
     </message>
     <message>
         <source>Tank Pressure</source>
-        <translation>Presión del depósito</translation>
+        <translation>Presión del depósito de aire</translation>
     </message>
     <message>
         <source>Car Hauler Height Status with Events</source>
-        <translation>Estado de altura portacoches con eventos</translation>
+        <translation>Estado de altura del portacoches con eventos</translation>
     </message>
     <message>
         <source>Car Hauler Height Status with Events and TIXA</source>
-        <translation>Estado de altura portacoches con eventos y TIXA</translation>
+        <translation>Estado de altura del portacoches con eventos y TIXA</translation>
     </message>
     <message>
         <source>Lift Axle</source>
@@ -827,7 +827,7 @@ frenado&#13;
     </message>
     <message>
         <source>Constant Power (GIO 2)</source>
-        <translation>Alimentación permanente (GIO 2)</translation>
+        <translation>Alimentación eléctrica permanente (GIO 2)</translation>
     </message>
     <message>
         <source>Power Supply</source>
@@ -863,7 +863,7 @@ frenado&#13;
     </message>
     <message>
         <source>Tire Circumference (mm)</source>
-        <translation>Circunferencia neumático (mm)</translation>
+        <translation>Circunferencia del neumático (mm)</translation>
     </message>
     <message>
         <source>Number of Teeth</source>
@@ -959,11 +959,11 @@ frenado&#13;
     </message>
     <message>
         <source>Performing Reset of ECU</source>
-        <translation>Reinicializando la ECU</translation>
+        <translation>Reiniciando la ECU</translation>
     </message>
     <message>
         <source>Checking for Parameter Errors</source>
-        <translation>Comprobando errores de parámetros</translation>
+        <translation>Buscando errores de parámetros</translation>
     </message>
     <message>
         <source>Lift Axle Lowering/Lifting Pressures</source>
@@ -999,23 +999,23 @@ frenado&#13;
     </message>
     <message>
         <source>Speed Switch Vehicle Speed Thresholds</source>
-        <translation>Umbrales de velocidad del vehículo del interruptor de velocidad</translation>
+        <translation>Umbrales del interruptor de velocidad</translation>
     </message>
     <message>
         <source>&quot;Turn On&quot; Vehicle Speed</source>
-        <translation>Velocidad del vehículo de «conexión»</translation>
+        <translation>Velocidad de «activación» del vehículo</translation>
     </message>
     <message>
         <source>&quot;Turn Off&quot; Vehicle Speed</source>
-        <translation>Velocidad del vehículo de «desconexión»</translation>
+        <translation>Velocidad de «desactivación» del vehículo</translation>
     </message>
     <message>
         <source>12V is supplied from 0 kph until the turn-off speed is reached.</source>
-        <translation>Se suministran 12 V desde 0 km/h hasta alcanzar la velocidad de desconexión.</translation>
+        <translation>Se suministran 12 V desde 0 km/h hasta alcanzar la velocidad de desactivación.</translation>
     </message>
     <message>
         <source>Turn OFF Threshold must be less than Turn ON Threshold.</source>
-        <translation>El umbral de DESCONEXIÓN debe ser inferior al umbral de CONEXIÓN.</translation>
+        <translation>El umbral de DESACTIVACIÓN debe ser inferior al umbral de ACTIVACIÓN.</translation>
     </message>
     <message>
         <source>Unable to display Help Contents. There is no Help associated with this project.</source>
@@ -1027,11 +1027,11 @@ frenado&#13;
     </message>
     <message>
         <source>Diagnostics and end-of-line tests for trailer brake ECUs</source>
-        <translation>Diagnóstico y pruebas de fin de línea para ECU de freno de remolque</translation>
+        <translation>Diagnóstico y pruebas de fin de línea para ECU de frenos de remolque</translation>
     </message>
     <message>
         <source>This program is protected by copyright law and international treaties. It is supplied to trained workshop and production staff only. Work on a trailer&apos;s brake system endangers lives when it is done wrongly: follow the instructions of the vehicle&apos;s and the brake system&apos;s makers, and test the brakes before the vehicle goes back on the road. Norvick accepts no liability for damage that arises from improper use.</source>
-        <translation>Este programa está protegido por la ley de propiedad intelectual y por los tratados internacionales. Se suministra exclusivamente a personal formado de taller y de producción. Un trabajo incorrecto en el sistema de frenos de un remolque pone vidas en peligro: siga las instrucciones de los fabricantes del vehículo y del sistema de frenos, y compruebe los frenos antes de que el vehículo vuelva a la carretera. Norvick no se hace responsable de los daños derivados de un uso indebido.</translation>
+        <translation>Este programa está protegido por la ley de propiedad intelectual y por los tratados internacionales. Se suministra exclusivamente a personal formado de taller y de producción. Un trabajo incorrecto en el sistema de frenos de un remolque pone vidas en peligro: siga las instrucciones de los fabricantes del vehículo y del sistema de frenos, y pruebe los frenos antes de que el vehículo vuelva a la carretera. Norvick no se hace responsable de los daños derivados de un uso indebido.</translation>
     </message>
     <message>
         <source>Version</source>
@@ -1139,7 +1139,7 @@ frenado&#13;
     </message>
     <message>
         <source>This screen is not built yet.</source>
-        <translation>Esta pantalla aún no está realizada.</translation>
+        <translation>Esta pantalla todavía no está disponible.</translation>
     </message>
     <message>
         <source>Sensor c air gap too large</source>
@@ -1523,7 +1523,7 @@ frenado&#13;
     </message>
     <message>
         <source>Redundant braking - ABS still active</source>
-        <translation>Frenado redundante - ABS todavía activo</translation>
+        <translation>Frenado por redundancia - ABS todavía activo</translation>
     </message>
     <message>
         <source>Pneumatic control line - residual pressure</source>
@@ -1599,7 +1599,7 @@ frenado&#13;
     </message>
     <message>
         <source>Lateral acceleration sensor - bad signal</source>
-        <translation>Sensor de aceleración lateral - mala señal</translation>
+        <translation>Sensor de aceleración lateral - señal defectuosa</translation>
     </message>
     <message>
         <source>Lateral acceleration sensor - fault when driving</source>
@@ -1755,7 +1755,7 @@ frenado&#13;
     </message>
     <message>
         <source>Relaxation button - digital</source>
-        <translation>Botón de relajación - digital</translation>
+        <translation>Botón de destensado - digital</translation>
     </message>
     <message>
         <source>Diagnostic socket - digital</source>
@@ -1795,51 +1795,51 @@ frenado&#13;
     </message>
     <message>
         <source>Distance sensor axle c-d - data is irregular</source>
-        <translation>Sensor de distancia eje c-d - datos irregulares</translation>
+        <translation>Sensor de recorrido eje c-d - datos irregulares</translation>
     </message>
     <message>
         <source>Distance sensor axle c-d - short to 12V detected</source>
-        <translation>Sensor de distancia eje c-d - cortocircuito a +12V detectado</translation>
+        <translation>Sensor de recorrido eje c-d - cortocircuito a +12V detectado</translation>
     </message>
     <message>
         <source>Distance sensor axle c-d - short to ground detected</source>
-        <translation>Sensor de distancia eje c-d - cortocircuito a masa detectado</translation>
+        <translation>Sensor de recorrido eje c-d - cortocircuito a masa detectado</translation>
     </message>
     <message>
         <source>Distance sensor axle c-d - defective cable</source>
-        <translation>Sensor de distancia eje c-d - cable defectuoso</translation>
+        <translation>Sensor de recorrido eje c-d - cable defectuoso</translation>
     </message>
     <message>
         <source>Distance sensor axle c-d - value too small</source>
-        <translation>Sensor de distancia eje c-d - valor demasiado pequeño</translation>
+        <translation>Sensor de recorrido eje c-d - valor demasiado pequeño</translation>
     </message>
     <message>
         <source>Distance sensor axle c-d - not calibrated</source>
-        <translation>Sensor de distancia eje c-d - no calibrado</translation>
+        <translation>Sensor de recorrido eje c-d - no calibrado</translation>
     </message>
     <message>
         <source>Distance sensor axle e-f - data is irregular</source>
-        <translation>Sensor de distancia eje e-f - datos irregulares</translation>
+        <translation>Sensor de recorrido eje e-f - datos irregulares</translation>
     </message>
     <message>
         <source>Distance sensor axle e-f - short to 12V</source>
-        <translation>Sensor de distancia eje e-f - cortocircuito a +12V</translation>
+        <translation>Sensor de recorrido eje e-f - cortocircuito a +12V</translation>
     </message>
     <message>
         <source>Distance sensor axle e-f - short to ground</source>
-        <translation>Sensor de distancia eje e-f - cortocircuito a masa</translation>
+        <translation>Sensor de recorrido eje e-f - cortocircuito a masa</translation>
     </message>
     <message>
         <source>Distance sensor axle e-f - defective cable</source>
-        <translation>Sensor de distancia eje e-f - cable defectuoso</translation>
+        <translation>Sensor de recorrido eje e-f - cable defectuoso</translation>
     </message>
     <message>
         <source>Distance sensor axle e-f - value too small</source>
-        <translation>Sensor de distancia eje e-f - valor demasiado pequeño</translation>
+        <translation>Sensor de recorrido eje e-f - valor demasiado pequeño</translation>
     </message>
     <message>
         <source>Distance sensor axle e-f - not calibrated</source>
-        <translation>Sensor de distancia eje e-f - no calibrado</translation>
+        <translation>Sensor de recorrido eje e-f - no calibrado</translation>
     </message>
     <message>
         <source>Freely programmable function 3</source>
@@ -1871,35 +1871,35 @@ frenado&#13;
     </message>
     <message>
         <source>Distance sensor e-f - incorrect data</source>
-        <translation>Sensor de distancia e-f - datos incorrectos</translation>
+        <translation>Sensor de recorrido e-f - datos incorrectos</translation>
     </message>
     <message>
         <source>Distance sensor e-f - short to 12V</source>
-        <translation>Sensor de distancia e-f - cortocircuito a +12V</translation>
+        <translation>Sensor de recorrido e-f - cortocircuito a +12V</translation>
     </message>
     <message>
         <source>Distance sensor e-f - short to ground</source>
-        <translation>Sensor de distancia e-f - cortocircuito a masa</translation>
+        <translation>Sensor de recorrido e-f - cortocircuito a masa</translation>
     </message>
     <message>
         <source>Distance sensor e-f - open circuit</source>
-        <translation>Sensor de distancia e-f - circuito abierto</translation>
+        <translation>Sensor de recorrido e-f - circuito abierto</translation>
     </message>
     <message>
         <source>Distance sensor c-d - incorrect data</source>
-        <translation>Sensor de distancia c-d - datos incorrectos</translation>
+        <translation>Sensor de recorrido c-d - datos incorrectos</translation>
     </message>
     <message>
         <source>Distance sensor c-d - short to 12V</source>
-        <translation>Sensor de distancia c-d - cortocircuito a +12V</translation>
+        <translation>Sensor de recorrido c-d - cortocircuito a +12V</translation>
     </message>
     <message>
         <source>Distance sensor c-d - short to ground</source>
-        <translation>Sensor de distancia c-d - cortocircuito a masa</translation>
+        <translation>Sensor de recorrido c-d - cortocircuito a masa</translation>
     </message>
     <message>
         <source>Distance sensor c-d - open circuit</source>
-        <translation>Sensor de distancia c-d - circuito abierto</translation>
+        <translation>Sensor de recorrido c-d - circuito abierto</translation>
     </message>
     <message>
         <source>SLEV valve - short to 12V</source>
@@ -2127,7 +2127,7 @@ frenado&#13;
     </message>
     <message>
         <source>Power supply - stop light power</source>
-        <translation>Alimentación eléctrica - alimentación por luces de freno</translation>
+        <translation>Alimentación eléctrica - alimentación por las luces de freno</translation>
     </message>
     <message>
         <source>Power supply - value too high</source>
@@ -2179,19 +2179,19 @@ frenado&#13;
     </message>
     <message>
         <source>Pressure measurement value too high. Check for kinked line.  Compare pressure gauge reading with Lorimet value of the pressure sensor.</source>
-        <translation>Valor de presión medido demasiado alto. Comprobar si la línea está doblada. Comparar la lectura del manómetro con el valor de Lorimet del sensor de presión.</translation>
+        <translation>Valor de presión medido demasiado alto. Comprobar si el conducto está doblado. Comparar la lectura del manómetro con el valor de Lorimet del sensor de presión.</translation>
     </message>
     <message>
         <source>Pressure measurement value too low. Check for kinked line or blocked filter.  Compare pressure gauge reading with Lorimet value of the pressure sensor.</source>
-        <translation>Valor de presión medido demasiado bajo. Comprobar si la línea está doblada o el filtro obstruido. Comparar la lectura del manómetro con el valor de Lorimet del sensor de presión.</translation>
+        <translation>Valor de presión medido demasiado bajo. Comprobar si el conducto está doblado o el filtro obstruido. Comparar la lectura del manómetro con el valor de Lorimet del sensor de presión.</translation>
     </message>
     <message>
         <source>The pressure in the support bellows of the air suspension is too low when driving.</source>
-        <translation>La presión en los fuelles de la suspensión neumática es demasiado baja durante la marcha.</translation>
+        <translation>La presión en los fuelles portantes de la suspensión neumática es demasiado baja durante la marcha.</translation>
     </message>
     <message>
         <source>Deviation between the pneumatic control pressure and control pressure via CAN. Was the yellow coupling head connected the whole time? Check the towing vehicle.</source>
-        <translation>Desviación entre la presión de mando neumática y la presión de mando por CAN. ¿Ha estado conectado todo el tiempo el cabezal de acoplamiento amarillo? Comprobar el vehículo tractor.</translation>
+        <translation>Desviación entre la presión de mando neumática y la presión de mando por CAN. ¿Ha estado conectada todo el tiempo la cabeza de acoplamiento amarilla? Comprobar el vehículo tractor.</translation>
     </message>
     <message>
         <source>Open or short circuit is detected.  Cable or speed sensor is defective.</source>
@@ -2199,7 +2199,7 @@ frenado&#13;
     </message>
     <message>
         <source>Switch ignition off for 5 seconds.</source>
-        <translation>Desconectar el encendido durante 5 segundos.</translation>
+        <translation>Quitar el contacto durante 5 segundos.</translation>
     </message>
     <message>
         <source>Push sensor into holding block for zero gap to tooth wheel.  Check tone ring for damaged teeth.  Check for excessive wheel bearing play.</source>
@@ -2219,7 +2219,7 @@ frenado&#13;
     </message>
     <message>
         <source>Calibrate the distance sensor.</source>
-        <translation>Calibrar el sensor de distancia.</translation>
+        <translation>Calibrar el sensor de recorrido.</translation>
     </message>
     <message>
         <source>There is a fault in the freely programmable function.</source>
@@ -2231,15 +2231,15 @@ frenado&#13;
     </message>
     <message>
         <source>Check cable for pinch/cut and check connectors.</source>
-        <translation>Comprobar si el cable está pellizcado/cortado y revisar los conectores.</translation>
+        <translation>Comprobar si el cable está aplastado/cortado y revisar los conectores.</translation>
     </message>
     <message>
         <source>Check Axle Load Sensor cable for pinch/cut and check connectors.</source>
-        <translation>Comprobar si el cable del sensor de carga del eje está pellizcado/cortado y revisar los conectores.</translation>
+        <translation>Comprobar si el cable del sensor de carga del eje está aplastado/cortado y revisar los conectores.</translation>
     </message>
     <message>
         <source>Turn ignition off for 5 seconds.</source>
-        <translation>Quitar el encendido durante 5 segundos.</translation>
+        <translation>Quitar el contacto durante 5 segundos.</translation>
     </message>
     <message>
         <source>The wear sensor or the cable between the modulator and the wear sensor is faulty.</source>
@@ -2255,7 +2255,7 @@ frenado&#13;
     </message>
     <message>
         <source>Pressure differential &gt; 30 psi between pressure sensors in the EBS RV and the modulator during the standstill function. Is a line kinked?  If the pneumatic system is OK, fit a new pressure sensor.</source>
-        <translation>Diferencia de presión &gt; 30 psi entre los sensores de presión de la válvula relé EBS y del modulador durante la función de parada. ¿Hay una línea doblada? Si el sistema neumático está bien, montar un sensor de presión nuevo.</translation>
+        <translation>Diferencia de presión &gt; 30 psi entre los sensores de presión de la válvula relé EBS y del modulador durante la función con el vehículo parado. ¿Hay un conducto doblado? Si el sistema neumático está bien, montar un sensor de presión nuevo.</translation>
     </message>
     <message>
         <source>9.5 to 14.0 volts DC required to proceed.  Be sure to use a filtered power supply or battery.  DO NOT USE A BATTERY CHARGER!</source>
@@ -2267,7 +2267,7 @@ frenado&#13;
     </message>
     <message>
         <source>Does power supply have an adequate current rating? Check that all power and ground connections are solid. 9.5 to 14.0 volts DC required at ECU.</source>
-        <translation>¿Tiene la fuente de alimentación una corriente nominal suficiente? Comprobar que todas las conexiones de alimentación y de masa son firmes. Se necesitan de 9.5 a 14.0 V CC en la ECU.</translation>
+        <translation>¿Tiene la fuente de alimentación una corriente nominal suficiente? Comprobar que todas las conexiones de alimentación eléctrica y de masa son firmes. Se necesitan de 9.5 a 14.0 V CC en la ECU.</translation>
     </message>
     <message>
         <source>Call Norvick for customer support and return authorization number if problem persists.</source>
@@ -2279,23 +2279,23 @@ frenado&#13;
     </message>
     <message>
         <source>Residual pressure &gt; 7 psi at connection 2 of the EBS relay valve during motion with brakes released.</source>
-        <translation>Presión residual &gt; 7 psi en la conexión 2 de la válvula relé EBS durante la marcha con los frenos sueltos.</translation>
+        <translation>Presión residual &gt; 7 psi en la conexión 2 de la válvula relé EBS durante la marcha con los frenos liberados.</translation>
     </message>
     <message>
         <source>Pressure deviation between connections 2.1 and 2.2 of the modulator &gt; 0.5 bar during braking. Is there a pressure leak through the leaking Ovalock brake actuator? Is the exhaust iced up? Fault condition: Pressure difference in EBS regulation right/left &gt; .</source>
-        <translation>Desviación de presión &gt; 0.5 bar entre las conexiones 2.1 y 2.2 del modulador durante el frenado. ¿Hay pérdida de presión por un cilindro de freno Ovalock con fugas? ¿Está helado el escape? Condición del fallo: diferencia de presión derecha/izquierda en la regulación EBS &gt; .</translation>
+        <translation>Desviación de presión &gt; 0.5 bar entre las conexiones 2.1 y 2.2 del modulador durante el frenado. ¿Hay pérdida de presión por un cilindro de freno Ovalock con fugas? ¿Está obstruido por hielo el orificio de purga de aire? Condición del fallo: diferencia de presión derecha/izquierda en la regulación EBS &gt; .</translation>
     </message>
     <message>
         <source>Residual pressure &gt; 15 psi in the line to the brake cylinder.  If this fault can be ruled out: fit a new modulator.</source>
-        <translation>Presión residual &gt; 15 psi en la línea hacia el cilindro de freno. Si se puede descartar este fallo: montar un modulador nuevo.</translation>
+        <translation>Presión residual &gt; 15 psi en el conducto hacia el cilindro de freno. Si se puede descartar este fallo: montar un modulador nuevo.</translation>
     </message>
     <message>
         <source>Pressure differential &gt; 2 bar between the two brake pressure sensors in the modulator during the standstill function.  Is there a severe leak on a brake cylinder? If the pneumatic system is OK, fit a new modulator.</source>
-        <translation>Diferencia de presión &gt; 2 bar entre los dos sensores de presión de frenado del modulador durante la función de parada. ¿Hay una fuga importante en un cilindro de freno? Si el sistema neumático está bien, montar un modulador nuevo.</translation>
+        <translation>Diferencia de presión &gt; 2 bar entre los dos sensores de presión de frenado del modulador durante la función con el vehículo parado. ¿Hay una fuga importante en un cilindro de freno? Si el sistema neumático está bien, montar un modulador nuevo.</translation>
     </message>
     <message>
         <source>Residual pressure &gt; 7 psi at connection 2.1 or 2.2 of the modulator during motion with brakes released.</source>
-        <translation>Presión residual &gt; 7 psi en la conexión 2.1 o 2.2 del modulador durante la marcha con los frenos sueltos.</translation>
+        <translation>Presión residual &gt; 7 psi en la conexión 2.1 o 2.2 del modulador durante la marcha con los frenos liberados.</translation>
     </message>
     <message>
         <source>No axle load transmitted from the ECU.</source>
@@ -2303,11 +2303,11 @@ frenado&#13;
     </message>
     <message>
         <source>GIO shorted to battery.  Call Norvick for customer support.</source>
-        <translation>GIO en cortocircuito con la batería. Llamar a la asistencia al cliente de Norvick.</translation>
+        <translation>GIO en cortocircuito con el positivo de la batería. Llamar a la asistencia al cliente de Norvick.</translation>
     </message>
     <message>
         <source>GIO shorted to ground.  Call Norvick for customer support.</source>
-        <translation>GIO en cortocircuito con masa. Llamar a la asistencia al cliente de Norvick.</translation>
+        <translation>GIO en cortocircuito a masa. Llamar a la asistencia al cliente de Norvick.</translation>
     </message>
     <message>
         <source>GIO cable broken.  Call Norvick for customer support.</source>
@@ -2315,7 +2315,7 @@ frenado&#13;
     </message>
     <message>
         <source>GIO logic failure.  Download the GIO parameter settings again and restart the ECU.  If fault persists, call Norvick for customer support.</source>
-        <translation>Avería lógica de GIO. Cargar de nuevo la parametrización GIO y reiniciar la ECU. Si el fallo persiste, llamar a la asistencia al cliente de Norvick.</translation>
+        <translation>Avería lógica de GIO. Transferir de nuevo la parametrización GIO a la ECU y reiniciar la ECU. Si el fallo persiste, llamar a la asistencia al cliente de Norvick.</translation>
     </message>
     <message>
         <source>The GIO sensor power supply voltage is either too high or too low.  Call Norvick for customer support.</source>
@@ -2323,7 +2323,7 @@ frenado&#13;
     </message>
     <message>
         <source>The GIO sensor power supply is not on.  Call Norvick for customer support.</source>
-        <translation>La alimentación del sensor GIO no está activa. Llamar a la asistencia al cliente de Norvick.</translation>
+        <translation>La alimentación eléctrica del sensor GIO no está activa. Llamar a la asistencia al cliente de Norvick.</translation>
     </message>
     <message>
         <source>The pole wheel is eccentric.  Check the concentricity of the pole wheel and replace, if necessary.</source>
@@ -2335,7 +2335,7 @@ frenado&#13;
     </message>
     <message>
         <source>Erase faults using menu option, power down, power up. If fault repeats, call Norvick customer support for technical support and return authorization claim number.</source>
-        <translation>Borrar los fallos con la opción del menú, cortar y restablecer la alimentación. Si el fallo se repite, llamar a la asistencia al cliente de Norvick para obtener ayuda técnica y un número de solicitud de autorización de devolución.</translation>
+        <translation>Borrar los fallos con la opción del menú, cortar y restablecer la alimentación eléctrica de la ECU. Si el fallo se repite, llamar a la asistencia al cliente de Norvick para obtener ayuda técnica y un número de solicitud de autorización de devolución.</translation>
     </message>
     <message>
         <source>Repair instruction not available for the current fault.</source>
@@ -2343,7 +2343,7 @@ frenado&#13;
     </message>
     <message>
         <source>Axle Loads and Pressures</source>
-        <translation>Cargas por eje y presiones</translation>
+        <translation>Cargas de los ejes y presiones</translation>
     </message>
     <message>
         <source>Trailer</source>
@@ -2355,7 +2355,7 @@ frenado&#13;
     </message>
     <message>
         <source>Forward</source>
-        <translation>Siguiente</translation>
+        <translation>Hacia delante</translation>
     </message>
     <message>
         <source>Home</source>

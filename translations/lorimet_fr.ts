@@ -117,7 +117,7 @@
     </message>
     <message>
         <source>Service Brake Demand</source>
-        <translation>Demande frein de service</translation>
+        <translation>Demande de frein de service</translation>
     </message>
     <message>
         <source>Supply</source>
@@ -277,11 +277,11 @@
     </message>
     <message>
         <source>&amp;Reset ECU</source>
-        <translation>&amp;Réinitialiser l&apos;ECU</translation>
+        <translation>&amp;Redémarrer l&apos;ECU</translation>
     </message>
     <message>
         <source>&amp;Display ODR Overview Data</source>
-        <translation>&amp;Afficher l&apos;aperçu des données ODR</translation>
+        <translation>&amp;Afficher la synthèse des données ODR</translation>
     </message>
     <message>
         <source>&amp;Export ODR Data</source>
@@ -289,7 +289,7 @@
     </message>
     <message>
         <source>&amp;Set Customer EOL Bit</source>
-        <translation>&amp;Définir le bit EOL client</translation>
+        <translation>&amp;Positionner le bit EOL client</translation>
     </message>
     <message>
         <source>Bus &amp;Monitor</source>
@@ -373,7 +373,7 @@
     </message>
     <message>
         <source>Pressure Test Failed.  Please resolve issues and run test again.</source>
-        <translation>Test de pression échoué. Veuillez éliminer les causes et relancer le test.</translation>
+        <translation>Échec du test de pression. Veuillez éliminer les causes et relancer le test.</translation>
     </message>
     <message>
         <source>Redundancy Test Passed.</source>
@@ -381,7 +381,7 @@
     </message>
     <message>
         <source>Redundancy Test Failed.  Please resolve issues and run test again.</source>
-        <translation>Test de redondance échoué. Veuillez éliminer les causes et relancer le test.</translation>
+        <translation>Échec du test de redondance. Veuillez éliminer les causes et relancer le test.</translation>
     </message>
     <message>
         <source>Sensor Test Passed.</source>
@@ -389,7 +389,7 @@
     </message>
     <message>
         <source>Sensor Test Failed.  Please resolve issues and run test again.</source>
-        <translation>Test des capteurs échoué. Veuillez éliminer les causes et relancer le test.</translation>
+        <translation>Échec du test des capteurs. Veuillez éliminer les causes et relancer le test.</translation>
     </message>
     <message>
         <source>Test Passed</source>
@@ -397,7 +397,7 @@
     </message>
     <message>
         <source>Test Failed!</source>
-        <translation>Test échoué !</translation>
+        <translation>Échec du test !</translation>
     </message>
     <message>
         <source>Fault Information</source>
@@ -425,7 +425,7 @@
     </message>
     <message>
         <source>Times</source>
-        <translation>Fois</translation>
+        <translation>Nombre</translation>
     </message>
     <message>
         <source>SID</source>
@@ -481,7 +481,7 @@
     </message>
     <message>
         <source>Range Limit Exceeded</source>
-        <translation>Limite de plage dépassée</translation>
+        <translation>Valeur hors limites</translation>
     </message>
     <message>
         <source>Invalid Values</source>
@@ -573,7 +573,7 @@
     </message>
     <message>
         <source>Modular Mounting</source>
-        <translation>Montage modulaire</translation>
+        <translation>Montage du modulateur</translation>
     </message>
     <message>
         <source>Facing Forward</source>
@@ -621,7 +621,7 @@
     </message>
     <message>
         <source>Optional Stoplight Activation Cable Installed</source>
-        <translation>Câble d&apos;activation des feux stop en option installé</translation>
+        <translation>Câble d&apos;activation des feux stop (option) installé</translation>
     </message>
     <message>
         <source>Level 2 OVG Activation Output (GIO3)</source>
@@ -667,14 +667,14 @@
         <source>Axle load &#13;
 (kg)&#13;
 </source>
-        <translation>Charge essieu &#13;
+        <translation>Charge d&apos;essieu &#13;
 (kg)&#13;
 </translation>
     </message>
     <message>
         <source>Suspension pressure (bar)&#13;
 </source>
-        <translation>Pression suspension (bar)&#13;
+        <translation>Pression suspension (psi)&#13;
 </translation>
     </message>
     <message>
@@ -695,7 +695,7 @@ freinage&#13;
     </message>
     <message>
         <source>Distance sensor lever length (mm)</source>
-        <translation>Longueur de levier du capteur de distance (mm)</translation>
+        <translation>Longueur de levier du capteur de course (mm)</translation>
     </message>
     <message>
         <source>Production Date (week/year)</source>
@@ -711,11 +711,11 @@ freinage&#13;
     </message>
     <message>
         <source>Axle Load Laden out of range.  Valid range : 0 - 25,000 kg</source>
-        <translation>Charge d&apos;essieu en charge hors limites. Plage valide : 0 - 25000 kg</translation>
+        <translation>Charge d&apos;essieu (en charge) hors limites. Plage valide : 0 - 25000 kg</translation>
     </message>
     <message>
         <source>Axle Load Unladen out of range.  Valid range : 0 - 25,000 kg</source>
-        <translation>Charge d&apos;essieu à vide hors limites. Plage valide : 0 - 25000 kg</translation>
+        <translation>Charge d&apos;essieu (à vide) hors limites. Plage valide : 0 - 25000 kg</translation>
     </message>
     <message>
         <source>Braking Pressure Laden out of range.  Valid range : 0 - 145 psi</source>
@@ -751,7 +751,7 @@ freinage&#13;
     </message>
     <message>
         <source>Tire Size out of range.  Valid range : 1200 - 5200 mm</source>
-        <translation>Dimension de pneu hors limites. Plage valide : 1200 - 5200 mm</translation>
+        <translation>Circonférence du pneu hors limites. Plage valide : 1200 - 5200 mm</translation>
     </message>
     <message>
         <source>Lifting Pressure out of range.  Valid range : 0 - 100 psi</source>
@@ -783,7 +783,7 @@ freinage&#13;
     </message>
     <message>
         <source>Tag Axle (Rear Suspension Dump)</source>
-        <translation>Essieu traîné (purge suspension arrière)</translation>
+        <translation>Essieu traîné (mise à l&apos;air de la suspension arrière)</translation>
     </message>
     <message>
         <source>Reverse Light</source>
@@ -791,15 +791,15 @@ freinage&#13;
     </message>
     <message>
         <source>Tank Pressure</source>
-        <translation>Pression du réservoir</translation>
+        <translation>Pression du réservoir d&apos;air</translation>
     </message>
     <message>
         <source>Car Hauler Height Status with Events</source>
-        <translation>État de hauteur porte-voitures avec événements</translation>
+        <translation>État de hauteur du porte-voitures avec événements</translation>
     </message>
     <message>
         <source>Car Hauler Height Status with Events and TIXA</source>
-        <translation>État de hauteur porte-voitures avec événements et TIXA</translation>
+        <translation>État de hauteur du porte-voitures avec événements et TIXA</translation>
     </message>
     <message>
         <source>Lift Axle</source>
@@ -827,7 +827,7 @@ freinage&#13;
     </message>
     <message>
         <source>Constant Power (GIO 2)</source>
-        <translation>Alimentation permanente (GIO 2)</translation>
+        <translation>Alimentation électrique permanente (GIO 2)</translation>
     </message>
     <message>
         <source>Power Supply</source>
@@ -843,7 +843,7 @@ freinage&#13;
     </message>
     <message>
         <source>Overturn Guard (OVG)</source>
-        <translation>Protection antirenversement (OVG)</translation>
+        <translation>Antirenversement (OVG)</translation>
     </message>
     <message>
         <source>OVG Not Available</source>
@@ -959,7 +959,7 @@ freinage&#13;
     </message>
     <message>
         <source>Performing Reset of ECU</source>
-        <translation>Réinitialisation de l&apos;ECU en cours</translation>
+        <translation>Redémarrage de l&apos;ECU en cours</translation>
     </message>
     <message>
         <source>Checking for Parameter Errors</source>
@@ -967,7 +967,7 @@ freinage&#13;
     </message>
     <message>
         <source>Lift Axle Lowering/Lifting Pressures</source>
-        <translation>Pressions d&apos;abaissement/relevage de l&apos;essieu relevable</translation>
+        <translation>Pressions d&apos;abaissement/relevage de l&apos;essieu</translation>
     </message>
     <message>
         <source>Lowering Pressure</source>
@@ -999,15 +999,15 @@ freinage&#13;
     </message>
     <message>
         <source>Speed Switch Vehicle Speed Thresholds</source>
-        <translation>Seuils de vitesse véhicule du contacteur de vitesse</translation>
+        <translation>Seuils du contacteur de vitesse</translation>
     </message>
     <message>
         <source>&quot;Turn On&quot; Vehicle Speed</source>
-        <translation>Vitesse véhicule d&apos;« activation »</translation>
+        <translation>Vitesse du véhicule à l&apos;« activation »</translation>
     </message>
     <message>
         <source>&quot;Turn Off&quot; Vehicle Speed</source>
-        <translation>Vitesse véhicule de « désactivation »</translation>
+        <translation>Vitesse du véhicule à la « désactivation »</translation>
     </message>
     <message>
         <source>12V is supplied from 0 kph until the turn-off speed is reached.</source>
@@ -1031,7 +1031,7 @@ freinage&#13;
     </message>
     <message>
         <source>This program is protected by copyright law and international treaties. It is supplied to trained workshop and production staff only. Work on a trailer&apos;s brake system endangers lives when it is done wrongly: follow the instructions of the vehicle&apos;s and the brake system&apos;s makers, and test the brakes before the vehicle goes back on the road. Norvick accepts no liability for damage that arises from improper use.</source>
-        <translation>Ce programme est protégé par le droit d&apos;auteur et par les traités internationaux. Il est destiné exclusivement au personnel formé d&apos;atelier et de production. Une intervention incorrecte sur le système de freinage d&apos;une remorque met des vies en danger : veuillez suivre les instructions des constructeurs du véhicule et du système de freinage, et contrôler les freins avant de remettre le véhicule sur la route. Norvick décline toute responsabilité pour les dommages résultant d&apos;une utilisation non conforme.</translation>
+        <translation>Ce programme est protégé par le droit d&apos;auteur et par les traités internationaux. Il est destiné exclusivement au personnel formé d&apos;atelier et de production. Une intervention incorrecte sur le système de freinage d&apos;une remorque met des vies en danger : veuillez suivre les instructions des constructeurs du véhicule et du système de freinage, et tester les freins avant de remettre le véhicule sur la route. Norvick décline toute responsabilité pour les dommages résultant d&apos;une utilisation non conforme.</translation>
     </message>
     <message>
         <source>Version</source>
@@ -1071,7 +1071,7 @@ freinage&#13;
     </message>
     <message>
         <source>     and the Norvick Trailer ABS ECU.</source>
-        <translation>     et l&apos;ECU ABS remorque Norvick.</translation>
+        <translation>     et l&apos;ECU ABS de remorque Norvick.</translation>
     </message>
     <message>
         <source>Communications are not working, unable to connect to the data bus.</source>
@@ -1139,7 +1139,7 @@ freinage&#13;
     </message>
     <message>
         <source>This screen is not built yet.</source>
-        <translation>Cet écran n&apos;est pas encore réalisé.</translation>
+        <translation>Cet écran n&apos;est pas encore disponible.</translation>
     </message>
     <message>
         <source>Sensor c air gap too large</source>
@@ -1147,7 +1147,7 @@ freinage&#13;
     </message>
     <message>
         <source>Sensor c wheel speed diff.</source>
-        <translation>Capteur c - écart de vitesse de roue</translation>
+        <translation>Capteur c - différence de vitesse de roue</translation>
     </message>
     <message>
         <source>Sensor c short to 12V</source>
@@ -1187,7 +1187,7 @@ freinage&#13;
     </message>
     <message>
         <source>Sensor c bad device or component</source>
-        <translation>Capteur c - appareil ou composant défectueux</translation>
+        <translation>Capteur c - dispositif ou composant défectueux</translation>
     </message>
     <message>
         <source>Sensor c wheel speed oscillating</source>
@@ -1199,7 +1199,7 @@ freinage&#13;
     </message>
     <message>
         <source>Sensor d wheel speed diff.</source>
-        <translation>Capteur d - écart de vitesse de roue</translation>
+        <translation>Capteur d - différence de vitesse de roue</translation>
     </message>
     <message>
         <source>Sensor d short to 12V</source>
@@ -1239,7 +1239,7 @@ freinage&#13;
     </message>
     <message>
         <source>Sensor d bad device or component</source>
-        <translation>Capteur d - appareil ou composant défectueux</translation>
+        <translation>Capteur d - dispositif ou composant défectueux</translation>
     </message>
     <message>
         <source>Sensor d wheel speed oscillating</source>
@@ -1251,7 +1251,7 @@ freinage&#13;
     </message>
     <message>
         <source>Sensor e wheel speed diff.</source>
-        <translation>Capteur e - écart de vitesse de roue</translation>
+        <translation>Capteur e - différence de vitesse de roue</translation>
     </message>
     <message>
         <source>Sensor e short to 12V</source>
@@ -1291,7 +1291,7 @@ freinage&#13;
     </message>
     <message>
         <source>Sensor e bad device or component</source>
-        <translation>Capteur e - appareil ou composant défectueux</translation>
+        <translation>Capteur e - dispositif ou composant défectueux</translation>
     </message>
     <message>
         <source>Sensor e wheel speed oscillating</source>
@@ -1307,7 +1307,7 @@ freinage&#13;
     </message>
     <message>
         <source>Sensor f wheel speed diff.</source>
-        <translation>Capteur f - écart de vitesse de roue</translation>
+        <translation>Capteur f - différence de vitesse de roue</translation>
     </message>
     <message>
         <source>Sensor f short to 12V</source>
@@ -1347,7 +1347,7 @@ freinage&#13;
     </message>
     <message>
         <source>Sensor f bad device or component</source>
-        <translation>Capteur f - appareil ou composant défectueux</translation>
+        <translation>Capteur f - dispositif ou composant défectueux</translation>
     </message>
     <message>
         <source>Sensor f wheel speed oscillating</source>
@@ -1523,7 +1523,7 @@ freinage&#13;
     </message>
     <message>
         <source>Redundant braking - ABS still active</source>
-        <translation>Freinage redondant - ABS encore actif</translation>
+        <translation>Freinage par redondance - ABS encore actif</translation>
     </message>
     <message>
         <source>Pneumatic control line - residual pressure</source>
@@ -1747,7 +1747,7 @@ freinage&#13;
     </message>
     <message>
         <source>Tension button - defective cable</source>
-        <translation>Bouton de tension - câble défectueux</translation>
+        <translation>Bouton de tension mécanique - câble défectueux</translation>
     </message>
     <message>
         <source>Forced lowering button - digital</source>
@@ -1795,51 +1795,51 @@ freinage&#13;
     </message>
     <message>
         <source>Distance sensor axle c-d - data is irregular</source>
-        <translation>Capteur de distance essieu c-d - données irrégulières</translation>
+        <translation>Capteur de course essieu c-d - données irrégulières</translation>
     </message>
     <message>
         <source>Distance sensor axle c-d - short to 12V detected</source>
-        <translation>Capteur de distance essieu c-d - court-circuit au +12V détecté</translation>
+        <translation>Capteur de course essieu c-d - court-circuit au +12V détecté</translation>
     </message>
     <message>
         <source>Distance sensor axle c-d - short to ground detected</source>
-        <translation>Capteur de distance essieu c-d - court-circuit à la masse détecté</translation>
+        <translation>Capteur de course essieu c-d - court-circuit à la masse détecté</translation>
     </message>
     <message>
         <source>Distance sensor axle c-d - defective cable</source>
-        <translation>Capteur de distance essieu c-d - câble défectueux</translation>
+        <translation>Capteur de course essieu c-d - câble défectueux</translation>
     </message>
     <message>
         <source>Distance sensor axle c-d - value too small</source>
-        <translation>Capteur de distance essieu c-d - valeur trop petite</translation>
+        <translation>Capteur de course essieu c-d - valeur trop petite</translation>
     </message>
     <message>
         <source>Distance sensor axle c-d - not calibrated</source>
-        <translation>Capteur de distance essieu c-d - non calibré</translation>
+        <translation>Capteur de course essieu c-d - non calibré</translation>
     </message>
     <message>
         <source>Distance sensor axle e-f - data is irregular</source>
-        <translation>Capteur de distance essieu e-f - données irrégulières</translation>
+        <translation>Capteur de course essieu e-f - données irrégulières</translation>
     </message>
     <message>
         <source>Distance sensor axle e-f - short to 12V</source>
-        <translation>Capteur de distance essieu e-f - court-circuit au +12V</translation>
+        <translation>Capteur de course essieu e-f - court-circuit au +12V</translation>
     </message>
     <message>
         <source>Distance sensor axle e-f - short to ground</source>
-        <translation>Capteur de distance essieu e-f - court-circuit à la masse</translation>
+        <translation>Capteur de course essieu e-f - court-circuit à la masse</translation>
     </message>
     <message>
         <source>Distance sensor axle e-f - defective cable</source>
-        <translation>Capteur de distance essieu e-f - câble défectueux</translation>
+        <translation>Capteur de course essieu e-f - câble défectueux</translation>
     </message>
     <message>
         <source>Distance sensor axle e-f - value too small</source>
-        <translation>Capteur de distance essieu e-f - valeur trop petite</translation>
+        <translation>Capteur de course essieu e-f - valeur trop petite</translation>
     </message>
     <message>
         <source>Distance sensor axle e-f - not calibrated</source>
-        <translation>Capteur de distance essieu e-f - non calibré</translation>
+        <translation>Capteur de course essieu e-f - non calibré</translation>
     </message>
     <message>
         <source>Freely programmable function 3</source>
@@ -1871,35 +1871,35 @@ freinage&#13;
     </message>
     <message>
         <source>Distance sensor e-f - incorrect data</source>
-        <translation>Capteur de distance e-f - données incorrectes</translation>
+        <translation>Capteur de course e-f - données incorrectes</translation>
     </message>
     <message>
         <source>Distance sensor e-f - short to 12V</source>
-        <translation>Capteur de distance e-f - court-circuit au +12V</translation>
+        <translation>Capteur de course e-f - court-circuit au +12V</translation>
     </message>
     <message>
         <source>Distance sensor e-f - short to ground</source>
-        <translation>Capteur de distance e-f - court-circuit à la masse</translation>
+        <translation>Capteur de course e-f - court-circuit à la masse</translation>
     </message>
     <message>
         <source>Distance sensor e-f - open circuit</source>
-        <translation>Capteur de distance e-f - circuit ouvert</translation>
+        <translation>Capteur de course e-f - circuit ouvert</translation>
     </message>
     <message>
         <source>Distance sensor c-d - incorrect data</source>
-        <translation>Capteur de distance c-d - données incorrectes</translation>
+        <translation>Capteur de course c-d - données incorrectes</translation>
     </message>
     <message>
         <source>Distance sensor c-d - short to 12V</source>
-        <translation>Capteur de distance c-d - court-circuit au +12V</translation>
+        <translation>Capteur de course c-d - court-circuit au +12V</translation>
     </message>
     <message>
         <source>Distance sensor c-d - short to ground</source>
-        <translation>Capteur de distance c-d - court-circuit à la masse</translation>
+        <translation>Capteur de course c-d - court-circuit à la masse</translation>
     </message>
     <message>
         <source>Distance sensor c-d - open circuit</source>
-        <translation>Capteur de distance c-d - circuit ouvert</translation>
+        <translation>Capteur de course c-d - circuit ouvert</translation>
     </message>
     <message>
         <source>SLEV valve - short to 12V</source>
@@ -1939,27 +1939,27 @@ freinage&#13;
     </message>
     <message>
         <source>OVG active signal - short to 12V</source>
-        <translation>Signal OVG actif - court-circuit au +12V</translation>
+        <translation>Signal « OVG actif » - court-circuit au +12V</translation>
     </message>
     <message>
         <source>OVG active signal - short to ground</source>
-        <translation>Signal OVG actif - court-circuit à la masse</translation>
+        <translation>Signal « OVG actif » - court-circuit à la masse</translation>
     </message>
     <message>
         <source>OVG active signal - open circuit</source>
-        <translation>Signal OVG actif - circuit ouvert</translation>
+        <translation>Signal « OVG actif » - circuit ouvert</translation>
     </message>
     <message>
         <source>ABS active signal - short to 12V</source>
-        <translation>Signal ABS actif - court-circuit au +12V</translation>
+        <translation>Signal « ABS actif » - court-circuit au +12V</translation>
     </message>
     <message>
         <source>ABS active signal - short to ground</source>
-        <translation>Signal ABS actif - court-circuit à la masse</translation>
+        <translation>Signal « ABS actif » - court-circuit à la masse</translation>
     </message>
     <message>
         <source>ABS active signal - open circuit</source>
-        <translation>Signal ABS actif - circuit ouvert</translation>
+        <translation>Signal « ABS actif » - circuit ouvert</translation>
     </message>
     <message>
         <source>Road finisher brake - short to 12V</source>
@@ -2127,7 +2127,7 @@ freinage&#13;
     </message>
     <message>
         <source>Power supply - stop light power</source>
-        <translation>Alimentation électrique - alimentation par feux stop</translation>
+        <translation>Alimentation électrique - alimentation par les feux stop</translation>
     </message>
     <message>
         <source>Power supply - value too high</source>
@@ -2143,7 +2143,7 @@ freinage&#13;
     </message>
     <message>
         <source>Power supply - undervoltage</source>
-        <translation>Alimentation électrique - sous-tension</translation>
+        <translation>Alimentation électrique - tension insuffisante</translation>
     </message>
     <message>
         <source>Parameter setting - irregular data</source>
@@ -2187,7 +2187,7 @@ freinage&#13;
     </message>
     <message>
         <source>The pressure in the support bellows of the air suspension is too low when driving.</source>
-        <translation>La pression dans les soufflets de la suspension pneumatique est trop faible pendant le roulage.</translation>
+        <translation>La pression dans les soufflets porteurs de la suspension pneumatique est trop faible pendant le roulage.</translation>
     </message>
     <message>
         <source>Deviation between the pneumatic control pressure and control pressure via CAN. Was the yellow coupling head connected the whole time? Check the towing vehicle.</source>
@@ -2219,7 +2219,7 @@ freinage&#13;
     </message>
     <message>
         <source>Calibrate the distance sensor.</source>
-        <translation>Calibrer le capteur de distance.</translation>
+        <translation>Calibrer le capteur de course.</translation>
     </message>
     <message>
         <source>There is a fault in the freely programmable function.</source>
@@ -2239,7 +2239,7 @@ freinage&#13;
     </message>
     <message>
         <source>Turn ignition off for 5 seconds.</source>
-        <translation>Mettre le contact sur arrêt pendant 5 secondes.</translation>
+        <translation>Couper le contact pendant 5 secondes.</translation>
     </message>
     <message>
         <source>The wear sensor or the cable between the modulator and the wear sensor is faulty.</source>
@@ -2255,19 +2255,19 @@ freinage&#13;
     </message>
     <message>
         <source>Pressure differential &gt; 30 psi between pressure sensors in the EBS RV and the modulator during the standstill function. Is a line kinked?  If the pneumatic system is OK, fit a new pressure sensor.</source>
-        <translation>Différence de pression &gt; 30 psi entre les capteurs de pression de la valve relais EBS et du modulateur pendant la fonction à l&apos;arrêt. Une conduite est-elle pliée ? Si le système pneumatique est en ordre, monter un capteur de pression neuf.</translation>
+        <translation>Différence de pression &gt; 30 psi entre les capteurs de pression de la valve relais EBS et du modulateur pendant la fonction « véhicule à l&apos;arrêt ». Une conduite est-elle pliée ? Si le système pneumatique est en bon état, monter un capteur de pression neuf.</translation>
     </message>
     <message>
         <source>9.5 to 14.0 volts DC required to proceed.  Be sure to use a filtered power supply or battery.  DO NOT USE A BATTERY CHARGER!</source>
-        <translation>9.5 à 14.0 V CC sont nécessaires pour continuer. Utiliser impérativement une alimentation filtrée ou une batterie. NE PAS UTILISER DE CHARGEUR DE BATTERIE !</translation>
+        <translation>9.5 à 14.0 V CC sont nécessaires pour continuer. Utiliser impérativement une alimentation électrique filtrée ou une batterie. NE PAS UTILISER DE CHARGEUR DE BATTERIE !</translation>
     </message>
     <message>
         <source>9.5 to 14.0 volts DC required to proceed. Be sure to use a filtered power supply or battery. DO NOT USE A BATTERY CHARGER!</source>
-        <translation>9.5 à 14.0 V CC sont nécessaires pour continuer. Utiliser impérativement une alimentation filtrée ou une batterie. NE PAS UTILISER DE CHARGEUR DE BATTERIE !</translation>
+        <translation>9.5 à 14.0 V CC sont nécessaires pour continuer. Utiliser impérativement une alimentation électrique filtrée ou une batterie. NE PAS UTILISER DE CHARGEUR DE BATTERIE !</translation>
     </message>
     <message>
         <source>Does power supply have an adequate current rating? Check that all power and ground connections are solid. 9.5 to 14.0 volts DC required at ECU.</source>
-        <translation>L&apos;intensité nominale de l&apos;alimentation est-elle suffisante ? Vérifier que toutes les connexions d&apos;alimentation et de masse sont solides. 9.5 à 14.0 V CC nécessaires à l&apos;ECU.</translation>
+        <translation>L&apos;intensité nominale de l&apos;alimentation électrique est-elle suffisante ? Vérifier que toutes les connexions d&apos;alimentation électrique et de masse sont bien serrées. 9.5 à 14.0 V CC nécessaires à l&apos;ECU.</translation>
     </message>
     <message>
         <source>Call Norvick for customer support and return authorization number if problem persists.</source>
@@ -2283,7 +2283,7 @@ freinage&#13;
     </message>
     <message>
         <source>Pressure deviation between connections 2.1 and 2.2 of the modulator &gt; 0.5 bar during braking. Is there a pressure leak through the leaking Ovalock brake actuator? Is the exhaust iced up? Fault condition: Pressure difference in EBS regulation right/left &gt; .</source>
-        <translation>Écart de pression &gt; 0.5 bar entre les raccords 2.1 et 2.2 du modulateur pendant le freinage. Y a-t-il une perte de pression due à un cylindre de frein Ovalock non étanche ? L&apos;échappement est-il givré ? Condition du défaut : différence de pression droite/gauche dans la régulation EBS &gt; .</translation>
+        <translation>Écart de pression &gt; 0.5 bar entre les raccords 2.1 et 2.2 du modulateur pendant le freinage. Y a-t-il une perte de pression due à un cylindre de frein Ovalock non étanche ? L&apos;orifice d&apos;échappement est-il bouché par la glace ? Condition du défaut : différence de pression droite/gauche dans la régulation EBS &gt; .</translation>
     </message>
     <message>
         <source>Residual pressure &gt; 15 psi in the line to the brake cylinder.  If this fault can be ruled out: fit a new modulator.</source>
@@ -2291,7 +2291,7 @@ freinage&#13;
     </message>
     <message>
         <source>Pressure differential &gt; 2 bar between the two brake pressure sensors in the modulator during the standstill function.  Is there a severe leak on a brake cylinder? If the pneumatic system is OK, fit a new modulator.</source>
-        <translation>Différence de pression &gt; 2 bar entre les deux capteurs de pression de freinage du modulateur pendant la fonction à l&apos;arrêt. Y a-t-il une fuite importante à un cylindre de frein ? Si le système pneumatique est en ordre, monter un modulateur neuf.</translation>
+        <translation>Différence de pression &gt; 2 bar entre les deux capteurs de pression de freinage du modulateur pendant la fonction « véhicule à l&apos;arrêt ». Y a-t-il une fuite importante à un cylindre de frein ? Si le système pneumatique est en bon état, monter un modulateur neuf.</translation>
     </message>
     <message>
         <source>Residual pressure &gt; 7 psi at connection 2.1 or 2.2 of the modulator during motion with brakes released.</source>
@@ -2303,11 +2303,11 @@ freinage&#13;
     </message>
     <message>
         <source>GIO shorted to battery.  Call Norvick for customer support.</source>
-        <translation>GIO en court-circuit avec la batterie. Appeler l&apos;assistance clientèle Norvick.</translation>
+        <translation>GIO en court-circuit au plus batterie. Appeler l&apos;assistance clientèle Norvick.</translation>
     </message>
     <message>
         <source>GIO shorted to ground.  Call Norvick for customer support.</source>
-        <translation>GIO en court-circuit avec la masse. Appeler l&apos;assistance clientèle Norvick.</translation>
+        <translation>GIO en court-circuit à la masse. Appeler l&apos;assistance clientèle Norvick.</translation>
     </message>
     <message>
         <source>GIO cable broken.  Call Norvick for customer support.</source>
@@ -2315,7 +2315,7 @@ freinage&#13;
     </message>
     <message>
         <source>GIO logic failure.  Download the GIO parameter settings again and restart the ECU.  If fault persists, call Norvick for customer support.</source>
-        <translation>Défaillance logique GIO. Charger à nouveau le paramétrage GIO et redémarrer l&apos;ECU. Si le défaut persiste, appeler l&apos;assistance clientèle Norvick.</translation>
+        <translation>Défaillance logique GIO. Transférer à nouveau le paramétrage GIO dans l&apos;ECU et redémarrer l&apos;ECU. Si le défaut persiste, appeler l&apos;assistance clientèle Norvick.</translation>
     </message>
     <message>
         <source>The GIO sensor power supply voltage is either too high or too low.  Call Norvick for customer support.</source>
@@ -2323,7 +2323,7 @@ freinage&#13;
     </message>
     <message>
         <source>The GIO sensor power supply is not on.  Call Norvick for customer support.</source>
-        <translation>L&apos;alimentation du capteur GIO n&apos;est pas active. Appeler l&apos;assistance clientèle Norvick.</translation>
+        <translation>L&apos;alimentation électrique du capteur GIO n&apos;est pas active. Appeler l&apos;assistance clientèle Norvick.</translation>
     </message>
     <message>
         <source>The pole wheel is eccentric.  Check the concentricity of the pole wheel and replace, if necessary.</source>
@@ -2335,7 +2335,7 @@ freinage&#13;
     </message>
     <message>
         <source>Erase faults using menu option, power down, power up. If fault repeats, call Norvick customer support for technical support and return authorization claim number.</source>
-        <translation>Effacer les défauts avec l&apos;option du menu, couper puis rétablir l&apos;alimentation. Si le défaut se répète, appeler l&apos;assistance clientèle Norvick pour une aide technique et un numéro de demande d&apos;autorisation de retour.</translation>
+        <translation>Effacer les défauts avec l&apos;option du menu, couper puis rétablir l&apos;alimentation électrique de l&apos;ECU. Si le défaut se répète, appeler l&apos;assistance clientèle Norvick pour une aide technique et un numéro de demande d&apos;autorisation de retour.</translation>
     </message>
     <message>
         <source>Repair instruction not available for the current fault.</source>
@@ -2343,7 +2343,7 @@ freinage&#13;
     </message>
     <message>
         <source>Axle Loads and Pressures</source>
-        <translation>Charges par essieu et pressions</translation>
+        <translation>Charges d&apos;essieu et pressions</translation>
     </message>
     <message>
         <source>Trailer</source>
@@ -2355,7 +2355,7 @@ freinage&#13;
     </message>
     <message>
         <source>Forward</source>
-        <translation>Suivant</translation>
+        <translation>Vers l&apos;avant</translation>
     </message>
     <message>
         <source>Home</source>

@@ -151,7 +151,7 @@ TEST_F(GioSpecialTest, SpeaksTheUsersLanguage) {
   Speak(kFrench);
   Dialog().Load();
   EXPECT_EQ(Dialog().fraPerkins.Caption(), "Application Perkins");
-  EXPECT_EQ(Dialog().chkPerkins[1].Caption(), "Alimentation permanente (GIO 2)");
+  EXPECT_EQ(Dialog().chkPerkins[1].Caption(), "Alimentation électrique permanente (GIO 2)");
 }
 
 }  // namespace

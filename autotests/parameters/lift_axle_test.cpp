@@ -228,7 +228,7 @@ TEST_F(LiftAxleTest, SpeaksTheUsersLanguage) {
   Dialog().UserFocus(&Dialog().txtLoweringPress);
   EXPECT_EQ(desktop.TakeBoxes(),
             Boxes{PlainBox("Pression de relevage hors limites. Plage valide : 0 - 100 psi",
-                           "Limite de plage dépassée")});
+                           "Valeur hors limites")});
 }
 
 }  // namespace

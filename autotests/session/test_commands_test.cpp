@@ -76,7 +76,7 @@ TEST_F(TestCommandsTest, TheResultSpeaksTheUsersLanguage) {
   EXPECT_EQ(desktop.TakeBoxes(),
             (Boxes{PlainBox(rows.at("Pressure Test Failed.  Please resolve issues and run test "
                                     "again."),
-                            "Test échoué !", BoxIcon::kCritical),
+                            "Échec du test !", BoxIcon::kCritical),
                    PlainBox(rows.at("Sensor Test Passed."), rows.at("Test Passed"),
                             BoxIcon::kInformation)}));
 }
