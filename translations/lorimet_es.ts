@@ -2385,5 +2385,729 @@ frenado&#13;
         <source>No page holds all of these words.</source>
         <translation>Ninguna página contiene todas estas palabras.</translation>
     </message>
+    <message>
+        <source>Zelt Pressure Test</source>
+        <translation>Prueba de presión Zelt</translation>
+    </message>
+    <message>
+        <source>Supply Pressure</source>
+        <translation>Presión de alimentación</translation>
+    </message>
+    <message>
+        <source>Demand Pressure</source>
+        <translation>Presión solicitada</translation>
+    </message>
+    <message>
+        <source>Control Pressure</source>
+        <translation>Presión de mando</translation>
+    </message>
+    <message>
+        <source>Target Pressure</source>
+        <translation>Presión de consigna</translation>
+    </message>
+    <message>
+        <source>Actual Pressure</source>
+        <translation>Presión real</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Estado</translation>
+    </message>
+    <message>
+        <source>Brake Pressure  Laden  Modulator H1</source>
+        <translation>Presión de frenado  En carga  Modulador H1</translation>
+    </message>
+    <message>
+        <source>Brake Pressure  Laden  Modulator H2</source>
+        <translation>Presión de frenado  En carga  Modulador H2</translation>
+    </message>
+    <message>
+        <source>Brake Pressure  Unladen  Modulator H1</source>
+        <translation>Presión de frenado  En vacío  Modulador H1</translation>
+    </message>
+    <message>
+        <source>Brake Pressure  Unladen  Modulator H2</source>
+        <translation>Presión de frenado  En vacío  Modulador H2</translation>
+    </message>
+    <message>
+        <source>&amp;Start</source>
+        <translation>&amp;Iniciar</translation>
+    </message>
+    <message>
+        <source>Start the Pressure Test</source>
+        <translation>Iniciar la prueba de presión</translation>
+    </message>
+    <message>
+        <source>Close this form</source>
+        <translation>Cerrar esta ventana</translation>
+    </message>
+    <message>
+        <source>Redundancy Test</source>
+        <translation>Prueba de redundancia</translation>
+    </message>
+    <message>
+        <source>St&amp;art</source>
+        <translation>I&amp;niciar</translation>
+    </message>
+    <message>
+        <source>Start the Redundancy Test</source>
+        <translation>Iniciar la prueba de redundancia</translation>
+    </message>
+    <message>
+        <source>Stop the Redundancy Test</source>
+        <translation>Detener la prueba de redundancia</translation>
+    </message>
+    <message>
+        <source>Close the form</source>
+        <translation>Cerrar la ventana</translation>
+    </message>
+    <message>
+        <source>QOR Plus Sensor Test</source>
+        <translation>Prueba de sensores QOR Plus</translation>
+    </message>
+    <message>
+        <source>Order Expected</source>
+        <translation>Orden previsto</translation>
+    </message>
+    <message>
+        <source>Order Seen</source>
+        <translation>Orden observado</translation>
+    </message>
+    <message>
+        <source>  Max Speed (mph)</source>
+        <translation>  Velocidad máx. (mph)</translation>
+    </message>
+    <message>
+        <source>St&amp;op</source>
+        <translation>De&amp;tener</translation>
+    </message>
+    <message>
+        <source>Start Sensor Test</source>
+        <translation>Iniciar la prueba de sensores</translation>
+    </message>
+    <message>
+        <source>Stop Sensor Test</source>
+        <translation>Detener la prueba de sensores</translation>
+    </message>
+    <message>
+        <source>Rear</source>
+        <translation>Hacia atrás</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>Desconocido</translation>
+    </message>
+    <message>
+        <source>n/a</source>
+        <translation>n/d</translation>
+    </message>
+    <message>
+        <source>Sensor Test Warning</source>
+        <translation>Advertencia - Prueba de sensores</translation>
+    </message>
+    <message>
+        <source>Secure the vehicle to prevent it from running off and release the hand brake.</source>
+        <translation>Inmovilice el vehículo para que no pueda rodar y después libere el freno de estacionamiento.</translation>
+    </message>
+    <message>
+        <source>This test checks the correct assignment of the ABS sensors to the modulators. </source>
+        <translation>Esta prueba comprueba que los sensores ABS están asignados a los moduladores correctos. </translation>
+    </message>
+    <message>
+        <source>It requires that the wheels be spun in a predetermined order.  </source>
+        <translation>Hay que hacer girar las ruedas en un orden predeterminado.  </translation>
+    </message>
+    <message>
+        <source>It is applicable to QOR Plus ECU&apos;s only.</source>
+        <translation>Solo se aplica a las ECU QOR Plus.</translation>
+    </message>
+    <message>
+        <source>Click START to begin test or CLOSE to exit.</source>
+        <translation>Haga clic en INICIAR para comenzar la prueba o en CERRAR para salir.</translation>
+    </message>
+    <message>
+        <source>Reservoir pressure must be &gt; 72.5 psi.  Increase pressure.</source>
+        <translation>La presión del depósito de aire debe ser &gt; 72.5 psi. Aumente la presión.</translation>
+    </message>
+    <message>
+        <source>The vehicle is not at a standstill! Click STOP to end testing.</source>
+        <translation>¡El vehículo no está parado! Haga clic en DETENER para terminar la prueba.</translation>
+    </message>
+    <message>
+        <source>Spin Tire 1 as shown on the diagram...</source>
+        <translation>Haga girar la rueda 1 como se indica en el esquema...</translation>
+    </message>
+    <message>
+        <source>Now Spin Tire 2 as shown on the diagram...</source>
+        <translation>Ahora haga girar la rueda 2 como se indica en el esquema...</translation>
+    </message>
+    <message>
+        <source>Now Spin Tire 3 as shown on the diagram...</source>
+        <translation>Ahora haga girar la rueda 3 como se indica en el esquema...</translation>
+    </message>
+    <message>
+        <source>Now Spin Tire 4 as shown on the diagram...</source>
+        <translation>Ahora haga girar la rueda 4 como se indica en el esquema...</translation>
+    </message>
+    <message>
+        <source> -Sensor Test-</source>
+        <translation> -Prueba de sensores-</translation>
+    </message>
+    <message>
+        <source> Sensor Test Error!!!</source>
+        <translation> ¡¡¡Error en la prueba de sensores!!!</translation>
+    </message>
+    <message>
+        <source>Sensor Order does NOT match configuration! Click STOP to end testing.</source>
+        <translation>¡El orden de los sensores NO coincide con la configuración! Haga clic en DETENER para terminar la prueba.</translation>
+    </message>
+    <message>
+        <source>All Sensors tested, Click STOP to end testing.</source>
+        <translation>Todos los sensores están probados. Haga clic en DETENER para terminar la prueba.</translation>
+    </message>
+    <message>
+        <source>c</source>
+        <translation>c</translation>
+    </message>
+    <message>
+        <source>d</source>
+        <translation>d</translation>
+    </message>
+    <message>
+        <source>e</source>
+        <translation>e</translation>
+    </message>
+    <message>
+        <source>f</source>
+        <translation>f</translation>
+    </message>
+    <message>
+        <source>Do You See The Warning Lamp Blinking ON and OFF?</source>
+        <translation>¿Ve parpadear la lámpara de aviso (encenderse y apagarse)?</translation>
+    </message>
+    <message>
+        <source>Status of the Valve Activation</source>
+        <translation>Estado de la activación de las válvulas</translation>
+    </message>
+    <message>
+        <source>Warning Lamp ON/OFF Indicator</source>
+        <translation>Indicador de la lámpara de aviso (ENCENDIDA/APAGADA)</translation>
+    </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>&amp;Sí</translation>
+    </message>
+    <message>
+        <source>&amp;No</source>
+        <translation>&amp;No</translation>
+    </message>
+    <message>
+        <source>Close the Form</source>
+        <translation>Cerrar la ventana</translation>
+    </message>
+    <message>
+        <source>Test the Warning Lamp</source>
+        <translation>Probar la lámpara de aviso</translation>
+    </message>
+    <message>
+        <source>Mechanical Suspension Height Sensor Calibration</source>
+        <translation>Calibración del sensor de altura (suspensión mecánica)</translation>
+    </message>
+    <message>
+        <source>Attention !!  Calibration must be performed when the vehicle is UNLADEN !!</source>
+        <translation>¡¡Atención!! ¡¡La calibración debe realizarse con el vehículo EN VACÍO!!</translation>
+    </message>
+    <message>
+        <source>Position the lever of the distance sensor horizontally and secure it against the distance sensor linkage.  Then start calibration !</source>
+        <translation>Coloque la palanca del sensor de recorrido en posición horizontal y fíjela contra el varillaje del sensor de recorrido. ¡Después inicie la calibración!</translation>
+    </message>
+    <message>
+        <source>Permissible range for calibration : 1141 - 1486  counts</source>
+        <translation>Rango admisible para la calibración: 1141 - 1486 cuentas</translation>
+    </message>
+    <message>
+        <source>Height sensor c-d :</source>
+        <translation>Sensor de altura c-d:</translation>
+    </message>
+    <message>
+        <source>Height sensor e-f :</source>
+        <translation>Sensor de altura e-f:</translation>
+    </message>
+    <message>
+        <source>Calibrate height sensor c-d</source>
+        <translation>Calibrar el sensor de altura c-d</translation>
+    </message>
+    <message>
+        <source>Calibrate height sensor e-f</source>
+        <translation>Calibrar el sensor de altura e-f</translation>
+    </message>
+    <message>
+        <source>Height Sensor Calibration</source>
+        <translation>Calibración del sensor de altura</translation>
+    </message>
+    <message>
+        <source>Height Sensor Calibration Successful.</source>
+        <translation>Calibración del sensor de altura correcta.</translation>
+    </message>
+    <message>
+        <source>Height Sensor Calibration Failed!!</source>
+        <translation>¡¡Calibración del sensor de altura fallida!!</translation>
+    </message>
+    <message>
+        <source>Trailer 1 On</source>
+        <translation>Remolque 1: encender</translation>
+    </message>
+    <message>
+        <source>Trailer 1 Off</source>
+        <translation>Remolque 1: apagar</translation>
+    </message>
+    <message>
+        <source>Customer EOL Bit</source>
+        <translation>Bit EOL del cliente</translation>
+    </message>
+    <message>
+        <source>Current Status:</source>
+        <translation>Estado actual:</translation>
+    </message>
+    <message>
+        <source>EOL Test Passed</source>
+        <translation>Prueba EOL superada</translation>
+    </message>
+    <message>
+        <source>EOL Test Not Passed</source>
+        <translation>Prueba EOL no superada</translation>
+    </message>
+    <message>
+        <source>&amp;Set EOL to &apos;Pass&apos;</source>
+        <translation>&amp;Establecer EOL en «Superada»</translation>
+    </message>
+    <message>
+        <source>Set EOL to &apos;Fail&apos;</source>
+        <translation>Establecer EOL en «No superada»</translation>
+    </message>
+    <message>
+        <source>Lamp Test Failed.  Please resolve issues and run test again.</source>
+        <translation>Prueba de lámpara no superada. Elimine las causas y repita la prueba.</translation>
+    </message>
+    <message>
+        <source>Height Sensor Calibration Failed.  Please resolve issues and run test again.</source>
+        <translation>Calibración del sensor de altura fallida. Elimine las causas y repita la prueba.</translation>
+    </message>
+    <message>
+        <source>Calibration Failed!</source>
+        <translation>¡Calibración fallida!</translation>
+    </message>
+    <message>
+        <source>Corbel software has determined that the optional Stop Light Activation Cable should have been installed.  </source>
+        <translation>El software Corbel ha determinado que el cable opcional de activación de las luces de freno debería estar instalado.  </translation>
+    </message>
+    <message>
+        <source>This feature can be tested from the Main screen using the TESTS pull-down.  </source>
+        <translation>Esta función se puede probar desde la ventana principal con el menú PRUEBAS.  </translation>
+    </message>
+    <message>
+        <source>You must have functional trailer stop lights attached in order to perform this test.</source>
+        <translation>Para realizar esta prueba, deben estar conectadas luces de freno de remolque en buen estado.</translation>
+    </message>
+    <message>
+        <source>Setting End-of-line Bit</source>
+        <translation>Estableciendo el bit de fin de línea</translation>
+    </message>
+    <message>
+        <source>Unable to clear the End of Line bit.</source>
+        <translation>No se puede borrar el bit de fin de línea.</translation>
+    </message>
+    <message>
+        <source>Sign-off Failure</source>
+        <translation>Aprobación fallida</translation>
+    </message>
+    <message>
+        <source>Sign-off Complete</source>
+        <translation>Aprobación terminada</translation>
+    </message>
+    <message>
+        <source>All tests passed.  End-of-line bit set.</source>
+        <translation>Todas las pruebas superadas. Bit de fin de línea establecido.</translation>
+    </message>
+    <message>
+        <source>Do you want to save the data?</source>
+        <translation>¿Desea guardar los datos?</translation>
+    </message>
+    <message>
+        <source>Do you want to print the data?</source>
+        <translation>¿Desea imprimir los datos?</translation>
+    </message>
+    <message>
+        <source>Norvick OVG End-of-Line Report</source>
+        <translation>Informe de fin de línea OVG de Norvick</translation>
+    </message>
+    <message>
+        <source>Norvick End-of-Line Report</source>
+        <translation>Informe de fin de línea de Norvick</translation>
+    </message>
+    <message>
+        <source>Norvick OVG Fault Report</source>
+        <translation>Informe de fallos OVG de Norvick</translation>
+    </message>
+    <message>
+        <source>Date :</source>
+        <translation>Fecha:</translation>
+    </message>
+    <message>
+        <source>Time :</source>
+        <translation>Hora:</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Fecha</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Hora</translation>
+    </message>
+    <message>
+        <source>VIN</source>
+        <translation>VIN</translation>
+    </message>
+    <message>
+        <source>Trailer Type</source>
+        <translation>Tipo de remolque</translation>
+    </message>
+    <message>
+        <source>ABS System Config</source>
+        <translation>Config. del sistema ABS</translation>
+    </message>
+    <message>
+        <source>ECU Revision</source>
+        <translation>Revisión de la ECU</translation>
+    </message>
+    <message>
+        <source>Date of Manufacture</source>
+        <translation>Fecha de fabricación</translation>
+    </message>
+    <message>
+        <source>ECU Orientation</source>
+        <translation>Orientación de la ECU</translation>
+    </message>
+    <message>
+        <source>Facing Front</source>
+        <translation>Hacia delante</translation>
+    </message>
+    <message>
+        <source>Facing Rear</source>
+        <translation>Hacia atrás</translation>
+    </message>
+    <message>
+        <source>Not Applicable</source>
+        <translation>No aplicable</translation>
+    </message>
+    <message>
+        <source>Not Available</source>
+        <translation>No disponible</translation>
+    </message>
+    <message>
+        <source>Fault</source>
+        <translation>Fallo</translation>
+    </message>
+    <message>
+        <source> #  </source>
+        <translation> #  </translation>
+    </message>
+    <message>
+        <source> #</source>
+        <translation> #</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Descripción</translation>
+    </message>
+    <message>
+        <source>Count</source>
+        <translation>Veces</translation>
+    </message>
+    <message>
+        <source>Active</source>
+        <translation>Activo</translation>
+    </message>
+    <message>
+        <source>(No Description Available)</source>
+        <translation>(Descripción no disponible)</translation>
+    </message>
+    <message>
+        <source>No Faults Detected - System OK</source>
+        <translation>Ningún fallo detectado - sistema en buen estado</translation>
+    </message>
+    <message>
+        <source>End-of-Line Test Results</source>
+        <translation>Resultados de las pruebas de fin de línea</translation>
+    </message>
+    <message>
+        <source>End-of-Line Test Results:</source>
+        <translation>Resultados de las pruebas de fin de línea:</translation>
+    </message>
+    <message>
+        <source>   Pressure Test   </source>
+        <translation>   Prueba de presión   </translation>
+    </message>
+    <message>
+        <source>   Redundancy Test </source>
+        <translation>   Prueba de redundancia </translation>
+    </message>
+    <message>
+        <source>   Sensor Test     </source>
+        <translation>   Prueba de sensores     </translation>
+    </message>
+    <message>
+        <source>   Sensor</source>
+        <translation>   Sensor</translation>
+    </message>
+    <message>
+        <source>   Height Sensor CD</source>
+        <translation>   Sensor de altura CD</translation>
+    </message>
+    <message>
+        <source>   Lamp Test       </source>
+        <translation>   Prueba de lámpara       </translation>
+    </message>
+    <message>
+        <source>Sensor</source>
+        <translation>Sensor</translation>
+    </message>
+    <message>
+        <source>Max Speed (mph)</source>
+        <translation>Velocidad máx. (mph)</translation>
+    </message>
+    <message>
+        <source>Pressure Test   : </source>
+        <translation>Prueba de presión   : </translation>
+    </message>
+    <message>
+        <source>Redundancy Test   : </source>
+        <translation>Prueba redundancia : </translation>
+    </message>
+    <message>
+        <source>Sensor Test   : </source>
+        <translation>Prueba de sensores : </translation>
+    </message>
+    <message>
+        <source>Height Sensor CD : </source>
+        <translation>Sensor de altura CD : </translation>
+    </message>
+    <message>
+        <source>Lamp Test : </source>
+        <translation>Prueba de lámpara : </translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>Información</translation>
+    </message>
+    <message>
+        <source>Successfully sent the fault and test information to the printer.</source>
+        <translation>La información de fallos y de pruebas se ha enviado a la impresora.</translation>
+    </message>
+    <message>
+        <source>An error occurred while saving</source>
+        <translation>Se ha producido un error al guardar</translation>
+    </message>
+    <message>
+        <source>An error occurred printing the faults</source>
+        <translation>Se ha producido un error al imprimir los fallos</translation>
+    </message>
+    <message>
+        <source>ODR View</source>
+        <translation>Vista ODR</translation>
+    </message>
+    <message>
+        <source>Operating Data Recorder Overview</source>
+        <translation>Resumen del registrador de datos de funcionamiento</translation>
+    </message>
+    <message>
+        <source>Total Number of ABS Activations</source>
+        <translation>Número total de activaciones del ABS</translation>
+    </message>
+    <message>
+        <source>Total Number of Stoplight Power Activations</source>
+        <translation>Número total de alimentaciones por las luces de freno</translation>
+    </message>
+    <message>
+        <source>Total Number of Level 1 OVG Applications for All ODR Data</source>
+        <translation>Número total de intervenciones OVG de nivel 1 en todos los datos ODR</translation>
+    </message>
+    <message>
+        <source>Total Number of Level 2 OVG Applications for All ODR Data</source>
+        <translation>Número total de intervenciones OVG de nivel 2 en todos los datos ODR</translation>
+    </message>
+    <message>
+        <source>Norvick Brake Systems</source>
+        <translation>Norvick Brake Systems</translation>
+    </message>
+    <message>
+        <source>Vehicle ID:</source>
+        <translation>ID del vehículo:</translation>
+    </message>
+    <message>
+        <source>Data Extracted:</source>
+        <translation>Extracción:</translation>
+    </message>
+    <message>
+        <source> Total number of ABS activations</source>
+        <translation> Número total de activaciones del ABS</translation>
+    </message>
+    <message>
+        <source> Total number of Stoplight Power activations</source>
+        <translation> Número total de alimentaciones por las luces de freno</translation>
+    </message>
+    <message>
+        <source> Total number of Level One OVG applications for all ODR data</source>
+        <translation> Número total de intervenciones OVG de nivel uno en todos los datos ODR</translation>
+    </message>
+    <message>
+        <source> Total number of Level Two OVG applications for all ODR data</source>
+        <translation> Número total de intervenciones OVG de nivel dos en todos los datos ODR</translation>
+    </message>
+    <message>
+        <source>Print OK</source>
+        <translation>Impresión terminada</translation>
+    </message>
+    <message>
+        <source>ODR Data successfully sent to printer.</source>
+        <translation>Los datos ODR se han enviado a la impresora.</translation>
+    </message>
+    <message>
+        <source>Save Error</source>
+        <translation>Error al guardar</translation>
+    </message>
+    <message>
+        <source>An error occurred while saving:  </source>
+        <translation>Se ha producido un error al guardar:  </translation>
+    </message>
+    <message>
+        <source>Printer Error</source>
+        <translation>Error de impresión</translation>
+    </message>
+    <message>
+        <source>An error occurred printing the ODR data:  </source>
+        <translation>Se ha producido un error al imprimir los datos ODR:  </translation>
+    </message>
+    <message>
+        <source>Save EEPROM Data</source>
+        <translation>Guardar datos de la EEPROM</translation>
+    </message>
+    <message>
+        <source>Save ODR Data</source>
+        <translation>Guardar datos ODR</translation>
+    </message>
+    <message>
+        <source>Saving EEPROM Data...</source>
+        <translation>Guardando los datos de la EEPROM...</translation>
+    </message>
+    <message>
+        <source>Save Failed.  Please Try Again.</source>
+        <translation>No se ha podido guardar. Inténtelo de nuevo.</translation>
+    </message>
+    <message>
+        <source>EEPROM data not saved.  Please try again.</source>
+        <translation>Datos de la EEPROM no guardados. Inténtelo de nuevo.</translation>
+    </message>
+    <message>
+        <source>Bytes Remaining To Transfer : </source>
+        <translation>Bytes pendientes de transferir: </translation>
+    </message>
+    <message>
+        <source>EEPROM Data saved in </source>
+        <translation>Datos de la EEPROM guardados en </translation>
+    </message>
+    <message>
+        <source>Exporting ODR Data...</source>
+        <translation>Exportando los datos ODR...</translation>
+    </message>
+    <message>
+        <source>ODR data not saved.  Please try again.</source>
+        <translation>Datos ODR no guardados. Inténtelo de nuevo.</translation>
+    </message>
+    <message>
+        <source>ODR Data saved in </source>
+        <translation>Datos ODR guardados en </translation>
+    </message>
+    <message>
+        <source>Cannot save.</source>
+        <translation>No se puede guardar.</translation>
+    </message>
+    <message>
+        <source>The ECU information has not been successfully read.</source>
+        <translation>No se ha podido leer la información de la ECU.</translation>
+    </message>
+    <message>
+        <source>Select Data To Delete</source>
+        <translation>Seleccionar los datos que borrar</translation>
+    </message>
+    <message>
+        <source>Overview, histogram and trip accumulator</source>
+        <translation>Resumen, histograma y acumulador parcial</translation>
+    </message>
+    <message>
+        <source>ABS Accumulator</source>
+        <translation>Acumulador ABS</translation>
+    </message>
+    <message>
+        <source>OVG Accumulator</source>
+        <translation>Acumulador OVG</translation>
+    </message>
+    <message>
+        <source>Bus Monitor</source>
+        <translation>Monitor de bus</translation>
+    </message>
+    <message>
+        <source>Bus Monitor:</source>
+        <translation>Monitor de bus:</translation>
+    </message>
+    <message>
+        <source>&amp;Options</source>
+        <translation>&amp;Opciones</translation>
+    </message>
+    <message>
+        <source>St&amp;art Record</source>
+        <translation>&amp;Iniciar el registro</translation>
+    </message>
+    <message>
+        <source>St&amp;op Record</source>
+        <translation>&amp;Detener el registro</translation>
+    </message>
+    <message>
+        <source>&amp;Pause</source>
+        <translation>&amp;Pausa</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Opciones</translation>
+    </message>
+    <message>
+        <source>Data Log File Information</source>
+        <translation>Archivo del registro de datos</translation>
+    </message>
+    <message>
+        <source>Comments to be stored at the beginning of the file:</source>
+        <translation>Comentarios que se guardan al principio del archivo:</translation>
+    </message>
+    <message>
+        <source>Save &amp;As...</source>
+        <translation>Guardar &amp;como...</translation>
+    </message>
+    <message>
+        <source>Display Options</source>
+        <translation>Opciones de visualización</translation>
+    </message>
+    <message>
+        <source>Idle Time</source>
+        <translation>Tiempo de inactividad</translation>
+    </message>
+    <message>
+        <source>Time Stamp</source>
+        <translation>Marca de tiempo</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Aplicar</translation>
+    </message>
 </context>
 </TS>

@@ -2385,5 +2385,729 @@ freinage&#13;
         <source>No page holds all of these words.</source>
         <translation>Aucune page ne contient tous ces mots.</translation>
     </message>
+    <message>
+        <source>Zelt Pressure Test</source>
+        <translation>Test de pression Zelt</translation>
+    </message>
+    <message>
+        <source>Supply Pressure</source>
+        <translation>Pression d&apos;alimentation</translation>
+    </message>
+    <message>
+        <source>Demand Pressure</source>
+        <translation>Pression demandée</translation>
+    </message>
+    <message>
+        <source>Control Pressure</source>
+        <translation>Pression de commande</translation>
+    </message>
+    <message>
+        <source>Target Pressure</source>
+        <translation>Pression de consigne</translation>
+    </message>
+    <message>
+        <source>Actual Pressure</source>
+        <translation>Pression mesurée</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>État</translation>
+    </message>
+    <message>
+        <source>Brake Pressure  Laden  Modulator H1</source>
+        <translation>Pression de freinage  En charge  Modulateur H1</translation>
+    </message>
+    <message>
+        <source>Brake Pressure  Laden  Modulator H2</source>
+        <translation>Pression de freinage  En charge  Modulateur H2</translation>
+    </message>
+    <message>
+        <source>Brake Pressure  Unladen  Modulator H1</source>
+        <translation>Pression de freinage  À vide  Modulateur H1</translation>
+    </message>
+    <message>
+        <source>Brake Pressure  Unladen  Modulator H2</source>
+        <translation>Pression de freinage  À vide  Modulateur H2</translation>
+    </message>
+    <message>
+        <source>&amp;Start</source>
+        <translation>&amp;Démarrer</translation>
+    </message>
+    <message>
+        <source>Start the Pressure Test</source>
+        <translation>Démarrer le test de pression</translation>
+    </message>
+    <message>
+        <source>Close this form</source>
+        <translation>Fermer cette fenêtre</translation>
+    </message>
+    <message>
+        <source>Redundancy Test</source>
+        <translation>Test de redondance</translation>
+    </message>
+    <message>
+        <source>St&amp;art</source>
+        <translation>Dém&amp;arrer</translation>
+    </message>
+    <message>
+        <source>Start the Redundancy Test</source>
+        <translation>Démarrer le test de redondance</translation>
+    </message>
+    <message>
+        <source>Stop the Redundancy Test</source>
+        <translation>Arrêter le test de redondance</translation>
+    </message>
+    <message>
+        <source>Close the form</source>
+        <translation>Fermer la fenêtre</translation>
+    </message>
+    <message>
+        <source>QOR Plus Sensor Test</source>
+        <translation>Test des capteurs QOR Plus</translation>
+    </message>
+    <message>
+        <source>Order Expected</source>
+        <translation>Ordre attendu</translation>
+    </message>
+    <message>
+        <source>Order Seen</source>
+        <translation>Ordre constaté</translation>
+    </message>
+    <message>
+        <source>  Max Speed (mph)</source>
+        <translation>  Vitesse max. (mph)</translation>
+    </message>
+    <message>
+        <source>St&amp;op</source>
+        <translation>A&amp;rrêter</translation>
+    </message>
+    <message>
+        <source>Start Sensor Test</source>
+        <translation>Démarrer le test des capteurs</translation>
+    </message>
+    <message>
+        <source>Stop Sensor Test</source>
+        <translation>Arrêter le test des capteurs</translation>
+    </message>
+    <message>
+        <source>Rear</source>
+        <translation>Vers l&apos;arrière</translation>
+    </message>
+    <message>
+        <source>Unknown</source>
+        <translation>Inconnu</translation>
+    </message>
+    <message>
+        <source>n/a</source>
+        <translation>n/d</translation>
+    </message>
+    <message>
+        <source>Sensor Test Warning</source>
+        <translation>Avertissement - Test des capteurs</translation>
+    </message>
+    <message>
+        <source>Secure the vehicle to prevent it from running off and release the hand brake.</source>
+        <translation>Immobilisez le véhicule pour qu&apos;il ne puisse pas rouler, puis desserrez le frein de stationnement.</translation>
+    </message>
+    <message>
+        <source>This test checks the correct assignment of the ABS sensors to the modulators. </source>
+        <translation>Ce test vérifie que les capteurs ABS sont affectés aux bons modulateurs. </translation>
+    </message>
+    <message>
+        <source>It requires that the wheels be spun in a predetermined order.  </source>
+        <translation>Il faut faire tourner les roues dans un ordre prédéfini.  </translation>
+    </message>
+    <message>
+        <source>It is applicable to QOR Plus ECU&apos;s only.</source>
+        <translation>Il s&apos;applique uniquement aux ECU QOR Plus.</translation>
+    </message>
+    <message>
+        <source>Click START to begin test or CLOSE to exit.</source>
+        <translation>Cliquez sur DÉMARRER pour commencer le test ou sur FERMER pour quitter.</translation>
+    </message>
+    <message>
+        <source>Reservoir pressure must be &gt; 72.5 psi.  Increase pressure.</source>
+        <translation>La pression du réservoir d&apos;air doit être &gt; 72.5 psi. Augmentez la pression.</translation>
+    </message>
+    <message>
+        <source>The vehicle is not at a standstill! Click STOP to end testing.</source>
+        <translation>Le véhicule n&apos;est pas à l&apos;arrêt ! Cliquez sur ARRÊTER pour terminer le test.</translation>
+    </message>
+    <message>
+        <source>Spin Tire 1 as shown on the diagram...</source>
+        <translation>Faites tourner la roue 1 comme indiqué sur le schéma...</translation>
+    </message>
+    <message>
+        <source>Now Spin Tire 2 as shown on the diagram...</source>
+        <translation>Faites maintenant tourner la roue 2 comme indiqué sur le schéma...</translation>
+    </message>
+    <message>
+        <source>Now Spin Tire 3 as shown on the diagram...</source>
+        <translation>Faites maintenant tourner la roue 3 comme indiqué sur le schéma...</translation>
+    </message>
+    <message>
+        <source>Now Spin Tire 4 as shown on the diagram...</source>
+        <translation>Faites maintenant tourner la roue 4 comme indiqué sur le schéma...</translation>
+    </message>
+    <message>
+        <source> -Sensor Test-</source>
+        <translation> -Test des capteurs-</translation>
+    </message>
+    <message>
+        <source> Sensor Test Error!!!</source>
+        <translation> Erreur du test des capteurs !!!</translation>
+    </message>
+    <message>
+        <source>Sensor Order does NOT match configuration! Click STOP to end testing.</source>
+        <translation>L&apos;ordre des capteurs ne correspond PAS à la configuration ! Cliquez sur ARRÊTER pour terminer le test.</translation>
+    </message>
+    <message>
+        <source>All Sensors tested, Click STOP to end testing.</source>
+        <translation>Tous les capteurs sont testés. Cliquez sur ARRÊTER pour terminer le test.</translation>
+    </message>
+    <message>
+        <source>c</source>
+        <translation>c</translation>
+    </message>
+    <message>
+        <source>d</source>
+        <translation>d</translation>
+    </message>
+    <message>
+        <source>e</source>
+        <translation>e</translation>
+    </message>
+    <message>
+        <source>f</source>
+        <translation>f</translation>
+    </message>
+    <message>
+        <source>Do You See The Warning Lamp Blinking ON and OFF?</source>
+        <translation>Voyez-vous le voyant d&apos;alerte clignoter (s&apos;allumer et s&apos;éteindre) ?</translation>
+    </message>
+    <message>
+        <source>Status of the Valve Activation</source>
+        <translation>État de l&apos;activation des valves</translation>
+    </message>
+    <message>
+        <source>Warning Lamp ON/OFF Indicator</source>
+        <translation>Indicateur du voyant d&apos;alerte (ALLUMÉ/ÉTEINT)</translation>
+    </message>
+    <message>
+        <source>&amp;Yes</source>
+        <translation>&amp;Oui</translation>
+    </message>
+    <message>
+        <source>&amp;No</source>
+        <translation>&amp;Non</translation>
+    </message>
+    <message>
+        <source>Close the Form</source>
+        <translation>Fermer la fenêtre</translation>
+    </message>
+    <message>
+        <source>Test the Warning Lamp</source>
+        <translation>Tester le voyant d&apos;alerte</translation>
+    </message>
+    <message>
+        <source>Mechanical Suspension Height Sensor Calibration</source>
+        <translation>Calibrage du capteur de hauteur (suspension mécanique)</translation>
+    </message>
+    <message>
+        <source>Attention !!  Calibration must be performed when the vehicle is UNLADEN !!</source>
+        <translation>Attention !! Le calibrage doit être effectué lorsque le véhicule est À VIDE !!</translation>
+    </message>
+    <message>
+        <source>Position the lever of the distance sensor horizontally and secure it against the distance sensor linkage.  Then start calibration !</source>
+        <translation>Placez le levier du capteur de course à l&apos;horizontale et fixez-le contre la tringlerie du capteur de course. Lancez ensuite le calibrage !</translation>
+    </message>
+    <message>
+        <source>Permissible range for calibration : 1141 - 1486  counts</source>
+        <translation>Plage admissible pour le calibrage : 1141 - 1486 incréments</translation>
+    </message>
+    <message>
+        <source>Height sensor c-d :</source>
+        <translation>Capteur de hauteur c-d :</translation>
+    </message>
+    <message>
+        <source>Height sensor e-f :</source>
+        <translation>Capteur de hauteur e-f :</translation>
+    </message>
+    <message>
+        <source>Calibrate height sensor c-d</source>
+        <translation>Calibrer le capteur de hauteur c-d</translation>
+    </message>
+    <message>
+        <source>Calibrate height sensor e-f</source>
+        <translation>Calibrer le capteur de hauteur e-f</translation>
+    </message>
+    <message>
+        <source>Height Sensor Calibration</source>
+        <translation>Calibrage du capteur de hauteur</translation>
+    </message>
+    <message>
+        <source>Height Sensor Calibration Successful.</source>
+        <translation>Calibrage du capteur de hauteur réussi.</translation>
+    </message>
+    <message>
+        <source>Height Sensor Calibration Failed!!</source>
+        <translation>Échec du calibrage du capteur de hauteur !!</translation>
+    </message>
+    <message>
+        <source>Trailer 1 On</source>
+        <translation>Remorque 1 : allumer</translation>
+    </message>
+    <message>
+        <source>Trailer 1 Off</source>
+        <translation>Remorque 1 : éteindre</translation>
+    </message>
+    <message>
+        <source>Customer EOL Bit</source>
+        <translation>Bit EOL client</translation>
+    </message>
+    <message>
+        <source>Current Status:</source>
+        <translation>État actuel :</translation>
+    </message>
+    <message>
+        <source>EOL Test Passed</source>
+        <translation>Test EOL réussi</translation>
+    </message>
+    <message>
+        <source>EOL Test Not Passed</source>
+        <translation>Test EOL non réussi</translation>
+    </message>
+    <message>
+        <source>&amp;Set EOL to &apos;Pass&apos;</source>
+        <translation>&amp;Positionner EOL sur « Réussi »</translation>
+    </message>
+    <message>
+        <source>Set EOL to &apos;Fail&apos;</source>
+        <translation>Positionner EOL sur « Échec »</translation>
+    </message>
+    <message>
+        <source>Lamp Test Failed.  Please resolve issues and run test again.</source>
+        <translation>Échec du test du voyant. Veuillez éliminer les causes et relancer le test.</translation>
+    </message>
+    <message>
+        <source>Height Sensor Calibration Failed.  Please resolve issues and run test again.</source>
+        <translation>Échec du calibrage du capteur de hauteur. Veuillez éliminer les causes et relancer le test.</translation>
+    </message>
+    <message>
+        <source>Calibration Failed!</source>
+        <translation>Échec du calibrage !</translation>
+    </message>
+    <message>
+        <source>Corbel software has determined that the optional Stop Light Activation Cable should have been installed.  </source>
+        <translation>Le logiciel Corbel a déterminé que le câble d&apos;activation des feux stop (option) devrait être installé.  </translation>
+    </message>
+    <message>
+        <source>This feature can be tested from the Main screen using the TESTS pull-down.  </source>
+        <translation>Cette fonction peut être testée depuis la fenêtre principale avec le menu TESTS.  </translation>
+    </message>
+    <message>
+        <source>You must have functional trailer stop lights attached in order to perform this test.</source>
+        <translation>Pour effectuer ce test, des feux stop de remorque en état de marche doivent être branchés.</translation>
+    </message>
+    <message>
+        <source>Setting End-of-line Bit</source>
+        <translation>Positionnement du bit de fin de ligne</translation>
+    </message>
+    <message>
+        <source>Unable to clear the End of Line bit.</source>
+        <translation>Impossible d&apos;effacer le bit de fin de ligne.</translation>
+    </message>
+    <message>
+        <source>Sign-off Failure</source>
+        <translation>Échec de la validation</translation>
+    </message>
+    <message>
+        <source>Sign-off Complete</source>
+        <translation>Validation terminée</translation>
+    </message>
+    <message>
+        <source>All tests passed.  End-of-line bit set.</source>
+        <translation>Tous les tests sont réussis. Bit de fin de ligne positionné.</translation>
+    </message>
+    <message>
+        <source>Do you want to save the data?</source>
+        <translation>Voulez-vous enregistrer les données ?</translation>
+    </message>
+    <message>
+        <source>Do you want to print the data?</source>
+        <translation>Voulez-vous imprimer les données ?</translation>
+    </message>
+    <message>
+        <source>Norvick OVG End-of-Line Report</source>
+        <translation>Rapport de fin de ligne OVG Norvick</translation>
+    </message>
+    <message>
+        <source>Norvick End-of-Line Report</source>
+        <translation>Rapport de fin de ligne Norvick</translation>
+    </message>
+    <message>
+        <source>Norvick OVG Fault Report</source>
+        <translation>Rapport de défauts OVG Norvick</translation>
+    </message>
+    <message>
+        <source>Date :</source>
+        <translation>Date :</translation>
+    </message>
+    <message>
+        <source>Time :</source>
+        <translation>Heure :</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Date</translation>
+    </message>
+    <message>
+        <source>Time</source>
+        <translation>Heure</translation>
+    </message>
+    <message>
+        <source>VIN</source>
+        <translation>VIN</translation>
+    </message>
+    <message>
+        <source>Trailer Type</source>
+        <translation>Type de remorque</translation>
+    </message>
+    <message>
+        <source>ABS System Config</source>
+        <translation>Config. du système ABS</translation>
+    </message>
+    <message>
+        <source>ECU Revision</source>
+        <translation>Révision de l&apos;ECU</translation>
+    </message>
+    <message>
+        <source>Date of Manufacture</source>
+        <translation>Date de fabrication</translation>
+    </message>
+    <message>
+        <source>ECU Orientation</source>
+        <translation>Orientation de l&apos;ECU</translation>
+    </message>
+    <message>
+        <source>Facing Front</source>
+        <translation>Vers l&apos;avant</translation>
+    </message>
+    <message>
+        <source>Facing Rear</source>
+        <translation>Vers l&apos;arrière</translation>
+    </message>
+    <message>
+        <source>Not Applicable</source>
+        <translation>Non applicable</translation>
+    </message>
+    <message>
+        <source>Not Available</source>
+        <translation>Non disponible</translation>
+    </message>
+    <message>
+        <source>Fault</source>
+        <translation>Défaut</translation>
+    </message>
+    <message>
+        <source> #  </source>
+        <translation> #  </translation>
+    </message>
+    <message>
+        <source> #</source>
+        <translation> #</translation>
+    </message>
+    <message>
+        <source>Description</source>
+        <translation>Description</translation>
+    </message>
+    <message>
+        <source>Count</source>
+        <translation>Nombre</translation>
+    </message>
+    <message>
+        <source>Active</source>
+        <translation>Actif</translation>
+    </message>
+    <message>
+        <source>(No Description Available)</source>
+        <translation>(Description non disponible)</translation>
+    </message>
+    <message>
+        <source>No Faults Detected - System OK</source>
+        <translation>Aucun défaut détecté - système en bon état</translation>
+    </message>
+    <message>
+        <source>End-of-Line Test Results</source>
+        <translation>Résultats des tests de fin de ligne</translation>
+    </message>
+    <message>
+        <source>End-of-Line Test Results:</source>
+        <translation>Résultats des tests de fin de ligne :</translation>
+    </message>
+    <message>
+        <source>   Pressure Test   </source>
+        <translation>   Test de pression   </translation>
+    </message>
+    <message>
+        <source>   Redundancy Test </source>
+        <translation>   Test de redondance </translation>
+    </message>
+    <message>
+        <source>   Sensor Test     </source>
+        <translation>   Test des capteurs     </translation>
+    </message>
+    <message>
+        <source>   Sensor</source>
+        <translation>   Capteur</translation>
+    </message>
+    <message>
+        <source>   Height Sensor CD</source>
+        <translation>   Capteur de hauteur CD</translation>
+    </message>
+    <message>
+        <source>   Lamp Test       </source>
+        <translation>   Test du voyant       </translation>
+    </message>
+    <message>
+        <source>Sensor</source>
+        <translation>Capteur</translation>
+    </message>
+    <message>
+        <source>Max Speed (mph)</source>
+        <translation>Vitesse max. (mph)</translation>
+    </message>
+    <message>
+        <source>Pressure Test   : </source>
+        <translation>Test de pression   : </translation>
+    </message>
+    <message>
+        <source>Redundancy Test   : </source>
+        <translation>Test de redondance : </translation>
+    </message>
+    <message>
+        <source>Sensor Test   : </source>
+        <translation>Test des capteurs   : </translation>
+    </message>
+    <message>
+        <source>Height Sensor CD : </source>
+        <translation>Capt. de hauteur CD : </translation>
+    </message>
+    <message>
+        <source>Lamp Test : </source>
+        <translation>Test du voyant : </translation>
+    </message>
+    <message>
+        <source>Information</source>
+        <translation>Information</translation>
+    </message>
+    <message>
+        <source>Successfully sent the fault and test information to the printer.</source>
+        <translation>Les informations de défauts et de tests ont été envoyées à l&apos;imprimante.</translation>
+    </message>
+    <message>
+        <source>An error occurred while saving</source>
+        <translation>Une erreur s&apos;est produite pendant l&apos;enregistrement</translation>
+    </message>
+    <message>
+        <source>An error occurred printing the faults</source>
+        <translation>Une erreur s&apos;est produite pendant l&apos;impression des défauts</translation>
+    </message>
+    <message>
+        <source>ODR View</source>
+        <translation>Affichage ODR</translation>
+    </message>
+    <message>
+        <source>Operating Data Recorder Overview</source>
+        <translation>Synthèse de l&apos;enregistreur de données d&apos;exploitation</translation>
+    </message>
+    <message>
+        <source>Total Number of ABS Activations</source>
+        <translation>Nombre total d&apos;activations de l&apos;ABS</translation>
+    </message>
+    <message>
+        <source>Total Number of Stoplight Power Activations</source>
+        <translation>Nombre total d&apos;alimentations par les feux stop</translation>
+    </message>
+    <message>
+        <source>Total Number of Level 1 OVG Applications for All ODR Data</source>
+        <translation>Nombre total d&apos;interventions OVG de niveau 1 pour toutes les données ODR</translation>
+    </message>
+    <message>
+        <source>Total Number of Level 2 OVG Applications for All ODR Data</source>
+        <translation>Nombre total d&apos;interventions OVG de niveau 2 pour toutes les données ODR</translation>
+    </message>
+    <message>
+        <source>Norvick Brake Systems</source>
+        <translation>Norvick Brake Systems</translation>
+    </message>
+    <message>
+        <source>Vehicle ID:</source>
+        <translation>ID véhicule :</translation>
+    </message>
+    <message>
+        <source>Data Extracted:</source>
+        <translation>Extraction :</translation>
+    </message>
+    <message>
+        <source> Total number of ABS activations</source>
+        <translation> Nombre total d&apos;activations de l&apos;ABS</translation>
+    </message>
+    <message>
+        <source> Total number of Stoplight Power activations</source>
+        <translation> Nombre total d&apos;alimentations par les feux stop</translation>
+    </message>
+    <message>
+        <source> Total number of Level One OVG applications for all ODR data</source>
+        <translation> Nombre total d&apos;interventions OVG de niveau un pour toutes les données ODR</translation>
+    </message>
+    <message>
+        <source> Total number of Level Two OVG applications for all ODR data</source>
+        <translation> Nombre total d&apos;interventions OVG de niveau deux pour toutes les données ODR</translation>
+    </message>
+    <message>
+        <source>Print OK</source>
+        <translation>Impression terminée</translation>
+    </message>
+    <message>
+        <source>ODR Data successfully sent to printer.</source>
+        <translation>Les données ODR ont été envoyées à l&apos;imprimante.</translation>
+    </message>
+    <message>
+        <source>Save Error</source>
+        <translation>Erreur d&apos;enregistrement</translation>
+    </message>
+    <message>
+        <source>An error occurred while saving:  </source>
+        <translation>Une erreur s&apos;est produite pendant l&apos;enregistrement :  </translation>
+    </message>
+    <message>
+        <source>Printer Error</source>
+        <translation>Erreur d&apos;impression</translation>
+    </message>
+    <message>
+        <source>An error occurred printing the ODR data:  </source>
+        <translation>Une erreur s&apos;est produite pendant l&apos;impression des données ODR :  </translation>
+    </message>
+    <message>
+        <source>Save EEPROM Data</source>
+        <translation>Enregistrer les données EEPROM</translation>
+    </message>
+    <message>
+        <source>Save ODR Data</source>
+        <translation>Enregistrer les données ODR</translation>
+    </message>
+    <message>
+        <source>Saving EEPROM Data...</source>
+        <translation>Enregistrement des données EEPROM...</translation>
+    </message>
+    <message>
+        <source>Save Failed.  Please Try Again.</source>
+        <translation>Échec de l&apos;enregistrement. Veuillez réessayer.</translation>
+    </message>
+    <message>
+        <source>EEPROM data not saved.  Please try again.</source>
+        <translation>Données EEPROM non enregistrées. Veuillez réessayer.</translation>
+    </message>
+    <message>
+        <source>Bytes Remaining To Transfer : </source>
+        <translation>Octets restant à transférer : </translation>
+    </message>
+    <message>
+        <source>EEPROM Data saved in </source>
+        <translation>Données EEPROM enregistrées dans </translation>
+    </message>
+    <message>
+        <source>Exporting ODR Data...</source>
+        <translation>Exportation des données ODR...</translation>
+    </message>
+    <message>
+        <source>ODR data not saved.  Please try again.</source>
+        <translation>Données ODR non enregistrées. Veuillez réessayer.</translation>
+    </message>
+    <message>
+        <source>ODR Data saved in </source>
+        <translation>Données ODR enregistrées dans </translation>
+    </message>
+    <message>
+        <source>Cannot save.</source>
+        <translation>Enregistrement impossible.</translation>
+    </message>
+    <message>
+        <source>The ECU information has not been successfully read.</source>
+        <translation>Les informations de l&apos;ECU n&apos;ont pas pu être lues.</translation>
+    </message>
+    <message>
+        <source>Select Data To Delete</source>
+        <translation>Sélectionner les données à effacer</translation>
+    </message>
+    <message>
+        <source>Overview, histogram and trip accumulator</source>
+        <translation>Synthèse, histogramme et cumul partiel</translation>
+    </message>
+    <message>
+        <source>ABS Accumulator</source>
+        <translation>Cumul ABS</translation>
+    </message>
+    <message>
+        <source>OVG Accumulator</source>
+        <translation>Cumul OVG</translation>
+    </message>
+    <message>
+        <source>Bus Monitor</source>
+        <translation>Moniteur de bus</translation>
+    </message>
+    <message>
+        <source>Bus Monitor:</source>
+        <translation>Moniteur de bus :</translation>
+    </message>
+    <message>
+        <source>&amp;Options</source>
+        <translation>&amp;Options</translation>
+    </message>
+    <message>
+        <source>St&amp;art Record</source>
+        <translation>&amp;Démarrer le journal</translation>
+    </message>
+    <message>
+        <source>St&amp;op Record</source>
+        <translation>&amp;Arrêter le journal</translation>
+    </message>
+    <message>
+        <source>&amp;Pause</source>
+        <translation>&amp;Pause</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation>Options</translation>
+    </message>
+    <message>
+        <source>Data Log File Information</source>
+        <translation>Fichier du journal de données</translation>
+    </message>
+    <message>
+        <source>Comments to be stored at the beginning of the file:</source>
+        <translation>Commentaires à enregistrer au début du fichier :</translation>
+    </message>
+    <message>
+        <source>Save &amp;As...</source>
+        <translation>Enregistrer &amp;sous...</translation>
+    </message>
+    <message>
+        <source>Display Options</source>
+        <translation>Options d&apos;affichage</translation>
+    </message>
+    <message>
+        <source>Idle Time</source>
+        <translation>Temps d&apos;inactivité</translation>
+    </message>
+    <message>
+        <source>Time Stamp</source>
+        <translation>Horodatage</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation>Appliquer</translation>
+    </message>
 </context>
 </TS>
