@@ -1,11 +1,9 @@
-// The clock, the translation files, the printed pages and the keys.
-#include <QFile>
+// The clock, the translation files and the keys.
 #include <QKeyEvent>
 #include <QTemporaryDir>
 
 #include "adapters/qt/qt_clock.h"
 #include "adapters/qt/qt_keys.h"
-#include "adapters/qt/qt_page_printer.h"
 #include "adapters/qt/qt_text.h"
 #include "adapters/qt/qt_translations.h"
 #include "autotests/desktop/desktop_fixture.h"
@@ -36,43 +34,6 @@ TEST(QtTranslationsTest, WithoutFilesNothingIsTranslated) {
   EXPECT_EQ(translations.Lookup(1, "Yes"), "");
   EXPECT_FALSE(translations.Open());
   EXPECT_EQ(translations.Lookup(1, "Yes"), "");
-}
-
-TEST(QtPagePrinterTest, PagesGoToAFile) {
-  const QTemporaryDir folder;
-  const QString file = folder.filePath("pages.pdf");
-  QtPagePrinter printer(FromQString(file));
-  printer.SetFont("Arial", 14, true);
-  printer.PrintLine("Title");
-  printer.SetX(1440);
-  printer.Print("left open");
-  printer.PrintLine(", closed");
-  printer.DrawLine(0, printer.PageWidth(), 5);
-  printer.NewPage();
-  printer.PrintLine("Second");
-  EXPECT_GT(printer.TextWidth("    "), 0);
-  EXPECT_NEAR(printer.TextWidth("        "), 2 * printer.TextWidth("    "), 4);
-  EXPECT_GT(printer.PageWidth(), 5 * 1440);
-  printer.EndDocument();
-  QFile written(file);
-  ASSERT_TRUE(written.open(QIODevice::ReadOnly));
-  EXPECT_TRUE(written.readAll().startsWith("%PDF"));
-}
-
-TEST(QtPagePrinterTest, WithoutAPrinterItIsError482) {
-  if (QtPagePrinter::HasPrinter()) GTEST_SKIP() << "this machine has a printer";
-  QtPagePrinter printer;
-  try {
-    printer.PrintLine("x");
-    FAIL() << "printed without a printer";
-  } catch (const RuntimeError& error) {
-    EXPECT_EQ(error.Number(), 482);
-  }
-}
-
-TEST(QtPagePrinterTest, FileThatCannotBeWrittenIsError482) {
-  QtPagePrinter printer("/nonexistent/folder/pages.pdf");
-  EXPECT_THROW(printer.PrintLine("x"), RuntimeError);
 }
 
 TEST(QtKeysTest, KeysHaveTheirVirtualCodes) {

@@ -1,7 +1,6 @@
-// Pages on the default printer, or in a file.
+// Pages on the default printer, or in a PDF file.
 #pragma once
 
-#include <cstdint>
 #include <memory>
 #include <string>
 
@@ -9,46 +8,35 @@
 
 namespace lorimet {
 
-// A document begins with the first call that prints and ends with EndDocument or Cancel. Places and
-// widths are in twips from the left edge of the page's printable part. Error 482 without a printer.
+// A file is written under a temporary name and takes its own at the end of the document.
 class QtPagePrinter : public PagePrinter {
  public:
-  // A file name makes the pages a PDF file of that name.
-  explicit QtPagePrinter(std::string pdf_file = {});
+  QtPagePrinter();
+  // Cancels what was not ended.
   ~QtPagePrinter() override;
 
-  // Whether the system has a default printer.
-  static bool HasPrinter();
-
-  // Prints at the current place and begins a new line.
+  bool HasPrinter() override;
+  void PrintToFile(const std::string& path) override;
+  void SetFont(const PrinterFont& font) override;
+  void SetX(int twips) override;
+  void Print(const std::string& text) override;
   void PrintLine(const std::string& text) override;
-  void NewPage() override;
+  void DrawLine(int from_x, int to_x, int width) override;
+  int TextWidth(const std::string& text) override;
+  int PageWidth() override;
   void EndDocument() override;
-
-  // Throws the document away, as far as the printer has not got it already.
-  void Cancel();
-  void SetFont(const std::string& family, double points, bool bold);
-  // Prints at the current place and leaves the place behind the text.
-  void Print(const std::string& text);
-  // Moves the current place within the line.
-  void SetX(int twips);
-  int TextWidth(const std::string& text);
-  int PageWidth();
-  // A black line at the height of the current line, `width` device pixels thick.
-  void DrawLine(int from_x, int to_x, int width);
+  void Cancel() override;
 
  private:
+  class Device;
+  class DefaultPrinter;
+  class PdfFile;
   class Document;
-  struct Face {
-    std::string family = "Arial";
-    double points = 10.0;
-    bool bold = false;
-  };
 
   Document& Open();
 
-  std::string pdf_file_;
-  Face face_;
+  std::string file_;
+  PrinterFont font_;
   std::unique_ptr<Document> document_;
 };
 
