@@ -2,7 +2,10 @@
 #include <benchmark/benchmark.h>
 
 #include "benchmarks/simulated_program.h"
+#include "faults/faults_part.h"
+#include "session/session_part.h"
 #include "support/numbers.h"
+#include "support/support_part.h"
 
 namespace lorimet::benchmarks {
 namespace {
@@ -13,11 +16,11 @@ void LiveDataPassWithAllValuesChanged(benchmark::State& state) {
   SimulatedProgram& simulated = headless.simulated;
   for (auto _ : state) {
     simulated.ChangeLiveValues();
-    simulated.program.main_form.UpdateLiveData();
+    simulated.program.session->main_form.UpdateLiveData();
     headless.desktop.Flush();
   }
   const double supply = simulated.Ecu().dSupplyPress.Load();
-  if (simulated.program.main_form.txtSupply.Text() != FormatNumber(supply, "##0.0"))
+  if (simulated.program.session->main_form.txtSupply.Text() != FormatNumber(supply, "##0.0"))
     state.SkipWithError("the panel does not follow");
 }
 BENCHMARK(LiveDataPassWithAllValuesChanged)->Unit(benchmark::kMicrosecond);
@@ -25,7 +28,7 @@ BENCHMARK(LiveDataPassWithAllValuesChanged)->Unit(benchmark::kMicrosecond);
 void LiveDataPassWithNothingChanged(benchmark::State& state) {
   HeadlessProgram headless;
   for (auto _ : state) {
-    headless.simulated.program.main_form.UpdateLiveData();
+    headless.simulated.program.session->main_form.UpdateLiveData();
     headless.desktop.Flush();
   }
 }
@@ -33,7 +36,7 @@ BENCHMARK(LiveDataPassWithNothingChanged)->Unit(benchmark::kMicrosecond);
 
 void Translate(benchmark::State& state, int language, const std::string& text, bool has_row) {
   HeadlessProgram headless;
-  Dictionary& dictionary = headless.simulated.program.dictionary;
+  Dictionary& dictionary = headless.simulated.program.support->dictionary;
   dictionary.SetLanguage(language);
   if ((dictionary.Translate(text) != text) != has_row) state.SkipWithError("not that text's row");
   for (auto _ : state) benchmark::DoNotOptimize(dictionary.Translate(text));
@@ -51,8 +54,8 @@ void ChangeOfLanguage(benchmark::State& state) {
   int language = kNative;
   for (auto _ : state) {
     language = language == kFrench ? kSpanish : kFrench;
-    program.dictionary.SetLanguage(language);
-    program.dictionary.TranslateForm(program.main_form);
+    program.support->dictionary.SetLanguage(language);
+    program.support->dictionary.TranslateForm(program.session->main_form);
     headless.desktop.Flush();
   }
 }
@@ -60,7 +63,7 @@ BENCHMARK(ChangeOfLanguage)->Unit(benchmark::kMicrosecond);
 
 void FillFaultList(benchmark::State& state) {
   HeadlessProgram headless;
-  frmFaults& list = headless.simulated.program.fault_list;
+  frmFaults& list = headless.simulated.program.faults->fault_list;
   headless.simulated.SetFaults(static_cast<std::size_t>(state.range(0)));
   list.Show();
   for (auto _ : state) {

@@ -9,6 +9,9 @@
 #include "benchmarks/simulated_program.h"
 #include "parameters/parameter_reading.h"
 #include "parameters/parameter_writing.h"
+#include "parameters/parameters_part.h"
+#include "session/session_part.h"
+#include "support/support_part.h"
 
 namespace lorimet::benchmarks {
 namespace {
@@ -51,7 +54,7 @@ bool Transfer(HeadlessProgram& headless, const std::string& path, bool writes) {
   SimulatedProgram& simulated = headless.simulated;
   PosixProfileFile profile_file;
   ParameterFile file(profile_file, headless.desktop, simulated.process, headless.clock,
-                     simulated.Ecu(), simulated.program.image);
+                     simulated.Ecu(), simulated.program.parameters->image);
   headless.desktop.AnswerFileDialog(path);
   const bool done = writes ? file.WriteParmsToFile() : file.ReadParmsFromFile();
   headless.desktop.TakeFileDialogs();
@@ -61,7 +64,7 @@ bool Transfer(HeadlessProgram& headless, const std::string& path, bool writes) {
 // range(0): kilobytes of other sections in the file.
 void ParameterFile(benchmark::State& state, bool writes) {
   HeadlessProgram headless;
-  FillImage(headless.simulated.program.image);
+  FillImage(headless.simulated.program.parameters->image);
   const ScratchFile file(state.range(0));
   if (!Transfer(headless, file.Path(), true)) state.SkipWithError("cannot write");
   for (auto _ : state)
@@ -87,8 +90,9 @@ BENCHMARK_CAPTURE(ParameterFile, write, true)
 void ReadImage(HeadlessProgram& headless) {
   SimulatedProgram& simulated = headless.simulated;
   Program& program = simulated.program;
-  ReadParmsFromECU({simulated.link, headless.desktop, program.dictionary, simulated.Ecu(),
-                    program.image, program.main_form, program.main_form.txtError});
+  ReadParmsFromECU({simulated.link, headless.desktop, program.support->dictionary, simulated.Ecu(),
+                    program.parameters->image, program.session->main_form,
+                    program.session->main_form.txtError});
 }
 
 // Each page decodes the image when it loads and encodes it when it is left; the last one's encoding
@@ -100,15 +104,18 @@ void WizardDecodesAndEncodesAllPages(benchmark::State& state) {
   ReadImage(headless);
   const std::size_t before = desktop.ModalForms().size();
   for (auto _ : state) {
-    desktop.OnModal("frmOVGParm1", [&](Form&) { program.system_page.cmdNext.UserClick(); });
-    desktop.OnModal("frmGIOSelection", [&](Form&) { program.gio_page.cmdNext.UserClick(); });
-    desktop.OnModal("frmOVGParm2", [&](Form&) { program.load_sensing_page.cmdNext.UserClick(); });
+    desktop.OnModal("frmOVGParm1",
+                    [&](Form&) { program.parameters->system_page.cmdNext.UserClick(); });
+    desktop.OnModal("frmGIOSelection",
+                    [&](Form&) { program.parameters->gio_page.cmdNext.UserClick(); });
+    desktop.OnModal("frmOVGParm2",
+                    [&](Form&) { program.parameters->load_sensing_page.cmdNext.UserClick(); });
     desktop.OnModal("frmOVGParm3", [&](Form&) {
       desktop.AnswerFileDialog(std::nullopt);
-      program.overturn_guard_page.cmdSaveToFile.UserClick();
-      program.overturn_guard_page.cmdClose.UserClick();
+      program.parameters->overturn_guard_page.cmdSaveToFile.UserClick();
+      program.parameters->overturn_guard_page.cmdClose.UserClick();
     });
-    program.system_page.Show(Modality::kModal, &program.main_form);
+    program.parameters->system_page.Show(Modality::kModal, &program.session->main_form);
     desktop.TakeFileDialogs();
   }
   if (desktop.ModalForms().size() - before != 4 * static_cast<std::size_t>(state.iterations()))
@@ -122,12 +129,12 @@ void WriteToEcu(benchmark::State& state) {
   SimulatedProgram& simulated = headless.simulated;
   Program& program = simulated.program;
   ReadImage(headless);
-  frmOVGParm3& page = program.overturn_guard_page;
+  frmOVGParm3& page = program.parameters->overturn_guard_page;
   page.Load();
   const std::uint64_t start = headless.clock.Milliseconds();
   for (auto _ : state) {
-    WriteParmsToECU({simulated.link, headless.desktop, program.dictionary, headless.clock,
-                     program.faults, program.image, page, page.txtStatus});
+    WriteParmsToECU({simulated.link, headless.desktop, program.support->dictionary, headless.clock,
+                     program.faults, program.parameters->image, page, page.txtStatus});
     if (headless.desktop.TakeBoxes().size() != 1) state.SkipWithError("the ECU complains");
     headless.clock.sleeps.clear();
   }

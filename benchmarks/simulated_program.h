@@ -12,7 +12,10 @@
 #include "adapters/posix/posix_profile_file.h"
 #include "autotests/common/simulated_link.h"
 #include "faults/faults.h"
+#include "faults/faults_part.h"
 #include "program.h"
+#include "session/session_part.h"
+#include "support/support_part.h"
 
 namespace lorimet::benchmarks {
 
@@ -42,17 +45,18 @@ struct SimulatedProgram {
     clock.on_advance = [this](std::uint32_t milliseconds) {
       link.link.Advance(milliseconds / 1000.0);
     };
-    if (program.Start() != EntryResult::kRunning || program.main_form.txtECUType.Text().empty())
+    if (program.Start() != EntryResult::kRunning ||
+        program.session->main_form.txtECUType.Text().empty())
       std::abort();
   }
   ~SimulatedProgram() {
-    program.main_form.Unload();
+    program.session->main_form.Unload();
     clock.on_advance = nullptr;
   }
   SimulatedProgram(const SimulatedProgram&) = delete;
   SimulatedProgram& operator=(const SimulatedProgram&) = delete;
 
-  ECUData& Ecu() { return program.records.ecu_data; }
+  ECUData& Ecu() { return program.session->records.ecu_data; }
 
   // Puts other values into every live field of the record than those of the call before.
   void ChangeLiveValues() {
@@ -68,7 +72,7 @@ struct SimulatedProgram {
   }
   // Faults of the catalogue, active and stored in turn.
   void SetFaults(std::size_t count) {
-    const FaultTable& table = program.fault_table;
+    const FaultTable& table = program.faults->fault_table;
     link.faults.clear();
     for (std::size_t i = 0; i < count; ++i) {
       FaultRecord record;

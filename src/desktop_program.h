@@ -25,6 +25,7 @@
 #include "adapters/posix/posix_profile_file.h"
 #include "adapters/posix/posix_registry.h"
 #include "adapters/posix/posix_shared_library.h"
+#include "support/support_part.h"
 #endif
 
 namespace lorimet {
@@ -38,11 +39,8 @@ class DesktopProgram {
       // Nothing of what stands on the stack may run again.
       std::_Exit(program.ExitStatus());
     };
-    const auto language_changed = program.dictionary.on_language_changed;
-    program.dictionary.on_language_changed = [this, language_changed] {
-      language_changed();
-      help_viewer.SetLanguage(program.dictionary.Language());
-    };
+    program.support->dictionary.on_language_changed.push_back(
+        [this] { help_viewer.SetLanguage(program.support->dictionary.Language()); });
 #if !defined(_WIN32)
     notifier_ = std::make_unique<QSocketNotifier>(hook.ReadDescriptor(), QSocketNotifier::Read);
     QObject::connect(notifier_.get(), &QSocketNotifier::activated, notifier_.get(),
@@ -68,7 +66,7 @@ class DesktopProgram {
 #endif
   LoadedLinkLibrary link{loader};
   QtHelpViewer help_viewer{process.ProgramFolder(), [this](const std::string& text) {
-                             return program.dictionary.Translate(text);
+                             return program.support->dictionary.Translate(text);
                            }};
   Program program{
       {desktop, clock, registry, hook, process, link, help_viewer, translations, profile_file}};

@@ -10,7 +10,13 @@
 #include "adapters/headless/headless_ports.h"
 #include "adapters/posix/posix_profile_file.h"
 #include "autotests/common/fake_link.h"
+#include "platform/runtime_error.h"
 #include "program.h"
+#include "session/ecu_data.h"
+
+namespace lorimet {
+class frmZeltMain;
+}  // namespace lorimet
 
 namespace lorimet::testing_support {
 
@@ -39,32 +45,14 @@ inline MessageBox PlainBox(const std::string& text, const std::string& title,
 // test did not take fails it.
 class ProgramTest : public testing::Test {
  protected:
-  ProgramTest() {
-    link.on_static_read = [this] { Ecu().nLinkJobDone.Store(-1); };
-    desktop.on_do_events = [this] { hook.Deliver(); };
-    process.files = {"/opt/hubrest"};
-    registry.SetText(RegistryHive::kLocalMachine, std::string(kAppPathsKey) + "Hubrest.exe", "",
-                     "/opt/hubrest");
-  }
-  ~ProgramTest() override {
-    if (!HasFailure()) {
-      EXPECT_EQ(desktop.TakeBoxes(), Boxes{}) << "a message box that the test did not expect";
-    }
-    // A form that a test left open is closed with no further calls.
-    link.on_disconnect = nullptr;
-  }
+  ProgramTest();
+  ~ProgramTest() override;
 
-  ECUData& Ecu() { return program.records.ecu_data; }
-  frmZeltMain& Main() { return program.main_form; }
+  ECUData& Ecu();
+  frmZeltMain& Main();
   // Starts the program, connected, and forgets the calls of the start.
-  void Start() {
-    ASSERT_EQ(program.Start(), EntryResult::kRunning);
-    link.TakeCalls();
-  }
-  void SetLanguage(int language) {
-    registry.SetNumber(RegistryHive::kCurrentUser, kProductKey, "Language",
-                       static_cast<std::uint32_t>(language));
-  }
+  void Start();
+  void SetLanguage(int language);
 
   VirtualClock clock;
   HeadlessDesktop desktop{clock};

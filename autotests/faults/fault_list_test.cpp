@@ -7,6 +7,9 @@
 #include <cstring>
 
 #include "autotests/common/program_fixture.h"
+#include "faults/faults_part.h"
+#include "session/session_part.h"
+#include "support/support_part.h"
 
 namespace lorimet::testing_support {
 namespace {
@@ -24,7 +27,7 @@ class FaultListTest : public ProgramTest {
       std::copy(records.begin(), records.end(), static_cast<FaultRecord*>(first));
     };
   }
-  frmFaults& List() { return program.fault_list; }
+  frmFaults& List() { return program.faults->fault_list; }
   DataGrid& Grid() { return List().grdFaults; }
   // Starts the program and opens the list without its modal loop.
   void Open() {
@@ -311,18 +314,18 @@ TEST_F(FaultListTest, SpeaksTheLanguageOnScreen) {
 
 TEST_F(FaultListTest, ChangeOfLanguageRenamesTheTableInPlace) {
   Start();
-  const std::size_t size = program.fault_table.Size();
-  const std::string before = program.fault_table[1].Name;
-  program.dictionary.SetLanguage(kSpanish);
-  EXPECT_EQ(program.fault_table.Size(), size);
-  EXPECT_NE(program.fault_table[1].Name, before);
-  EXPECT_EQ(program.fault_table[1].Name, translations.Lookup(kSpanish, before));
+  const std::size_t size = program.faults->fault_table.Size();
+  const std::string before = program.faults->fault_table[1].Name;
+  program.support->dictionary.SetLanguage(kSpanish);
+  EXPECT_EQ(program.faults->fault_table.Size(), size);
+  EXPECT_NE(program.faults->fault_table[1].Name, before);
+  EXPECT_EQ(program.faults->fault_table[1].Name, translations.Lookup(kSpanish, before));
 }
 
 TEST_F(FaultListTest, AdviceFollowsTheLanguageAtTheNextSelection) {
   Hold({{0, 5, 7, 0, 0, 1}, {0, 7, 3, 0, 0, 1}});
   Open();
-  program.dictionary.SetLanguage(kSpanish);
+  program.support->dictionary.SetLanguage(kSpanish);
   Grid().UserFocusRow(1);
   EXPECT_EQ(List().txtRepair.Text(),
             translations.Lookup(kSpanish, "Check cable for pinch/cut and check connectors."));

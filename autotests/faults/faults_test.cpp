@@ -6,6 +6,7 @@
 #include <algorithm>
 
 #include "autotests/common/program_fixture.h"
+#include "faults/faults_part.h"
 
 namespace lorimet::testing_support {
 namespace {
@@ -21,7 +22,7 @@ class FaultsTest : public ProgramTest {
       std::copy(records.begin(), records.end(), static_cast<FaultRecord*>(first));
     };
   }
-  Faults& Module() { return program.faults; }
+  Faults& Module() { return program.faults->faults; }
 };
 
 TEST_F(FaultsTest, CountIsReadUnderTheLockAndTheRecordsAreKept) {

@@ -5,6 +5,7 @@
 #include "autotests/parameters/wizard_fixture.h"
 #include "parameters/function_blocks.h"
 #include "parameters/gio_functions.h"
+#include "parameters/parameters_part.h"
 
 namespace lorimet::testing_support {
 namespace {
@@ -45,7 +46,7 @@ void Write(const ListedWrite& row, ParameterImage& image) {
 class GioSelectionTest : public WizardFormTest {
  protected:
   GioSelectionTest() { Ecu().bNumModulators.Store(2); }
-  frmGIOSelection& Page() { return program.gio_page; }
+  frmGIOSelection& Page() { return program.parameters->gio_page; }
   // Ticks a box; a dialog that comes with it is closed by its close box.
   void Tick(int item) {
     const auto close = [](Form& form) { form.UserClose(); };
@@ -253,7 +254,8 @@ TEST_F(GioSelectionTest, ReturningFromTheLoadSensingPageDiscardsTheDialogsValues
     EXPECT_NE(Image().FCF[0](16), 0);
     Press(Page().cmdNext);
   });
-  desktop.OnModal("frmOVGParm2", [&](Form&) { Press(program.load_sensing_page.cmdPrev); });
+  desktop.OnModal("frmOVGParm2",
+                  [&](Form&) { Press(program.parameters->load_sensing_page.cmdPrev); });
   desktop.OnModal("frmGIOSelection", [&](Form&) {
     EXPECT_FALSE(Page().chkGIO[6].Value());
     EXPECT_EQ(Image().FCF[0](16), 0);

@@ -1,12 +1,13 @@
 // The dialog of the special GIO functions.
 #include "autotests/parameters/wizard_fixture.h"
+#include "parameters/parameters_part.h"
 
 namespace lorimet::testing_support {
 namespace {
 
 class GioSpecialTest : public WizardFormTest {
  protected:
-  frmGIOSpecial& Dialog() { return program.special_gio; }
+  frmGIOSpecial& Dialog() { return program.parameters->special_gio; }
   // Puts the bytes into the image by which all boxes show as checked.
   void MarkAll() {
     Image().EOL1(33) = 10;

@@ -1,5 +1,6 @@
 // The dialog of the lift axle's lowering and lifting pressures.
 #include "autotests/parameters/wizard_fixture.h"
+#include "parameters/parameters_part.h"
 
 namespace lorimet::testing_support {
 namespace {
@@ -11,7 +12,7 @@ constexpr const char* kDiffer =
 
 class LiftAxleTest : public WizardFormTest {
  protected:
-  frmLiftAxlePressures& Dialog() { return program.lift_axle; }
+  frmLiftAxlePressures& Dialog() { return program.parameters->lift_axle; }
   void Enter(const std::string& lowering, const std::string& lifting) {
     Dialog().txtLoweringPress.UserType(lowering);
     Dialog().txtLiftingPress.UserType(lifting);

@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "autotests/parameters/wizard_fixture.h"
+#include "parameters/parameters_part.h"
 #include "support/text.h"
 
 namespace lorimet::testing_support {
@@ -89,8 +90,8 @@ struct Round {
 
 class PageProperties : public WizardFormTest {
  protected:
-  frmOVGParm2& Page() { return program.load_sensing_page; }
-  frmOVGParm3& Last() { return program.overturn_guard_page; }
+  frmOVGParm2& Page() { return program.parameters->load_sensing_page; }
+  frmOVGParm3& Last() { return program.parameters->overturn_guard_page; }
 
   void Fill(const Round& round) {
     int place = round.axles * 7 + (round.mechanical ? 3 : 0);

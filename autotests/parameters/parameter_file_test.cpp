@@ -11,6 +11,8 @@
 #include <sstream>
 
 #include "autotests/common/program_fixture.h"
+#include "parameters/parameters_part.h"
+#include "session/session_part.h"
 
 namespace lorimet::testing_support {
 namespace {
@@ -54,7 +56,7 @@ class ParameterFileTest : public ProgramTest {
   }
   ~ParameterFileTest() override { fs::remove_all(folder_); }
 
-  ParameterImage& Image() { return program.image; }
+  ParameterImage& Image() { return program.parameters->image; }
   std::string Path() const { return folder_ / "trailer.ecu"; }
   static std::string TextOf(const std::string& path) {
     std::stringstream text;
@@ -63,11 +65,11 @@ class ParameterFileTest : public ProgramTest {
   }
   bool WriteFile() {
     desktop.AnswerFileDialog(Path());
-    return program.parameter_file.WriteParmsToFile();
+    return program.parameters->parameter_file.WriteParmsToFile();
   }
   bool ReadFile() {
     desktop.AnswerFileDialog(Path());
-    return program.parameter_file.ReadParmsFromFile();
+    return program.parameters->parameter_file.ReadParmsFromFile();
   }
   bool ReadText(const std::string& text) {
     std::ofstream(Path(), std::ios::binary) << text;
@@ -167,7 +169,7 @@ TEST_F(ParameterFileTest, DialogsAskAsTheyShould) {
 
 TEST_F(ParameterFileTest, ProposesTheVehicleThenTheSerialNumberThenAPlainName) {
   const auto proposed = [&] {
-    EXPECT_FALSE(program.parameter_file.WriteParmsToFile());
+    EXPECT_FALSE(program.parameters->parameter_file.WriteParmsToFile());
     return desktop.TakeFileDialogs().at(0).file_name;
   };
   EXPECT_EQ(proposed(), "OVG Parameters");
@@ -186,7 +188,7 @@ TEST_F(ParameterFileTest, SerialNumberOfBlanksProposesNoName) {
 
 TEST_F(ParameterFileTest, ProposalEndsAtANulAndIsInTheProgramsOwnCharacters) {
   const auto proposed = [&] {
-    EXPECT_FALSE(program.parameter_file.WriteParmsToFile());
+    EXPECT_FALSE(program.parameters->parameter_file.WriteParmsToFile());
     return desktop.TakeFileDialogs().at(0).file_name;
   };
   Ecu().SerialNum.Store(std::string("S\xE9\0XYZ", 6));
@@ -206,11 +208,11 @@ TEST_F(ParameterFileTest, NameThatWouldLeaveTheFolderEndsInSilence) {
 TEST_F(ParameterFileTest, CancelDoesNothing) {
   FillImage();
   desktop.AnswerFileDialog(std::nullopt);
-  EXPECT_FALSE(program.parameter_file.WriteParmsToFile());
+  EXPECT_FALSE(program.parameters->parameter_file.WriteParmsToFile());
   desktop.AnswerFileDialog(std::string());
-  EXPECT_FALSE(program.parameter_file.WriteParmsToFile());
+  EXPECT_FALSE(program.parameters->parameter_file.WriteParmsToFile());
   desktop.AnswerFileDialog(std::nullopt);
-  EXPECT_FALSE(program.parameter_file.ReadParmsFromFile());
+  EXPECT_FALSE(program.parameters->parameter_file.ReadParmsFromFile());
   EXPECT_FALSE(fs::exists(Path()));
 }
 
@@ -345,7 +347,7 @@ TEST_F(ParameterFileTest, ExistingFileIsReplacedInPlaceWithoutAQuestion) {
 TEST_F(ParameterFileTest, FolderThatCannotBeWrittenEndsInSilence) {
   FillImage();
   desktop.AnswerFileDialog(folder_ / "missing" / "x.ecu");
-  EXPECT_FALSE(program.parameter_file.WriteParmsToFile());
+  EXPECT_FALSE(program.parameters->parameter_file.WriteParmsToFile());
 }
 
 TEST_F(ParameterFileTest, MissingSectionMakesItsBlockAbsentAndKeepsItsBytes) {

@@ -7,6 +7,9 @@
 #include <map>
 
 #include "autotests/common/program_fixture.h"
+#include "parameters/parameters_part.h"
+#include "session/session_part.h"
+#include "support/support_part.h"
 
 namespace lorimet::testing_support {
 namespace {
@@ -17,10 +20,10 @@ const Calls kOpening = {"StartSession 83", "Password", "StartRoutine 42:00000100
 
 class ParameterReadingTest : public ProgramTest {
  protected:
-  ParameterImage& Image() { return program.image; }
+  ParameterImage& Image() { return program.parameters->image; }
   std::int32_t Read() {
     return ReadParmsFromECU(
-        {link, desktop, program.dictionary, Ecu(), Image(), Main(), Main().txtError});
+        {link, desktop, program.support->dictionary, Ecu(), Image(), Main(), Main().txtError});
   }
   // Answers each block with its id as echo and its index plus an offset in each byte.
   void Answer(std::uint8_t count) {

@@ -7,6 +7,9 @@
 #include <map>
 
 #include "autotests/common/program_fixture.h"
+#include "faults/faults_part.h"
+#include "parameters/parameters_part.h"
+#include "support/support_part.h"
 
 namespace lorimet::testing_support {
 namespace {
@@ -20,11 +23,11 @@ const MessageBox kSaved = PlainBox(
 
 class ParameterWritingTest : public ProgramTest {
  protected:
-  ParameterImage& Image() { return program.image; }
-  frmOVGParm3& Page() { return program.overturn_guard_page; }
+  ParameterImage& Image() { return program.parameters->image; }
+  frmOVGParm3& Page() { return program.parameters->overturn_guard_page; }
   void Write() {
-    WriteParmsToECU({link, desktop, program.dictionary, clock, program.faults, Image(), Page(),
-                     Page().txtStatus});
+    WriteParmsToECU({link, desktop, program.support->dictionary, clock, program.faults->faults,
+                     Image(), Page(), Page().txtStatus});
   }
   // Lets the page that shows the progress stand.
   void Open() {

@@ -13,6 +13,8 @@
 
 #include "autotests/common/program_fixture.h"
 #include "autotests/common/simulated_link.h"
+#include "parameters/parameters_part.h"
+#include "session/session_part.h"
 
 namespace lorimet::testing_support {
 
@@ -58,14 +60,14 @@ class RoadFixture : public Base {
            [](Form& f) -> Button& { return static_cast<frmGIOSelection&>(f).cmdNext; });
     next("frmOVGParm2", [](Form& f) -> Button& { return static_cast<frmOVGParm2&>(f).cmdNext; });
     next("frmOVGParm3", [save](Form& f) -> Button& { return static_cast<frmOVGParm3&>(f).*save; });
-    program->main_form.mnuSystem[0].UserClick();
+    program->session->main_form.mnuSystem[0].UserClick();
   }
   static void Press(Button& button) {
     button.Owner().UserFocus(&button);
     button.UserClick();
   }
 
-  ECUData& Ecu() { return program->records.ecu_data; }
+  ECUData& Ecu() { return program->session->records.ecu_data; }
   // What the ECU holds, by local id.
   std::map<int, Bytes> Stored() {
     std::map<int, Bytes> stored;

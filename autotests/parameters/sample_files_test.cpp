@@ -9,6 +9,8 @@
 #include <sstream>
 
 #include "autotests/parameters/road_fixture.h"
+#include "parameters/parameters_part.h"
+#include "session/session_part.h"
 
 namespace lorimet::testing_support {
 namespace {
@@ -89,9 +91,9 @@ TEST_P(SampleFiles, ReadBackIntoTheImage) {
   const Sample& sample = GetParam();
   BeginSample(sample);
   desktop.AnswerFileDialog((kSamples / (std::string(sample.name) + ".ecu")).string());
-  ASSERT_TRUE(program->parameter_file.ReadParmsFromFile());
-  EXPECT_EQ(program->records.ecu_data.nNumAxles.Load(), sample.axles);
-  EXPECT_EQ(program->records.ecu_data.VehicleId.Load(), sample.vehicle_id);
+  ASSERT_TRUE(program->parameters->parameter_file.ReadParmsFromFile());
+  EXPECT_EQ(program->session->records.ecu_data.nNumAxles.Load(), sample.axles);
+  EXPECT_EQ(program->session->records.ecu_data.VehicleId.Load(), sample.vehicle_id);
 }
 
 INSTANTIATE_TEST_SUITE_P(Trailers, SampleFiles, testing::ValuesIn(kTrailers),

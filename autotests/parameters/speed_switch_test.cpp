@@ -1,5 +1,6 @@
 // The dialog of the speed switch's thresholds.
 #include "autotests/parameters/wizard_fixture.h"
+#include "parameters/parameters_part.h"
 
 namespace lorimet::testing_support {
 namespace {
@@ -10,7 +11,7 @@ constexpr int kThresholds = 0x020B59;
 
 class SpeedSwitchTest : public WizardFormTest {
  protected:
-  frmSpeedSwitchThresh& Dialog() { return program.speed_switch; }
+  frmSpeedSwitchThresh& Dialog() { return program.parameters->speed_switch; }
   void Enter(const std::string& turn_on, const std::string& turn_off) {
     Dialog().txtTurnOnThresh.UserType(turn_on);
     Dialog().txtTurnOffThresh.UserType(turn_off);

@@ -1,5 +1,7 @@
 // The system page of the parameter wizard.
 #include "autotests/parameters/wizard_fixture.h"
+#include "parameters/parameters_part.h"
+#include "support/support_part.h"
 
 namespace lorimet::testing_support {
 namespace {
@@ -21,7 +23,7 @@ std::string Enabled(const ControlArray<T>& items) {
 
 class SystemPageTest : public WizardFormTest {
  protected:
-  frmOVGParm1& Page() { return program.system_page; }
+  frmOVGParm1& Page() { return program.parameters->system_page; }
 
   void SetSystem(int sensors, int modulators, int axles) {
     Ecu().bNumSensors.Store(static_cast<std::uint8_t>(sensors));
@@ -277,8 +279,8 @@ TEST_F(SystemPageTest, EachSignOfTheCableIsNeeded) {
 
 TEST_F(SystemPageTest, RefusesToUnloadWhileItLoads) {
   bool refused = false;
-  program.dictionary.SetLanguage(kFrench);
-  program.dictionary.on_language_changed = [&] { refused = !Page().Unload(); };
+  program.support->dictionary.SetLanguage(kFrench);
+  program.support->dictionary.on_language_changed.push_back([&] { refused = !Page().Unload(); });
   Page().Load();
   EXPECT_TRUE(refused);
   EXPECT_TRUE(Page().Loaded());

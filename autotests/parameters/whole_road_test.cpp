@@ -13,6 +13,8 @@
 #include <vector>
 
 #include "autotests/parameters/road_fixture.h"
+#include "parameters/parameters_part.h"
+#include "session/session_part.h"
 
 namespace lorimet::testing_support {
 namespace {
@@ -120,7 +122,7 @@ TEST_F(WholeRoad, WrongSetsAreRefusedInTheWordsOfTheCatalogue) {
     const std::vector<std::string> complaints = Complaints();
     EXPECT_NE(std::ranges::find(complaints, mistake.complaint), complaints.end())
         << testing::PrintToString(complaints);
-    program->main_form.Unload();
+    program->session->main_form.Unload();
     desktop.TakeBoxes();
     program.reset();
   }
@@ -152,15 +154,15 @@ TEST_F(WholeRoad, FileCarriesTheSetFromOneTrailerToTheNext) {
   const Boxes boxes = desktop.TakeBoxes();
   ASSERT_EQ(boxes.size(), 1u);
   EXPECT_EQ(boxes[0], PlainBox("Write to file complete.", "Parameter Data"));
-  const ParameterImage saved = program->image;
+  const ParameterImage saved = program->parameters->image;
   desktop.AnswerFileDialog(path);
-  ASSERT_TRUE(program->parameter_file.ReadParmsFromFile());
+  ASSERT_TRUE(program->parameters->parameter_file.ReadParmsFromFile());
   for (ParmBlock ParameterImage::*block :
        {&ParameterImage::EOL1, &ParameterImage::EOL2, &ParameterImage::EOL3, &ParameterImage::EOL5,
         &ParameterImage::EOL9}) {
-    EXPECT_EQ((program->image.*block).bNumBytes, (saved.*block).bNumBytes);
+    EXPECT_EQ((program->parameters->image.*block).bNumBytes, (saved.*block).bNumBytes);
     EXPECT_TRUE(std::equal((saved.*block).DataArr.begin() + 1, (saved.*block).DataArr.end(),
-                           (program->image.*block).DataArr.begin() + 1));
+                           (program->parameters->image.*block).DataArr.begin() + 1));
   }
   std::filesystem::remove(path);
 }

@@ -10,6 +10,8 @@
 #include <vector>
 
 #include "autotests/common/program_fixture.h"
+#include "parameters/parameters_part.h"
+#include "support/support_part.h"
 
 namespace lorimet::testing_support {
 
@@ -44,12 +46,12 @@ using Lines = std::vector<std::string>;
 // The forms are loaded and driven by themselves; the program need not be started.
 class WizardFormTest : public ProgramTest {
  protected:
-  ParameterImage& Image() { return program.image; }
-  frmOVGParm1& System() { return program.system_page; }
-  frmGIOSelection& Gio() { return program.gio_page; }
-  frmGIOSpecial& Special() { return program.special_gio; }
-  frmLiftAxlePressures& LiftAxle() { return program.lift_axle; }
-  frmSpeedSwitchThresh& SpeedSwitch() { return program.speed_switch; }
+  ParameterImage& Image() { return program.parameters->image; }
+  frmOVGParm1& System() { return program.parameters->system_page; }
+  frmGIOSelection& Gio() { return program.parameters->gio_page; }
+  frmGIOSpecial& Special() { return program.parameters->special_gio; }
+  frmLiftAxlePressures& LiftAxle() { return program.parameters->lift_axle; }
+  frmSpeedSwitchThresh& SpeedSwitch() { return program.parameters->speed_switch; }
 
   // Fills every byte with its own value, so that a byte that is not written shows.
   void FillImage() {
@@ -70,8 +72,8 @@ class WizardFormTest : public ProgramTest {
     return Differences(before, Image());
   }
   void Speak(int language) {
-    program.dictionary.Open();
-    program.dictionary.SetLanguage(language);
+    program.support->dictionary.Open();
+    program.support->dictionary.SetLanguage(language);
   }
   // As the mouse does it: the button gets the focus before its click.
   static void Press(Button& button) {

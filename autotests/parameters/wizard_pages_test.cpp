@@ -8,6 +8,8 @@
 
 #include "autotests/common/program_fixture.h"
 #include "parameters/conversions.h"
+#include "parameters/parameters_part.h"
+#include "session/session_part.h"
 
 namespace lorimet::testing_support {
 namespace {
@@ -23,11 +25,11 @@ class WizardTest : public ProgramTest {
     Ecu().nAxleSensors[1].Store(1);
     Image().EOL1(1) = 0x04;
   }
-  ParameterImage& Image() { return program.image; }
-  ParmBlock& Vehicle() { return program.image.EOL1; }
-  frmOVGParm1& System() { return program.system_page; }
-  frmOVGParm2& Page() { return program.load_sensing_page; }
-  frmOVGParm3& Last() { return program.overturn_guard_page; }
+  ParameterImage& Image() { return program.parameters->image; }
+  ParmBlock& Vehicle() { return program.parameters->image.EOL1; }
+  frmOVGParm1& System() { return program.parameters->system_page; }
+  frmOVGParm2& Page() { return program.parameters->load_sensing_page; }
+  frmOVGParm3& Last() { return program.parameters->overturn_guard_page; }
   void OpenPage() {
     System().Load();
     Page().Load();
@@ -525,13 +527,13 @@ TEST_F(WizardTest, SingleModulatorSystemSkipsTheFunctions) {
 
 TEST_F(WizardTest, PreviousBringsTheFunctionsLoadedAnew) {
   OpenPage();
-  program.gio_page.chkGIO[0].SetValue(true);
+  program.parameters->gio_page.chkGIO[0].SetValue(true);
   Image().EOL5(83) = 7;
   Press(Page().cmdPrev);
   EXPECT_FALSE(Page().Loaded());
-  EXPECT_FALSE(program.gio_page.Loaded());
+  EXPECT_FALSE(program.parameters->gio_page.Loaded());
   EXPECT_TRUE(System().Loaded());
-  EXPECT_FALSE(program.gio_page.chkGIO[0].Value());
+  EXPECT_FALSE(program.parameters->gio_page.chkGIO[0].Value());
   EXPECT_EQ(Image().EOL5(83), 0);
 }
 
@@ -554,10 +556,10 @@ TEST_F(WizardTest, PageLeftByItsCloseBoxHandsNothingToTheNextTrailer) {
 
 TEST_F(WizardTest, CloseEndsTheWizard) {
   OpenPage();
-  program.gio_page.Load();
+  program.parameters->gio_page.Load();
   Press(Page().cmdClose);
   EXPECT_FALSE(System().Loaded());
-  EXPECT_FALSE(program.gio_page.Loaded());
+  EXPECT_FALSE(program.parameters->gio_page.Loaded());
   EXPECT_FALSE(Page().Loaded());
 }
 
@@ -682,14 +684,14 @@ TEST_F(WizardTest, PreviousOfTheLastPageBringsTheHiddenPageBackAsItWas) {
 
 TEST_F(WizardTest, CloseOfTheLastPageUnloadsAllAndWritesNothing) {
   OpenPage();
-  program.gio_page.Load();
+  program.parameters->gio_page.Load();
   Last().Load();
   const ParameterImage before = Image();
   Last().optOVGStatus[3].UserClick();
   Last().txtNumTeeth[0].UserType("99");
   Press(Last().cmdClose);
   EXPECT_FALSE(System().Loaded());
-  EXPECT_FALSE(program.gio_page.Loaded());
+  EXPECT_FALSE(program.parameters->gio_page.Loaded());
   EXPECT_FALSE(Page().Loaded());
   EXPECT_FALSE(Last().Loaded());
   EXPECT_EQ(Image().EOL1, before.EOL1);

@@ -6,6 +6,8 @@
 #include <vector>
 
 #include "autotests/common/program_fixture.h"
+#include "session/session_part.h"
+#include "support/settings.h"
 
 namespace lorimet::testing_support {
 namespace {

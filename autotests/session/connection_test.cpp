@@ -8,6 +8,9 @@
 #include <vector>
 
 #include "autotests/common/program_fixture.h"
+#include "session/session_part.h"
+#include "support/frmRP1210Err.h"
+#include "support/settings.h"
 
 namespace lorimet::testing_support {
 namespace {
@@ -48,7 +51,7 @@ TEST_F(ConnectionTest, EachArgumentHasItsPlaceAndItsAddressLivesOnInTheRecords) 
   Setting("Vendor", "V\xE9nd");
   Setting("DeviceID", "7");
   Start();
-  SessionRecords& records = program.records;
+  SessionRecords& records = program.session->records;
   EXPECT_EQ(link.protocol, "J1708");
   EXPECT_EQ(link.vendor, "V\xE9nd");
   EXPECT_EQ(link.device_id, 7);
@@ -64,8 +67,8 @@ TEST_F(ConnectionTest, TheTextsThatTheLibraryLeavesAreKeptAndTheSettingsAreReadA
   link.protocol_out = "J1708:Baud";
   link.vendor_out = "Adapter";
   Start();
-  EXPECT_EQ(program.records.protocol, "J1708:Baud");
-  EXPECT_EQ(program.records.vendor, "Adapter");
+  EXPECT_EQ(program.session->records.protocol, "J1708:Baud");
+  EXPECT_EQ(program.session->records.vendor, "Adapter");
   Setting("Protocol", "J2497");
   Setting("DeviceID", "3");
   Main().RestartECU();
@@ -80,8 +83,8 @@ TEST_F(ConnectionTest, TextsWithoutTheirEndAreCutAtTheBuffersSize) {
   Setting("Vendor", std::string(1023, 'x'));  // the longest that the store gives
   Start();
   EXPECT_EQ(link.vendor, std::string(1023, 'x'));
-  EXPECT_EQ(program.records.protocol, std::string(1024, 'p'));
-  EXPECT_EQ(program.records.vendor, std::string(1024, 'v'));
+  EXPECT_EQ(program.session->records.protocol, std::string(1024, 'p'));
+  EXPECT_EQ(program.session->records.vendor, std::string(1024, 'v'));
 }
 
 TEST_F(ConnectionTest, EveryClientIdentifierFrom0To127IsASuccess) {
@@ -187,7 +190,7 @@ TEST_F(FailureTest, ATextWithoutItsEndFillsTheFixedLength) {
 TEST_F(FailureTest, TheHookStaysAndStatusesAreHandledOnce) {
   Fail([&] { program.Start(); });
   Main().txtError.SetText("");
-  EXPECT_EQ(hook.Current(), &program.messages);
+  EXPECT_EQ(hook.Current(), &program.session->messages);
   hook.Post(-500);
   desktop.DoEvents();
   EXPECT_EQ(desktop.Beeps(), 1);
@@ -196,11 +199,11 @@ TEST_F(FailureTest, TheHookStaysAndStatusesAreHandledOnce) {
 
 TEST_F(FailureTest, ARestartHooksOnTopOfTheHookAndMessagesStillReachTheWindow) {
   Fail([&] { program.Start(); });
-  EXPECT_EQ(program.messages.PreviousProcedure(), hook.Original());
+  EXPECT_EQ(program.session->messages.PreviousProcedure(), hook.Original());
   Main().RestartECU();
   EXPECT_TRUE(Main().bConnected);
   EXPECT_EQ(link.TakeCalls(), kConnectCalls);  // no Disconnect before it
-  EXPECT_EQ(program.messages.PreviousProcedure(), &program.messages);
+  EXPECT_EQ(program.session->messages.PreviousProcedure(), &program.session->messages);
   EXPECT_EQ(hook.Send(0x0010, 0, 41), 42);
   EXPECT_EQ(hook.ReachedOriginal(), (std::vector<std::uint32_t>{0x0010}));
   hook.Post(-500);

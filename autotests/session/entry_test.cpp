@@ -6,6 +6,10 @@
 #include <vector>
 
 #include "autotests/common/program_fixture.h"
+#include "parameters/parameters_part.h"
+#include "session/session_part.h"
+#include "support/support_part.h"
+#include "tests/tests_part.h"
 
 namespace lorimet::testing_support {
 namespace {
@@ -31,13 +35,13 @@ TEST_F(EntryTest, TheMainFormStandsBeforeTheFirstConnectAndTheErrorDialogIsLoade
     EXPECT_TRUE(Main().Restarting());
     EXPECT_EQ(Main().tmrABS.Interval(), 0);
     EXPECT_EQ(desktop.LoadedForms(), std::vector<Form*>{&Main()});
-    EXPECT_EQ(program.records.lECUFamily, 3);
+    EXPECT_EQ(program.session->records.lECUFamily, 3);
   };
   EXPECT_EQ(program.Start(), EntryResult::kRunning);
   EXPECT_EQ(hook.registered_name, "NorvickABSError");
-  EXPECT_EQ(desktop.LoadedForms(), (std::vector<Form*>{&Main(), &program.err}));
+  EXPECT_EQ(desktop.LoadedForms(), (std::vector<Form*>{&Main(), &program.support->err}));
   EXPECT_TRUE(Main().Visible());
-  EXPECT_FALSE(program.err.Visible());
+  EXPECT_FALSE(program.support->err.Visible());
   EXPECT_EQ(desktop.ModalForms(), Calls{});
   EXPECT_EQ(Main().Pointer(), MousePointer::kArrow);
   EXPECT_EQ(program.ExitStatus(), 0);
@@ -46,7 +50,7 @@ TEST_F(EntryTest, TheMainFormStandsBeforeTheFirstConnectAndTheErrorDialogIsLoade
 TEST_F(EntryTest, ARegistrationThatFailsDoesNotStopTheProgram) {
   hook.message_id = 0;
   EXPECT_EQ(program.Start(), EntryResult::kRunning);
-  EXPECT_EQ(program.messages.MessageId(), 0u);
+  EXPECT_EQ(program.session->messages.MessageId(), 0u);
   EXPECT_TRUE(Main().bConnected);
 }
 
@@ -62,15 +66,15 @@ TEST_F(EntryTest, TheMainFormStartsCentredWithItsHiddenMenuAndItsKeyPreview) {
 }
 
 TEST_F(EntryTest, TheResultsOfTheRunAreClearedBeforeTheFirstConnect) {
-  program.test_results.nPressureTest = 1;
-  program.test_results.bSensorOrder[4] = 9;
-  program.image.strTrailerVIN = "VIN";
-  program.image.bStopLightCable = true;
+  program.tests->test_results.nPressureTest = 1;
+  program.tests->test_results.bSensorOrder[4] = 9;
+  program.parameters->image.strTrailerVIN = "VIN";
+  program.parameters->image.bStopLightCable = true;
   link.on_connect = [&] {
-    EXPECT_EQ(program.test_results.nPressureTest, -1);
-    EXPECT_EQ(program.test_results.bSensorOrder[4], 0);
-    EXPECT_EQ(program.image.strTrailerVIN, "");
-    EXPECT_FALSE(program.image.bStopLightCable);
+    EXPECT_EQ(program.tests->test_results.nPressureTest, -1);
+    EXPECT_EQ(program.tests->test_results.bSensorOrder[4], 0);
+    EXPECT_EQ(program.parameters->image.strTrailerVIN, "");
+    EXPECT_FALSE(program.parameters->image.bStopLightCable);
   };
   Start();
 }
@@ -126,9 +130,9 @@ class LanguageSettingTest : public EntryTest,
 TEST_P(LanguageSettingTest, SelectsALanguageOrTheNativeOne) {
   registry.SetRaw(RegistryHive::kCurrentUser, kProductKey, "Language", GetParam().value);
   ASSERT_EQ(program.Start(), EntryResult::kRunning);
-  EXPECT_EQ(program.dictionary.Language(), GetParam().language);
+  EXPECT_EQ(program.support->dictionary.Language(), GetParam().language);
   EXPECT_EQ(Main().txtECUType.Text(), GetParam().no_data);
-  EXPECT_EQ(program.help.HelpFile(), "/program/Trailer.hlp");
+  EXPECT_EQ(program.support->help.HelpFile(), "/program/Trailer.hlp");
 }
 
 MemoryRegistry::Value Dword(const std::vector<std::uint8_t>& bytes) { return {kRegDword, bytes}; }
@@ -167,7 +171,7 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST_F(EntryTest, WithNoLanguageStoredTheProgramIsNative) {
   Start();
-  EXPECT_EQ(program.dictionary.Language(), kNative);
+  EXPECT_EQ(program.support->dictionary.Language(), kNative);
 }
 
 TEST_F(EntryTest, AMissingDictionaryLeavesEveryTextNative) {
@@ -176,7 +180,7 @@ TEST_F(EntryTest, AMissingDictionaryLeavesEveryTextNative) {
   Start();
   EXPECT_EQ(Main().txtECUType.Text(), "N/A");
   EXPECT_EQ(Main().mnuABS[7].Caption(), "&Utility");
-  EXPECT_EQ(program.help.HelpFile(), "/program/Trailer.hlp");
+  EXPECT_EQ(program.support->help.HelpFile(), "/program/Trailer.hlp");
   EXPECT_TRUE(Main().bConnected);
 }
 
@@ -192,11 +196,11 @@ TEST_F(EntryTest, TheChoiceOfALanguageIsStored) {
   Start();
   desktop.AnswerChoice(3);
   Main().SelectLanguage();
-  EXPECT_EQ(program.dictionary.Language(), kSpanish);
-  EXPECT_EQ(program.settings.GetLanguage(), 3);
+  EXPECT_EQ(program.support->dictionary.Language(), kSpanish);
+  EXPECT_EQ(program.support->settings.GetLanguage(), 3);
   desktop.AnswerChoice(std::nullopt);
   Main().SelectLanguage();
-  EXPECT_EQ(program.settings.GetLanguage(), 3);
+  EXPECT_EQ(program.support->settings.GetLanguage(), 3);
 }
 
 }  // namespace

@@ -5,6 +5,8 @@
 #include <vector>
 
 #include "autotests/common/program_fixture.h"
+#include "session/session_part.h"
+#include "support/support_part.h"
 
 namespace lorimet::testing_support {
 namespace {
@@ -25,7 +27,7 @@ class LinkErrorDialogTest : public ProgramTest {
 
 TEST_F(LinkErrorDialogTest, IsLoadedWithItsWordsAtTheCentreOfTheScreen) {
   Start();
-  const frmErr& err = program.err;
+  const frmErr& err = program.support->err;
   EXPECT_EQ(err.Caption(), "Norvick Lorimet");
   EXPECT_EQ(err.lblErr.Caption(), kWords);
   EXPECT_EQ(err.cmdOK.Caption(), "OK");
@@ -36,43 +38,43 @@ TEST_F(LinkErrorDialogTest, SpeaksTheUsersLanguage) {
   SetLanguage(kSpanish);
   Start();
   const auto& rows = translations.Rows(kSpanish);
-  EXPECT_EQ(program.err.lblErr.Caption(),
+  EXPECT_EQ(program.support->err.lblErr.Caption(),
             "La comunicación solo funciona parcialmente.\r\n" +
                 rows.at("Please check your connections between the PC") +
                 "\r\n     y la ECU ABS de remolque Norvick.");
-  EXPECT_EQ(program.err.cmdOK.Caption(), "Aceptar");
-  program.records.link_status.bLinkAttained.Store(1);
+  EXPECT_EQ(program.support->err.cmdOK.Caption(), "Aceptar");
+  program.session->records.link_status.bLinkAttained.Store(1);
   Main().tmrABS.Tick();
-  EXPECT_EQ(program.err.lblErr.Caption(),
+  EXPECT_EQ(program.support->err.lblErr.Caption(),
             rows.at("Successful connection was attained but has since been lost.") + "\r\n" +
                 rows.at("Please check connection between the PC and ECU."));
 }
 
 TEST_F(LinkErrorDialogTest, IsHiddenByItsButtonAndKeepsChangedWords) {
   Start();
-  program.err.lblErr.SetCaption("changed");
+  program.support->err.lblErr.SetCaption("changed");
   desktop.OnModal("frmErr", [](Form& form) { static_cast<frmErr&>(form).cmdOK.UserClick(); });
-  program.err.Show(Modality::kModal);
-  EXPECT_FALSE(program.err.Visible());
-  EXPECT_TRUE(program.err.Loaded());
-  EXPECT_EQ(program.err.lblErr.Caption(), "changed");
+  program.support->err.Show(Modality::kModal);
+  EXPECT_FALSE(program.support->err.Visible());
+  EXPECT_TRUE(program.support->err.Loaded());
+  EXPECT_EQ(program.support->err.lblErr.Caption(), "changed");
 }
 
 TEST_F(LinkErrorDialogTest, IsHiddenByItsControlBoxAndUnloadedByCodeOnly) {
   Start();
-  program.err.lblErr.SetCaption("changed");
+  program.support->err.lblErr.SetCaption("changed");
   desktop.OnModal("frmErr", [](Form& form) { form.UserClose(); });
-  program.err.Show(Modality::kModal);
-  EXPECT_FALSE(program.err.Visible());
-  EXPECT_TRUE(program.err.Loaded());
-  EXPECT_EQ(program.err.lblErr.Caption(), "changed");
-  EXPECT_TRUE(program.err.Unload());
-  EXPECT_FALSE(program.err.Loaded());
+  program.support->err.Show(Modality::kModal);
+  EXPECT_FALSE(program.support->err.Visible());
+  EXPECT_TRUE(program.support->err.Loaded());
+  EXPECT_EQ(program.support->err.lblErr.Caption(), "changed");
+  EXPECT_TRUE(program.support->err.Unload());
+  EXPECT_FALSE(program.support->err.Loaded());
 }
 
 TEST_F(LinkErrorDialogTest, ShowsTheWordsOfALostConnectionAtTheNextLinkError) {
   Start();
-  program.records.link_status.bLinkAttained.Store(1);
+  program.session->records.link_status.bLinkAttained.Store(1);
   desktop.Run(300);
   std::string words;
   desktop.OnModal("frmErr", [&](Form& form) {
@@ -93,14 +95,14 @@ class ConnectErrorDialogTest : public LinkErrorDialogTest {
       action(static_cast<frmRP1210Err&>(form));
       if (form.Visible()) form.Unload();
     });
-    program.rp1210_error.Show(Modality::kModal);
+    program.support->rp1210_error.Show(Modality::kModal);
   }
 };
 
 TEST_F(ConnectErrorDialogTest, TellsTheNumberAndTheDescription) {
   Start();
-  program.rp1210_error.lngRP1210Err = -2147483648;
-  program.rp1210_error.strErrorText = "Device not found" + std::string(1008, ' ');
+  program.support->rp1210_error.lngRP1210Err = -2147483648;
+  program.support->rp1210_error.strErrorText = "Device not found" + std::string(1008, ' ');
   Show([&](frmRP1210Err& dialog) {
     EXPECT_EQ(dialog.Caption(), "Norvick Lorimet");
     EXPECT_EQ(dialog.lblErr.Caption(),
@@ -119,7 +121,7 @@ TEST_F(ConnectErrorDialogTest, SpeaksTheUsersLanguageAndTranslatesTheLibrarysTex
   SetLanguage(kFrench);
   Start();
   const auto& rows = translations.Rows(kFrench);
-  program.rp1210_error.strErrorText = "None  ";
+  program.support->rp1210_error.strErrorText = "None  ";
   Show([&](frmRP1210Err& dialog) {
     EXPECT_EQ(dialog.lblErr.Caption(),
               rows.at("Communications are not working, unable to connect to the data bus."));
@@ -150,13 +152,13 @@ TEST_F(ConnectErrorDialogTest, TheDetailsButtonTogglesTheHeightAndNothingElseMov
 
 TEST_F(ConnectErrorDialogTest, IsBuiltAnewForEachFailure) {
   Start();
-  program.rp1210_error.lngRP1210Err = 1;
+  program.support->rp1210_error.lngRP1210Err = 1;
   Show([](frmRP1210Err& dialog) {
     dialog.cmdDetails.UserClick();
     dialog.cmdOK.UserClick();
   });
-  EXPECT_FALSE(program.rp1210_error.Loaded());
-  program.rp1210_error.lngRP1210Err = 2;
+  EXPECT_FALSE(program.support->rp1210_error.Loaded());
+  program.support->rp1210_error.lngRP1210Err = 2;
   Show([](frmRP1210Err& dialog) {
     EXPECT_EQ(dialog.Height(), 1812);
     EXPECT_EQ(dialog.lblRP1210ErrNum.Caption(), "Number: 2");
@@ -164,7 +166,7 @@ TEST_F(ConnectErrorDialogTest, IsBuiltAnewForEachFailure) {
     EXPECT_EQ(dialog.Height(), 3732);  // the flag began anew too
     dialog.UserClose();
   });
-  EXPECT_FALSE(program.rp1210_error.Loaded());
+  EXPECT_FALSE(program.support->rp1210_error.Loaded());
 }
 
 }  // namespace

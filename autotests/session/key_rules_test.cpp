@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include "autotests/common/program_fixture.h"
+#include "session/session_part.h"
 
 namespace lorimet::testing_support {
 namespace {

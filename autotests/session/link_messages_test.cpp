@@ -10,6 +10,8 @@
 #include "autotests/common/program_fixture.h"
 #include "platform/runtime_error.h"
 #include "session/ecu_data.h"
+#include "session/session_part.h"
+#include "support/support_part.h"
 
 namespace lorimet::testing_support {
 namespace {
@@ -26,7 +28,7 @@ class LinkMessagesTest : public ProgramTest {
   void SetUp() override { Start(); }
   std::intptr_t Status(std::int32_t status) { return hook.Send(hook.message_id, 7, status); }
   std::string Center() { return Main().txtError.Text(); }
-  std::int32_t LastError() { return program.messages.LastLinkError(); }
+  std::int32_t LastError() { return program.session->messages.LastLinkError(); }
   // The user answers the next frmErr by its button.
   void AnswerErr() {
     desktop.OnModal("frmErr", [](Form& form) { static_cast<frmErr&>(form).cmdOK.UserClick(); });
@@ -51,11 +53,11 @@ TEST_F(LinkMessagesTest, ALinkErrorWritesTheLibrarysTextWithItsBlanksAndOpensThe
   EXPECT_EQ(LastError(), -100);
   EXPECT_EQ(link.TakeCalls(), (Calls{"GetErrorText -100 256"}));
   EXPECT_EQ(desktop.ModalForms(), (Calls{"frmErr"}));
-  EXPECT_FALSE(program.err.Visible());
+  EXPECT_FALSE(program.support->err.Visible());
 }
 
 TEST_F(LinkMessagesTest, TheWordsBeforeTheErrorNumberAreTranslatedAndTheLibrarysTextIsNot) {
-  program.dictionary.SetLanguage(kFrench);
+  program.support->dictionary.SetLanguage(kFrench);
   link.error_text = [](std::int32_t, char* buffer, std::int32_t) {
     std::copy_n("None", 4, buffer);
   };
@@ -113,7 +115,7 @@ TEST_F(LinkMessagesTest, EachLostMessageBeepsAndTheTextStaysUntilTheLinkIsHealth
 TEST_F(LinkMessagesTest, ALostMessageReplacesAnErrorInTheUsersLanguage) {
   AnswerErr();
   Status(-100);
-  program.dictionary.SetLanguage(kSpanish);
+  program.support->dictionary.SetLanguage(kSpanish);
   Status(-500);
   EXPECT_EQ(Center(), "¡¡¡MENSAJE PERDIDO!!!");
   EXPECT_EQ(LastError(), -100);
@@ -206,9 +208,9 @@ struct UploadStep {
 class UploadStepTest : public LinkMessagesTest, public testing::WithParamInterface<UploadStep> {};
 
 TEST_P(UploadStepTest, IsShownUntranslatedAndAnsweredWithTheLibrarysNextStep) {
-  program.dictionary.SetLanguage(kFrench);
+  program.support->dictionary.SetLanguage(kFrench);
   std::vector<std::pair<std::string, int>> shown;
-  program.messages.show_upload_step = [&](const std::string& text, int step) {
+  program.session->messages.show_upload_step = [&](const std::string& text, int step) {
     shown.emplace_back(text, step);
   };
   link.always["UploadODRData"] = -1;  // ignored
@@ -235,7 +237,7 @@ INSTANTIATE_TEST_SUITE_P(
                     UploadStep{255, "", "UploadODRData FF51 0"}));
 
 TEST_F(LinkMessagesTest, AStepWhileTheUploadScreenIsClosedCallsTheLibraryAndLoadsNoForm) {
-  program.messages.show_upload_step = nullptr;
+  program.session->messages.show_upload_step = nullptr;
   Ecu().nODRUploadStep.Store(4);
   const std::vector<Form*> loaded = desktop.LoadedForms();
   Status(-67);

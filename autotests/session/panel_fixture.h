@@ -4,6 +4,7 @@
 #include <string>
 
 #include "autotests/common/program_fixture.h"
+#include "session/session_part.h"
 
 namespace lorimet::testing_support {
 

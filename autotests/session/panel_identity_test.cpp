@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "autotests/session/panel_fixture.h"
+#include "session/session_part.h"
 
 namespace lorimet::testing_support {
 namespace {

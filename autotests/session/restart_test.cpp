@@ -5,6 +5,8 @@
 #include <vector>
 
 #include "autotests/common/program_fixture.h"
+#include "session/session_part.h"
+#include "support/support_part.h"
 
 namespace lorimet::testing_support {
 namespace {
@@ -28,7 +30,7 @@ TEST_F(RestartTest, DisconnectsAndClearsThePanelBeforeTheNewAttempt) {
   };
   link.on_connect = [&] {
     EXPECT_FALSE(Main().bConnected);
-    EXPECT_EQ(hook.Current(), &program.messages);
+    EXPECT_EQ(hook.Current(), &program.session->messages);
     EXPECT_EQ(Main().txtWarningLamp.Text(), "N/A");
   };
   Main().RestartECU();
@@ -191,18 +193,18 @@ TEST_F(RestartTest, AFaultCountOtherThanZeroRepaintsTheIdentityAfterARestart) {
 TEST_F(RestartTest, ALinkThatWasOnceAttainedGivesTheDialogOtherWords) {
   Start();
   desktop.Run(300);
-  const std::string loaded = program.err.lblErr.Caption();
+  const std::string loaded = program.support->err.lblErr.Caption();
   EXPECT_EQ(loaded.substr(0, 48), "Communications are only partially functioning.\r\n");
-  program.records.link_status.bLinkAttained.Store(0xFF);
+  program.session->records.link_status.bLinkAttained.Store(0xFF);
   desktop.Run(300);
   const std::string lost =
       "Successful connection was attained but has since been lost.\r\n"
       "Please check connection between the PC and ECU.";
-  EXPECT_EQ(program.err.lblErr.Caption(), lost);
-  EXPECT_FALSE(program.err.Visible());
-  program.records.link_status.bLinkAttained.Store(0);
+  EXPECT_EQ(program.support->err.lblErr.Caption(), lost);
+  EXPECT_FALSE(program.support->err.Visible());
+  program.session->records.link_status.bLinkAttained.Store(0);
   desktop.Run(300);
-  EXPECT_EQ(program.err.lblErr.Caption(), lost);  // never set back
+  EXPECT_EQ(program.support->err.lblErr.Caption(), lost);  // never set back
 }
 
 }  // namespace

@@ -7,6 +7,7 @@
 
 #include "autotests/common/program_fixture.h"
 #include "platform/runtime_error.h"
+#include "session/session_part.h"
 
 namespace lorimet::testing_support {
 namespace {

@@ -11,7 +11,10 @@
 
 #include "adapters/headless/headless_desktop.h"
 #include "autotests/common/program_fixture.h"
+#include "faults/faults_part.h"
 #include "platform/forms.h"
+#include "session/session_part.h"
+#include "support/support_part.h"
 
 namespace lorimet {
 namespace {
@@ -79,7 +82,7 @@ class WordyForm : public Form {
 class DictionaryTest : public testing::Test {
  protected:
   DictionaryTest() {
-    dictionary.on_language_changed = [this] { ++changes; };
+    dictionary.on_language_changed.push_back([this] { ++changes; });
   }
   VirtualClock clock;
   HeadlessDesktop desktop{clock};
@@ -169,7 +172,7 @@ TEST_F(DictionaryTest, RaisesTheChangeAtOnceWhenItIsOpen) {
 TEST_F(DictionaryTest, HasTheNewLanguageWhenTheChangeIsRaised) {
   dictionary.Open();
   std::string seen;
-  dictionary.on_language_changed = [&] { seen = dictionary.Translate("Save"); };
+  dictionary.on_language_changed.push_back([&] { seen = dictionary.Translate("Save"); });
   dictionary.SetLanguage(kSpanish);
   EXPECT_EQ(seen, "Guardar");
 }
@@ -267,12 +270,12 @@ using SelectLanguageTest = testing_support::ProgramTest;
 
 TEST_F(SelectLanguageTest, StoresTheChoice) {
   Start();
-  const std::string english = program.fault_table[1].Name;
+  const std::string english = program.faults->fault_table[1].Name;
   desktop.AnswerChoice(kSpanish);
   Main().SelectLanguage();
-  EXPECT_EQ(program.dictionary.Language(), kSpanish);
-  EXPECT_EQ(program.settings.GetLanguage(), kSpanish);
-  EXPECT_NE(program.fault_table[1].Name, english);
+  EXPECT_EQ(program.support->dictionary.Language(), kSpanish);
+  EXPECT_EQ(program.support->settings.GetLanguage(), kSpanish);
+  EXPECT_NE(program.faults->fault_table[1].Name, english);
 }
 
 TEST_F(SelectLanguageTest, StoresNothingOnACancel) {
@@ -281,26 +284,26 @@ TEST_F(SelectLanguageTest, StoresNothingOnACancel) {
   registry.Remove(RegistryHive::kCurrentUser, kProductKey, "Language");
   desktop.AnswerChoice(std::nullopt);
   Main().SelectLanguage();
-  EXPECT_EQ(program.dictionary.Language(), kFrench);
-  EXPECT_EQ(program.settings.GetLanguage(), -1);
+  EXPECT_EQ(program.support->dictionary.Language(), kFrench);
+  EXPECT_EQ(program.support->settings.GetLanguage(), -1);
 }
 
 TEST_F(SelectLanguageTest, OpensTheDictionaryFirst) {
   desktop.AnswerChoice(std::nullopt);
   Main().SelectLanguage();
-  EXPECT_TRUE(program.dictionary.IsOpen());
+  EXPECT_TRUE(program.support->dictionary.IsOpen());
 }
 
 TEST_F(SelectLanguageTest, StartsInTheStoredLanguageOrNative) {
   for (const int stored : {0, 1, 2, 3, 4, 10, 11, 255}) {
     SetLanguage(stored);
     Main().Load();
-    EXPECT_EQ(program.dictionary.Language(), stored <= 10 ? stored : 0) << stored;
+    EXPECT_EQ(program.support->dictionary.Language(), stored <= 10 ? stored : 0) << stored;
     Main().Unload();
   }
   registry.Remove(RegistryHive::kCurrentUser, kProductKey, "Language");
   Main().Load();
-  EXPECT_EQ(program.dictionary.Language(), 0);
+  EXPECT_EQ(program.support->dictionary.Language(), 0);
 }
 
 }  // namespace

@@ -8,6 +8,8 @@
 
 #include "adapters/headless/headless_ports.h"
 #include "autotests/common/program_fixture.h"
+#include "session/session_part.h"
+#include "support/support_part.h"
 #include "support/text.h"
 
 namespace lorimet {
@@ -20,8 +22,8 @@ class HelpTest : public testing_support::ProgramTest {
  protected:
   std::string PathFor(const std::string& folder) {
     registry.SetText(RegistryHive::kLocalMachine, kProductKey, "HelpDir", folder);
-    program.help.BuildPath();
-    return program.help.HelpFile();
+    program.support->help.BuildPath();
+    return program.support->help.HelpFile();
   }
 };
 
@@ -40,26 +42,26 @@ TEST_F(HelpTest, LiesInTheProgramsFolderWithoutASetting) {
   const std::string expected = std::string("/program") + kPathSeparator + "Trailer.hlp";
   EXPECT_EQ(PathFor(""), expected);
   registry.Remove(RegistryHive::kLocalMachine, kProductKey, "HelpDir");
-  program.help.BuildPath();
-  EXPECT_EQ(program.help.HelpFile(), expected);
+  program.support->help.BuildPath();
+  EXPECT_EQ(program.support->help.HelpFile(), expected);
   // The current user's value is nobody's.
   registry.SetText(RegistryHive::kCurrentUser, kProductKey, "HelpDir", "/elsewhere");
-  program.help.BuildPath();
-  EXPECT_EQ(program.help.HelpFile(), expected);
+  program.support->help.BuildPath();
+  EXPECT_EQ(program.support->help.HelpFile(), expected);
 }
 
 TEST_F(HelpTest, IsBuiltAnewWithTheLanguage) {
   Start();
   registry.SetText(RegistryHive::kLocalMachine, kProductKey, "HelpDir", "/new/");
-  EXPECT_NE(program.help.HelpFile(), "/new/Trailer.hlp");
-  program.dictionary.SetLanguage(kFrench);
-  EXPECT_EQ(program.help.HelpFile(), "/new/Trailer.hlp");
+  EXPECT_NE(program.support->help.HelpFile(), "/new/Trailer.hlp");
+  program.support->dictionary.SetLanguage(kFrench);
+  EXPECT_EQ(program.support->help.HelpFile(), "/new/Trailer.hlp");
 }
 
 TEST_F(HelpTest, OpensAtItsContentsOrAtTheSearch) {
   const std::string file = PathFor("/opt/help/");
-  program.help.ShowContents("Title");
-  program.help.ShowSearch("Title");
+  program.support->help.ShowContents("Title");
+  program.support->help.ShowSearch("Title");
   const std::vector<RecordingHelpViewer::Call> expected = {{file, HelpCommand::kContents, ""},
                                                            {file, HelpCommand::kPartialKey, ""}};
   EXPECT_EQ(help_viewer.calls, expected);
@@ -68,8 +70,8 @@ TEST_F(HelpTest, OpensAtItsContentsOrAtTheSearch) {
 }
 
 TEST_F(HelpTest, TellsThatThereIsNoneBeforeItsPathIsBuilt) {
-  program.help.ShowContents("Title");
-  program.help.ShowSearch("Other");
+  program.support->help.ShowContents("Title");
+  program.support->help.ShowSearch("Other");
   const std::string text =
       "Unable to display Help Contents. There is no Help associated with this project.";
   EXPECT_EQ(desktop.TakeBoxes(),
@@ -81,8 +83,8 @@ TEST_F(HelpTest, TellsThatThereIsNoneBeforeItsPathIsBuilt) {
 TEST_F(HelpTest, ShowsTheErrorOfTheViewer) {
   PathFor("/opt/help/");
   help_viewer.fails_with = 53;
-  program.help.ShowContents("Title");
-  program.help.ShowSearch("Title");
+  program.support->help.ShowContents("Title");
+  program.support->help.ShowSearch("Title");
   EXPECT_EQ(desktop.TakeBoxes(),
             (Boxes{PlainBox("File not found", ""), PlainBox("File not found", "")}));
 }
@@ -101,7 +103,7 @@ TEST_F(HelpTest, IsReachedFromTheMenuUnderTheMainFormsTitle) {
 // --- The about box.
 
 TEST_F(HelpTest, AboutBoxNamesTheProgramAndItsVersion) {
-  frmAbout& about = program.about;
+  frmAbout& about = program.support->about;
   about.Load();
   EXPECT_EQ(about.Caption(), "About Lorimet");
   EXPECT_EQ(about.lblTitle.Caption(), "Norvick Lorimet");
@@ -118,16 +120,16 @@ TEST_F(HelpTest, AboutBoxNamesTheProgramAndItsVersion) {
 }
 
 TEST_F(HelpTest, AboutBoxSpeaksTheLanguage) {
-  program.dictionary.Open();
-  frmAbout& about = program.about;
+  program.support->dictionary.Open();
+  frmAbout& about = program.support->about;
   about.Load();
   const std::string description = about.lblDescription.Caption();
   const std::string disclaimer = about.lblDisclaimer.Caption();
   about.Unload();
   for (const int language : {kFrench, kSpanish}) {
-    program.dictionary.SetLanguage(language);
+    program.support->dictionary.SetLanguage(language);
     about.Load();
-    EXPECT_EQ(about.Caption(), program.dictionary.Translate("About Lorimet"));
+    EXPECT_EQ(about.Caption(), program.support->dictionary.Translate("About Lorimet"));
     EXPECT_NE(about.Caption(), "About Lorimet");
     EXPECT_NE(about.lblDescription.Caption(), description);
     EXPECT_NE(about.lblDisclaimer.Caption(), disclaimer);

@@ -8,6 +8,9 @@
 #include "adapters/qt/qt_style.h"
 #include "adapters/qt/qt_translations.h"
 #include "benchmarks/simulated_program.h"
+#include "faults/faults_part.h"
+#include "session/session_part.h"
+#include "support/support_part.h"
 
 namespace lorimet::benchmarks {
 namespace {
@@ -63,10 +66,10 @@ template <typename Change>
 void LiveDataPass(benchmark::State& state, const Change& change, int fields) {
   QtProgram qt;
   SimulatedProgram& simulated = qt.simulated;
-  simulated.program.main_form.tmrABS.SetEnabled(false);
+  simulated.program.session->main_form.tmrABS.SetEnabled(false);
   const auto pass = [&] {
     change(simulated);
-    qt.desktop.RunEvent([&] { simulated.program.main_form.UpdateLiveData(); });
+    qt.desktop.RunEvent([&] { simulated.program.session->main_form.UpdateLiveData(); });
     QtProgram::Draw();
   };
   pass();
@@ -100,7 +103,7 @@ BENCHMARK(MainWindowRepaintedAsAWhole)->Unit(benchmark::kMicrosecond);
 
 void FillFaultListRepainted(benchmark::State& state) {
   QtProgram qt;
-  frmFaults& list = qt.simulated.program.fault_list;
+  frmFaults& list = qt.simulated.program.faults->fault_list;
   qt.simulated.SetFaults(static_cast<std::size_t>(state.range(0)));
   list.Show();
   const auto pass = [&] {
@@ -122,8 +125,8 @@ void ChangeOfLanguageRepainted(benchmark::State& state) {
   for (auto _ : state) {
     language = language == kFrench ? kSpanish : kFrench;
     qt.desktop.RunEvent([&] {
-      program.dictionary.SetLanguage(language);
-      program.dictionary.TranslateForm(program.main_form);
+      program.support->dictionary.SetLanguage(language);
+      program.support->dictionary.TranslateForm(program.session->main_form);
     });
     QtProgram::Draw();
   }
@@ -134,7 +137,7 @@ BENCHMARK(ChangeOfLanguageRepainted)->Unit(benchmark::kMicrosecond);
 void TranslateCompiled(benchmark::State& state, int language, const std::string& text,
                        bool has_row) {
   QtProgram qt;
-  Dictionary& dictionary = qt.simulated.program.dictionary;
+  Dictionary& dictionary = qt.simulated.program.support->dictionary;
   dictionary.SetLanguage(language);
   if ((dictionary.Translate(text) != text) != has_row) state.SkipWithError("not that text's row");
   for (auto _ : state) benchmark::DoNotOptimize(dictionary.Translate(text));

@@ -47,7 +47,7 @@ void frmZeltMain::OnLoad() {
   Show();
   GetDesktop().DoEvents();
   if (!Loaded()) return;
-  if (reset_results) reset_results();
+  for (const auto& reset : reset_results) reset();
   RestartECU();
   if (!Loaded()) return;
   SetMousePointer(MousePointer::kArrow);

@@ -5,6 +5,8 @@
 #include <cstdint>
 #include <functional>
 #include <string>
+#include <variant>
+#include <vector>
 
 #include "platform/forms.h"
 #include "session/command_routing.h"
@@ -56,8 +58,8 @@ class frmZeltMain : public Form {
   bool MenusDisabled() const { return bMenusDisabled_; }
 
   CommandActions actions;
-  // Clears the records of the higher floors at the form's load.
-  std::function<void()> reset_results;
+  // Clear the records of the higher floors at the form's load.
+  std::vector<std::function<void()>> reset_results;
 
   // Menus.
   ControlArray<MenuItem> mnuABS{*this, "mnuABS", {0, 1, 2, 3, 4, 6, 7, 8}};
@@ -176,13 +178,27 @@ class frmZeltMain : public Form {
   std::string NoData() const;
   std::string OrNoData(double value, double shown, const char* mask) const;
 
-  void RunCommand(Command command, bool guarded);
-  void Run(Command command);
-  void RunTest(int index);
-  void ShowTestResult(int index);
-  void RunFromToolbar(Command command);
+  // When a command is refused, in silence.
+  enum class Guard {
+    kAlways,          // never refused
+    kNotRestarting,   // while a connect or close-down runs
+    kConnectedPanel,  // then too, with no connection, and while the commands are taken away
+  };
+  struct CommandRow {
+    std::function<void()>& event;
+    Guard guard;
+    std::variant<std::function<void()> CommandActions::*, void (frmZeltMain::*)()> action;
+  };
+  bool Refused(Guard guard) const;
+  void Run(std::function<void()> CommandActions::*plugged);
+  void Run(void (frmZeltMain::*own)()) { (this->*own)(); }
+  void Exit();
+  void ResetEcu();
+  void DisableBroadcast();
+  void EnableBroadcast();
+  void ShowHelpContents();
+  void ShowHelpSearch();
   void ToggleDatalog();
-  void ShowFromPanel(const std::function<void()>& show);
 
   MainFormParts parts_;
   LastShown last_shown_;

@@ -1,5 +1,4 @@
-// The commands of the main form.
-#include "platform/clock.h"
+// The commands of the main form: the menu, the toolbar and the panel's double clicks.
 #include "platform/desktop.h"
 #include "session/frmZeltMain.h"
 #include "session/link_library.h"
@@ -7,162 +6,105 @@
 #include "support/help.h"
 
 namespace lorimet {
-namespace {
 
-constexpr std::int16_t kTestPassed = 1;
-constexpr std::uint32_t kResetPause = 200;  // ms after the reset that ends a calibration
-
-constexpr std::array<const char*, 3> kPassed = {
-    "Pressure Test Passed.",
-    "Redundancy Test Passed.",
-    "Sensor Test Passed.",
-};
-constexpr std::array<const char*, 3> kFailed = {
-    "Pressure Test Failed.  Please resolve issues and run test again.",
-    "Redundancy Test Failed.  Please resolve issues and run test again.",
-    "Sensor Test Failed.  Please resolve issues and run test again.",
-};
-
-void Call(const std::function<void()>& action) {
-  if (action) action();
-}
-
-}  // namespace
-
+// One row a command: whose event it is, when it is refused, and what it does.
 void frmZeltMain::BindCommands() {
-  for (const MenuCommand& row : kMenuCommands) {
-    const std::string name = std::string(row.menu) + "_" + std::to_string(row.index);
-    static_cast<MenuItem*>(FindControl(name))->on_click = [this, row] {
-      RunCommand(row.command, row.guarded);
+  using A = CommandActions;
+  using M = frmZeltMain;
+  constexpr Guard kAlways = Guard::kAlways;
+  constexpr Guard kNotRestarting = Guard::kNotRestarting;
+  constexpr Guard kConnectedPanel = Guard::kConnectedPanel;
+  const CommandRow kCommands[] = {
+      // clang-format off
+      {mnuDiagnostics[0].on_click,         kNotRestarting,  &A::show_faults},
+      {mnuDiagnostics[1].on_click,         kNotRestarting,  &A::show_faults},
+      {mnuDiagnostics[2].on_click,         kNotRestarting,  &M::RestartECU},
+      {mnuSignOff[0].on_click,             kNotRestarting,  &A::sign_off},
+      {mnuTests[0].on_click,               kNotRestarting,  &A::pressure_test},
+      {mnuTests[1].on_click,               kNotRestarting,  &A::redundancy_test},
+      {mnuTests[2].on_click,               kNotRestarting,  &A::sensor_test},
+      {mnuTests[3].on_click,               kNotRestarting,  &A::lamp_test},
+      {mnuTests[4].on_click,               kNotRestarting,  &A::suspension_calibration},
+      {mnuTests[5].on_click,               kNotRestarting,  &A::stop_light_activation},
+      {mnuSystem[0].on_click,              kAlways,         &A::edit_parameters_from_ecu},
+      {mnuSystem[1].on_click,              kAlways,         &A::edit_parameters_from_file},
+      {mnuTools[0].on_click,               kNotRestarting,  &A::save_eeprom},
+      {mnuTools[1].on_click,               kNotRestarting,  &M::ResetEcu},
+      {mnuODR[0].on_click,                 kAlways,         &A::show_odr_overview},
+      {mnuODR[1].on_click,                 kAlways,         &A::export_odr},
+      {mnuUtility[0].on_click,             kNotRestarting,  &A::set_end_of_line_bit},
+      {mnuUtility[1].on_click,             kNotRestarting,  &A::show_bus_monitor},
+      {mnuUtility[2].on_click,             kNotRestarting,  &M::ToggleDatalog},
+      {mnuUtility[3].on_click,             kNotRestarting,  &M::DisableBroadcast},
+      {mnuUtility[4].on_click,             kNotRestarting,  &M::EnableBroadcast},
+      {mnuUtility[5].on_click,             kNotRestarting,  &A::delete_odr},
+      {mnuHelp[0].on_click,                kNotRestarting,  &M::ShowHelpContents},
+      {mnuHelp[1].on_click,                kNotRestarting,  &M::ShowHelpSearch},
+      {mnuHelp[3].on_click,                kNotRestarting,  &A::show_about},
+      {tbrABS_exit.on_click,               kNotRestarting,  &M::Exit},
+      {tbrABS_print.on_click,              kNotRestarting,  &A::print_report},
+      {tbrABS_save.on_click,               kNotRestarting,  &A::save_report},
+      {tbrABS_restart.on_click,            kNotRestarting,  &M::RestartECU},
+      {tbrABS_faults.on_click,             kNotRestarting,  &A::show_faults},
+      {tbrABS_valve.on_click,              kNotRestarting,  &A::toolbar_lamp_test},
+      {tbrABS_sensor.on_click,             kNotRestarting,  &A::toolbar_sensor_test},
+      // The notebook button has no action.
+      {tbrABS_help.on_click,               kNotRestarting,  &M::ShowHelpContents},
+      {txtExistingFaults.on_double_click,  kConnectedPanel, &A::show_faults},
+      {txtWarningLamp.on_double_click,     kConnectedPanel, &A::show_faults},
+      {txtBrake2Press.on_double_click,     kConnectedPanel, &A::panel_redundancy_test},
+      // clang-format on
+  };
+  for (const CommandRow& row : kCommands)
+    row.event = [this, guard = row.guard, action = row.action] {
+      if (!Refused(guard)) std::visit([this](auto member) { Run(member); }, action);
     };
-  }
-  for (const ToolbarCommand& row : kToolbarCommands)
-    static_cast<ToolButton*>(FindControl("tbrABS_" + std::string(row.key)))->on_click =
-        [this, row] { RunCommand(row.command, true); };
 }
 
-void frmZeltMain::RunCommand(Command command, bool guarded) {
-  if (guarded && bRestarting_) return;
-  if (command >= Command::kPressureTest && command <= Command::kStopLightActivation) {
-    RunTest(static_cast<int>(command) - static_cast<int>(Command::kPressureTest));
-  } else if (command >= Command::kExit) {
-    RunFromToolbar(command);
-  } else {
-    Run(command);
+bool frmZeltMain::Refused(Guard guard) const {
+  switch (guard) {
+    case Guard::kAlways:
+      return false;
+    case Guard::kNotRestarting:
+      return bRestarting_;
+    case Guard::kConnectedPanel:
+      return !bConnected || bRestarting_ || bMenusDisabled_;
   }
+  return true;
 }
 
-void frmZeltMain::Run(Command command) {
-  LinkLibrary& link = parts_.connection.link;
-  switch (command) {
-    case Command::kDisplayFaults:
-    case Command::kClearFaults:
-      return Call(actions.show_faults);
-    case Command::kRestart:
-      return RestartECU();
-    case Command::kSignOff:
-      return Call(actions.sign_off);
-    case Command::kParametersFromEcu:
-      Call(actions.read_parameters_from_ecu);
-      return Call(actions.show_parameters);
-    case Command::kParametersFromFile:
-      if (actions.read_parameters_from_file && actions.read_parameters_from_file())
-        Call(actions.show_parameters);
-      return;
-    case Command::kSaveEeprom:
-      return Call(actions.save_eeprom);
-    case Command::kResetEcu:
-      link.ResetECU();
-      return;
-    case Command::kOdrOverview:
-      return Call(actions.show_odr_overview);
-    case Command::kExportOdr:
-      return Call(actions.export_odr);
-    case Command::kSetEolBit:
-      return Call(actions.set_end_of_line_bit);
-    case Command::kBusMonitor:
-      return Call(actions.show_bus_monitor);
-    case Command::kToggleDatalog:
-      return ToggleDatalog();
-    case Command::kDisableBroadcast:
-    case Command::kEnableBroadcast:
-      StartEcuSession(link);
-      return SetParameterAccess(link, command == Command::kDisableBroadcast ? 1 : 0);
-    case Command::kDeleteOdr:
-      return Call(actions.delete_odr);
-    case Command::kHelpContents:
-      return parts_.help.ShowContents(Caption());
-    case Command::kHelpSearch:
-      return parts_.help.ShowSearch(Caption());
-    case Command::kAbout:
-      return Call(actions.show_about);
-    default:
-      return;
-  }
+void frmZeltMain::Run(std::function<void()> CommandActions::*plugged) {
+  if (actions.*plugged) (actions.*plugged)();
 }
 
-void frmZeltMain::RunFromToolbar(Command command) {
-  LinkLibrary& link = parts_.connection.link;
-  switch (command) {
-    case Command::kExit:
-      Unload();
-      return;
-    case Command::kSaveReport:
-      return Call(actions.save_report);
-    case Command::kPrintReport:
-      return Call(actions.print_report);
-    case Command::kToolbarLampTest:
-      StartEcuSession(link);
-      return Call(actions.show_test[3]);
-    case Command::kToolbarSensorTest:
-      StartEcuSession(link);
-      SetParameterAccess(link, 1);
-      Call(actions.show_test[2]);
-      return SetParameterAccess(link, 0);
-    default:
-      return;
-  }
+void frmZeltMain::Exit() { Unload(); }
+
+void frmZeltMain::ResetEcu() { parts_.connection.link.ResetECU(); }
+
+void frmZeltMain::DisableBroadcast() {
+  StartEcuSession(parts_.connection.link);
+  SetParameterAccess(parts_.connection.link, 1);
 }
 
-void frmZeltMain::RunTest(int index) {
-  LinkLibrary& link = parts_.connection.link;
-  StartEcuSession(link);
-  SetParameterAccess(link, 1);
-  Call(actions.show_test[static_cast<std::size_t>(index)]);
-  if (index <= 2) ShowTestResult(index);
-  if (index == 4 && actions.calibration_result && actions.calibration_result() == kTestPassed) {
-    link.ResetECU();
-    parts_.clock.Sleep(kResetPause);
-  }
-  if (index == 5 && bConnected) RestartECU();
-  SetParameterAccess(link, 0);
+void frmZeltMain::EnableBroadcast() {
+  StartEcuSession(parts_.connection.link);
+  SetParameterAccess(parts_.connection.link, 0);
 }
 
-void frmZeltMain::ShowTestResult(int index) {
-  const auto i = static_cast<std::size_t>(index);
-  const Dictionary& dictionary = parts_.connection.dictionary;
-  const bool passed = actions.test_result[i] && actions.test_result[i]() == kTestPassed;
-  MessageBox box;
-  box.text = dictionary.Translate(passed ? kPassed[i] : kFailed[i]);
-  box.title = dictionary.Translate(passed ? "Test Passed" : "Test Failed!");
-  box.icon = passed ? BoxIcon::kInformation : BoxIcon::kCritical;
-  GetDesktop().ShowMessageBox(box);
-}
+void frmZeltMain::ShowHelpContents() { parts_.help.ShowContents(Caption()); }
+
+void frmZeltMain::ShowHelpSearch() { parts_.help.ShowSearch(Caption()); }
 
 // The design's caption has its access key at another place, so the first use stops.
 void frmZeltMain::ToggleDatalog() {
   const Dictionary& dictionary = parts_.connection.dictionary;
   if (mnuUtility[2].Caption() == dictionary.Translate("Start &Datalog Only")) {
     mnuUtility[2].SetCaption(dictionary.Translate("Stop &Datalog Only"));
-    Call(actions.start_recording);
+    Run(&CommandActions::start_recording);
   } else {
     mnuUtility[2].SetCaption(dictionary.Translate("Start &Datalog Only"));
-    Call(actions.stop_recording);
+    Run(&CommandActions::stop_recording);
   }
-}
-
-void frmZeltMain::ShowFromPanel(const std::function<void()>& show) {
-  if (bConnected && !bRestarting_ && !bMenusDisabled_) Call(show);
 }
 
 void frmZeltMain::DisableMenuToolbarItems() {

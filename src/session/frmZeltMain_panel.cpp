@@ -32,9 +32,6 @@ void frmZeltMain::BindPanel() {
         &txtMainBellows, &txtSteerBellows, &txtPrimaryVolts, &txtExistingFaults, &txtError})
     box->on_got_focus = to_hidden;
   for (auto& box : txtSpeed) box->on_got_focus = to_hidden;
-  txtExistingFaults.on_double_click = [this] { ShowFromPanel(actions.show_faults); };
-  txtWarningLamp.on_double_click = [this] { ShowFromPanel(actions.show_faults); };
-  txtBrake2Press.on_double_click = [this] { ShowFromPanel(actions.show_test[1]); };
 }
 
 std::string frmZeltMain::NoData() const { return parts_.connection.dictionary.Translate("N/A"); }

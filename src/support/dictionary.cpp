@@ -41,7 +41,7 @@ void Dictionary::SetLanguage(int language) {
 void Dictionary::RaiseLanguageChanged() {
   if (!change_pending_) return;
   change_pending_ = false;
-  if (on_language_changed) on_language_changed();
+  for (const auto& handler : on_language_changed) handler();
 }
 
 std::string Dictionary::Translate(const std::string& text) const {

@@ -5,6 +5,7 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "platform/desktop.h"
 #include "platform/translation_source.h"
@@ -40,7 +41,8 @@ class Dictionary {
   // Shows the list of languages; nothing when the user cancels.
   std::optional<int> ChooseLanguage();
 
-  std::function<void()> on_language_changed;
+  // Called in this order at each change of language.
+  std::vector<std::function<void()>> on_language_changed;
 
  private:
   void RaiseLanguageChanged();

@@ -5,6 +5,9 @@
 #include <vector>
 
 #include "autotests/common/program_fixture.h"
+#include "session/session_part.h"
+#include "support/support_part.h"
+#include "tests/tests_part.h"
 
 namespace lorimet::testing_support {
 namespace {
@@ -16,12 +19,12 @@ class TestCommandsTest : public ProgramTest {
   void SetUp() override {
     Start();
     for (int i = 0; i <= 5; ++i)
-      Main().actions.show_test[static_cast<std::size_t>(i)] = [this, i] {
+      program.tests->commands.show[static_cast<std::size_t>(i)] = [this, i] {
         link.calls.push_back("test " + std::to_string(i));
-        program.test_results.nPressureTest = outcome[0];
-        program.test_results.nRedundancyTest = outcome[1];
-        program.test_results.nSensorTest = outcome[2];
-        program.test_results.nHeightCalCD = outcome[3];
+        program.tests->test_results.nPressureTest = outcome[0];
+        program.tests->test_results.nRedundancyTest = outcome[1];
+        program.tests->test_results.nSensorTest = outcome[2];
+        program.tests->test_results.nHeightCalCD = outcome[3];
       };
   }
   static Calls Around(const std::string& test, const Calls& after = {}) {
@@ -68,7 +71,7 @@ TEST_F(TestCommandsTest, AnyOtherOutcomeIsAFailureACancelledTestIncluded) {
 }
 
 TEST_F(TestCommandsTest, TheResultSpeaksTheUsersLanguage) {
-  program.dictionary.SetLanguage(kFrench);
+  program.support->dictionary.SetLanguage(kFrench);
   const auto& rows = translations.Rows(kFrench);
   Main().mnuTests[0].UserClick();
   outcome[2] = 1;
@@ -129,8 +132,26 @@ TEST_F(TestCommandsTest, ServicesThatFailAreTriedFourTimesAndTheTestRunsNoneTheL
   EXPECT_EQ(link.TakeCalls(), expected);
 }
 
+TEST_F(TestCommandsTest, TheToolbarsLampTestUsesNoParameterAccess) {
+  Main().tbrABS_valve.UserClick();
+  EXPECT_EQ(link.TakeCalls(), (Calls{"StartSession 83", "Password", "test 3"}));
+}
+
+TEST_F(TestCommandsTest, TheToolbarsSensorTestTellsNoOutcome) {
+  for (const std::int16_t result : {1, 0}) {
+    outcome[2] = result;
+    Main().tbrABS_sensor.UserClick();
+    EXPECT_EQ(link.TakeCalls(), Around("test 2"));
+  }
+}
+
+TEST_F(TestCommandsTest, ADoubleClickOnBrakeSide2ShowsTheBareRedundancyTest) {
+  Main().txtBrake2Press.UserDoubleClick();
+  EXPECT_EQ(link.TakeCalls(), Calls{"test 1"});
+}
+
 TEST_F(TestCommandsTest, ThePanelIsPaintedBehindAScreen) {
-  Main().actions.show_test[3] = [&] {
+  program.tests->commands.show[3] = [&] {
     Ecu().dServiceBrake.Store(7.0);
     desktop.Run(300);
     EXPECT_EQ(Main().txtServiceBrake.Text(), "7.0");

@@ -1,0 +1,83 @@
+#include "tests/test_commands.h"
+
+#include "platform/clock.h"
+#include "platform/desktop.h"
+#include "session/frmZeltMain.h"
+#include "session/link_library.h"
+#include "support/dictionary.h"
+
+namespace lorimet {
+namespace {
+
+constexpr std::uint32_t kResetPause = 200;  // ms after the reset that ends a calibration
+
+// The tests whose outcome is told.
+struct TestWords {
+  const char* passed;
+  const char* failed;
+};
+constexpr std::array<TestWords, 3> kWords = {{
+    {"Pressure Test Passed.", "Pressure Test Failed.  Please resolve issues and run test again."},
+    {"Redundancy Test Passed.",
+     "Redundancy Test Failed.  Please resolve issues and run test again."},
+    {"Sensor Test Passed.", "Sensor Test Failed.  Please resolve issues and run test again."},
+}};
+
+}  // namespace
+
+void TestCommands::Show(VehicleTest test) const {
+  const std::function<void()>& screen = show[static_cast<std::size_t>(test)];
+  if (screen) screen();
+}
+
+void TestCommands::RunTest(VehicleTest test) {
+  StartEcuSession(parts_.link);
+  SetParameterAccess(parts_.link, 1);
+  Show(test);
+  AfterTest(test);
+  SetParameterAccess(parts_.link, 0);
+}
+
+void TestCommands::AfterTest(VehicleTest test) {
+  switch (test) {
+    case VehicleTest::kPressure:
+      return ShowTestResult(test, parts_.results.nPressureTest);
+    case VehicleTest::kRedundancy:
+      return ShowTestResult(test, parts_.results.nRedundancyTest);
+    case VehicleTest::kSensor:
+      return ShowTestResult(test, parts_.results.nSensorTest);
+    case VehicleTest::kLamp:
+      return;  // the answer was one of the screen's own two buttons
+    case VehicleTest::kSuspensionCalibration:
+      if (parts_.results.nHeightCalCD != kTestPassed) return;
+      parts_.link.ResetECU();
+      return parts_.clock.Sleep(kResetPause);
+    case VehicleTest::kStopLightActivation:
+      if (parts_.main_form.bConnected) parts_.main_form.RestartECU();
+      return;
+  }
+}
+
+void TestCommands::RunLampTestFromToolbar() {
+  StartEcuSession(parts_.link);
+  Show(VehicleTest::kLamp);
+}
+
+void TestCommands::RunSensorTestFromToolbar() {
+  StartEcuSession(parts_.link);
+  SetParameterAccess(parts_.link, 1);
+  Show(VehicleTest::kSensor);
+  SetParameterAccess(parts_.link, 0);
+}
+
+void TestCommands::ShowTestResult(VehicleTest test, std::int16_t result) {
+  const bool passed = result == kTestPassed;
+  const TestWords& words = kWords[static_cast<std::size_t>(test)];
+  MessageBox box;
+  box.text = parts_.dictionary.Translate(passed ? words.passed : words.failed);
+  box.title = parts_.dictionary.Translate(passed ? "Test Passed" : "Test Failed!");
+  box.icon = passed ? BoxIcon::kInformation : BoxIcon::kCritical;
+  parts_.desktop.ShowMessageBox(box);
+}
+
+}  // namespace lorimet
