@@ -2,6 +2,7 @@
 """Watches what no compiler watches: the floors of the source tree and the words in it.
 
     tools/layer_check.py [root]        prints one line a finding; ends with 1 when there is one
+    tools/layer_check.py --drawn       prints what the .ui files draw, one widget or action a line
 
 The floors, the lowest first; a file includes its own folder and the floors below it:
 
@@ -27,12 +28,13 @@ up        An include points down. Nothing in src/ includes simulator/. simulator
           simulator/ add one another and their platform, and only simulator/bench may use Qt.
 missing   An include in double quotes names a file of the project (but for Qt's generated ui_*.h and
           *.moc).
-circle    No file includes itself by way of others.
-ui        src/*/frmX.ui and src/*/frmX.h own the same controls. On the side of the .ui, a control is
-          a widget or an action whose name begins as a control's does (CONTROL_NAME below). Exempt
-          are decorations, which no code touches: names that begin with `static` or end in
-          `_caption`; and the bars themselves (QToolBar, QMenuBar), whose buttons and menus are
-          controls. On the side of the header, a control is a member of one of these forms, in the
+circle    No module includes itself by way of others; a header with its source is one module. A
+          circle within a set of PERMITTED_CIRCLES is let pass.
+ui        src/*/frmX.ui and src/*/frmX.h own the same controls, each of a kind that its widget can
+          show. On the side of the .ui, a widget is a control by its class, as WIDGETS says; a class
+          that it does not list is none of this program's. Exempt are decorations, which no code
+          touches: labels, frames and group boxes whose names begin with `static` or end in
+          `_caption`. On the side of the header, a control is a member of one of these forms, in the
           form's class or in a class of the project that it derives from:
               TextBox txtSupply{*this, "txtSupply"};
               TextBox txtSupply{*this, "txtSupply", 2};            item txtSupply_2
@@ -41,6 +43,14 @@ ui        src/*/frmX.ui and src/*/frmX.h own the same controls. On the side of t
               ToolButton tbrABS_exit{*this, "tbrABS", "exit"};               tbrABS_exit
           A count may be a constexpr int of the same header. Timers have no widget. The window
           carries the form's name.
+kinds     The kinds of controls are the thirteen of KINDS. A screen that seems to need another one
+          is made of these.
+ports     The table of ports in ARCHITECTURE.md is true: its first column names a header of src/, and
+          each further column, but for the one that says what the port is, at least one class that
+          derives from a class of that header, or says "not yet". Every header of src/platform that
+          declares an interface is in the table.
+budget    A folder of BUDGETS has no more lines than it says. What belongs to the toolkit is left to
+          the toolkit: before a budget grows, see what can go.
 word      No line holds what FORBIDDEN lists.
 """
 
@@ -80,14 +90,60 @@ cstdint cstdio cstdlib cstring ctime cuchar cwchar cwctype
 assert.h ctype.h errno.h float.h limits.h math.h stddef.h stdint.h stdio.h stdlib.h string.h time.h
 """.split())
 
-CONTROL_NAME = re.compile(
-    r"(txt|lbl|cmd|opt|chk|fra|frame|pic|img|mnu|tbr|grd|tmr|tab|sst|dxg|cbo|lst|prg"
-    r"|Progress|Timer|Label|Frame|Command|Picture|Image|Text|Option|Check)"
-    r"(?=[A-Z0-9_]|$)")
+# Modules that may include one another in a circle, and why.
+PERMITTED_CIRCLES = (
+    # A control knows its form, a form its desktop, and the desktop shows forms.
+    {"src/platform/controls", "src/platform/forms", "src/platform/desktop"},
+    # Each page of the wizard leads to others, forth and back.
+    {"src/parameters/frmGIOSelection", "src/parameters/frmOVGParm1",
+     "src/parameters/frmOVGParm2", "src/parameters/frmOVGParm3"},
+    # One factory makes the bindings, which know how they are made.
+    {"src/adapters/qt/qt_binding", "src/adapters/qt/qt_grid_binding",
+     "src/adapters/qt/qt_text_binding", "src/adapters/qt/qt_widget_binding"},
+    # The desktop shows views, and a view's events run on the desktop.
+    {"src/adapters/qt/qt_desktop", "src/adapters/qt/qt_form_view"},
+)
+
+KINDS = ("TextBox", "Label", "Frame", "Button", "OptionButton", "CheckBox", "Picture",
+         "ProgressBar", "Timer", "MenuItem", "ToolButton", "DataGrid", "TabStrip")
+ANY_KIND = "|".join(KINDS)
+# The widgets of a .ui file, and which kinds of control each can show.
+WIDGETS = {
+    "QLineEdit": ("TextBox",),
+    "QPlainTextEdit": ("TextBox",),
+    "QTextEdit": ("TextBox",),
+    "QLabel": ("Label", "Picture"),
+    "QGroupBox": ("Frame",),
+    "QPushButton": ("Button",),
+    "QToolButton": ("Button",),
+    "QRadioButton": ("OptionButton",),
+    "QCheckBox": ("CheckBox",),
+    "QProgressBar": ("ProgressBar",),
+    "QTableWidget": ("DataGrid",),
+    "QTabBar": ("TabStrip",),
+    "QMenu": ("MenuItem",),
+    "QAction": ("MenuItem", "ToolButton"),
+}
+# Widgets that hold others: a control where the form's class owns it, nothing otherwise.
+CONTAINERS = {
+    "QWidget": ("Frame", "Picture"),
+    "QFrame": ("Frame", "Picture"),
+    "QScrollArea": ("Frame",),
+    "QStackedWidget": ("Frame",),
+    "QToolBar": (),
+    "QMenuBar": (),
+}
 DECORATION = re.compile(r"static|.*_caption$")
-BARS = ("QToolBar", "QMenuBar")
-KINDS = ("TextBox|Label|Frame|Button|OptionButton|CheckBox|Picture|ProgressBar|Timer|MenuItem"
-         "|ToolButton|DataGrid|TabStrip")
+DECORATIONS = ("QLabel", "QGroupBox", "QFrame")
+
+# The most lines that a folder's headers and sources may have.
+BUDGETS = {
+    "src/platform": 2000,
+    "src/adapters/qt": 4200,
+    "src/adapters/posix": 2500,
+    "src/adapters/windows": 1800,
+    "src/adapters/headless": 1700,
+}
 
 # Patterns are written so that this file does not match itself.
 FORBIDDEN = (
@@ -210,27 +266,60 @@ def check_up(tree):
                 yield f"{name}:{line}: up: {name} must not include {target}"
 
 
-def check_circles(tree):
-    state = {}
-    found = []
+def module(name):
+    return name.rsplit(".", 1)[0]
 
-    def visit(name, trail):
-        state[name] = "open"
-        for _, quoted, header in tree.includes.get(name, ()):
+
+def modules(tree):
+    """Module -> the modules that it includes."""
+    graph = {}
+    for name, includes in tree.includes.items():
+        mine = graph.setdefault(module(name), set())
+        for _, quoted, header in includes:
             target = tree.resolve(name, header) if quoted else None
-            if target is None:
-                continue
-            if state.get(target) == "open":
-                circle = trail[trail.index(target):] if target in trail else [name]
-                found.append(f"{target}:1: circle: {' -> '.join(circle + [target])}")
-            elif target not in state:
-                visit(target, trail + [target])
-        state[name] = "done"
+            if target and module(target) != module(name):
+                mine.add(module(target))
+    return graph
 
-    for name in tree.includes:
-        if name not in state:
-            visit(name, [name])
-    return found
+
+def reached_from(graph, start):
+    seen, stack = set(), list(graph.get(start, ()))
+    while stack:
+        name = stack.pop()
+        if name not in seen:
+            seen.add(name)
+            stack += graph.get(name, ())
+    return seen
+
+
+def circles(graph):
+    """The largest sets of modules in which each reaches each other, sorted."""
+    reached = {name: reached_from(graph, name) for name in graph}
+    found = {frozenset(other for other in reached[name] if name in reached.get(other, ()))
+             for name in graph if name in reached[name]}
+    return sorted(sorted(circle) for circle in found)
+
+
+def road(graph, circle):
+    """One way round a circle, from its first module back to it."""
+    start, trails, seen = circle[0], [[circle[0]]], set()
+    for trail in trails:
+        for name in sorted(graph[trail[-1]]):
+            if name == start:
+                return trail + [start]
+            if name in circle and name not in seen:
+                seen.add(name)
+                trails.append(trail + [name])
+    return circle
+
+
+def check_circles(tree):
+    graph = modules(tree)
+    for circle in circles(graph):
+        if not any(set(circle) <= permitted for permitted in PERMITTED_CIRCLES):
+            others = sorted(set(circle) - set(road(graph, circle)))
+            more = f" (and {', '.join(others)})" if others else ""
+            yield f"{circle[0]}:1: circle: {' -> '.join(road(graph, circle))}{more}"
 
 
 def class_bodies(text):
@@ -245,10 +334,10 @@ def class_bodies(text):
 
 
 ARRAY = re.compile(
-    r"\bControlArray<\s*(" + KINDS + r")\s*>\s+\w+\s*\{\s*\*this\s*,\s*\"([^\"]+)\"\s*,"
+    r"\bControlArray<\s*(" + ANY_KIND + r")\s*>\s+\w+\s*\{\s*\*this\s*,\s*\"([^\"]+)\"\s*,"
     r"\s*(\{[^}]*\}|\w+)\s*\}")
 SINGLE = re.compile(
-    r"\b(" + KINDS + r")\s+\w+\s*\{\s*\*this\s*,\s*\"([^\"]+)\"\s*(?:,\s*(\"[^\"]*\"|\w+)\s*)?\}")
+    r"\b(" + ANY_KIND + r")\s+\w+\s*\{\s*\*this\s*,\s*\"([^\"]+)\"\s*(?:,\s*(\"[^\"]*\"|\w+)\s*)?\}")
 
 
 def number(word, text):
@@ -260,7 +349,7 @@ def number(word, text):
 
 
 def declared_controls(body, text):
-    """(names with a widget, words that are no number) of one class."""
+    """((name, kind) of each control with a widget, words that are no number) of one class."""
     names, unknown = [], []
     for kind, name, extent in ARRAY.findall(body):
         if extent.startswith("{"):
@@ -272,23 +361,24 @@ def declared_controls(body, text):
         if None in indices:
             unknown.append(f"{name}: {extent}")
         elif kind != "Timer":
-            names += [f"{name}_{i}" for i in indices]
+            names += [(f"{name}_{i}", kind) for i in indices]
     for kind, name, extra in SINGLE.findall(body):
         if kind == "Timer":
             continue
         if not extra:
-            names.append(name)
+            names.append((name, kind))
         elif extra.startswith('"'):
-            names.append(f"{name}_{extra[1:-1]}")
+            names.append((f"{name}_{extra[1:-1]}", kind))
         elif number(extra, text) is None:
             unknown.append(f"{name}: {extra}")
         else:
-            names.append(f"{name}_{number(extra, text)}")
+            names.append((f"{name}_{number(extra, text)}", kind))
     return names, unknown
 
 
 def controls_of_form(tree, header):
-    """The controls of the form in a header, its base classes' included."""
+    """((name, kind) of the controls, words that are no number) of the form in a header, its base
+    classes' included."""
     form = Path(header).stem
     names, unknown, seen = [], [], set()
 
@@ -324,14 +414,17 @@ def reachable(tree, file):
     return sorted(seen)
 
 
-def drawn_controls(path):
-    """(the window's name, the widgets and actions of a .ui file, those of them that are named as
-    controls are)."""
+def drawn_widgets(path):
+    """(the window's name, (name, class) of each widget and action inside it) of a .ui file."""
     top = xml.etree.ElementTree.parse(path).getroot().find("widget")
     elements = [e for e in top.iter() if e.tag in ("widget", "action") and e is not top]
-    controls = [e.get("name", "") for e in elements if e.get("class") not in BARS]
-    controls = [n for n in controls if CONTROL_NAME.match(n) and not DECORATION.match(n)]
-    return top.get("name"), [e.get("name", "") for e in elements], controls
+    return top.get("name"), [
+        (e.get("name", ""), e.get("class", "QAction" if e.tag == "action" else ""))
+        for e in elements]
+
+
+def must_be_owned(name, widget):
+    return widget in WIDGETS and not (widget in DECORATIONS and DECORATION.match(name))
 
 
 def check_ui(tree):
@@ -345,7 +438,7 @@ def check_ui(tree):
             yield f"{ui}:1: ui: the form has no class beside it"
             continue
         try:
-            window, drawn, controls = drawn_controls(tree.root / ui)
+            window, drawn = drawn_widgets(tree.root / ui)
         except (xml.etree.ElementTree.ParseError, AttributeError) as error:
             yield f"{ui}:1: ui: cannot be read: {error}"
             continue
@@ -354,16 +447,99 @@ def check_ui(tree):
         declared, unknown = controls_of_form(tree, header)
         for word in unknown:
             yield f"{header}:1: ui: the extent of {word} is no number that stands in this header"
-        for name in sorted({n for n in declared if declared.count(n) > 1}):
-            yield f"{header}:1: ui: {name} is declared twice"
-        for name in sorted({n for n in drawn if drawn.count(n) > 1}):
-            yield f"{ui}:1: ui: {name} is drawn twice"
-        extents = tuple(word.split(":")[0] + "_" for word in unknown)
-        for name in sorted(set(controls) - set(declared)):
-            if not (extents and name.startswith(extents)):
-                yield f"{ui}:1: ui: {Path(ui).stem} does not own {name}"
-        for name in sorted(set(declared) - set(drawn)):
-            yield f"{header}:1: ui: {name} is not drawn in the .ui file"
+        yield from compare_ui(ui, header, drawn, declared,
+                              tuple(word.split(":")[0] + "_" for word in unknown))
+
+
+def twice(names):
+    return sorted({n for n in names if names.count(n) > 1})
+
+
+def compare_ui(ui, header, drawn, declared, unread):
+    """`unread` are the beginnings of names that the header may declare beyond `declared`."""
+    for name in twice([name for name, _ in declared]):
+        yield f"{header}:1: ui: {name} is declared twice"
+    for name in twice([name for name, _ in drawn]):
+        yield f"{ui}:1: ui: {name} is drawn twice"
+    kinds, widgets = dict(declared), dict(drawn)
+    for name, widget in sorted(set(drawn)):
+        if widget not in WIDGETS and widget not in CONTAINERS:
+            yield f"{ui}:1: ui: {name} is a {widget}, which is no widget of this program"
+        elif name in kinds:
+            if kinds[name] not in WIDGETS.get(widget, CONTAINERS.get(widget)):
+                yield f"{ui}:1: ui: {name} is a {widget}, which shows no {kinds[name]}"
+        elif must_be_owned(name, widget) and not (unread and name.startswith(unread)):
+            yield f"{ui}:1: ui: {Path(ui).stem} does not own {name}"
+    for name in sorted(set(kinds) - set(widgets)):
+        yield f"{header}:1: ui: {name} is not drawn in the .ui file"
+
+
+def check_kinds(tree):
+    file = "src/platform/controls.h"
+    m = re.search(r"\benum class ControlKind\s*\{([^}]*)\}", tree.text.get(file, ""))
+    if m:
+        kinds = re.findall(r"\bk(\w+)", m[1])
+        for kind in sorted(set(kinds) ^ set(KINDS)):
+            yield f"{file}:1: kinds: {kind} is {'new' if kind in kinds else 'gone'}"
+
+
+def classes_of(tree, file):
+    """Class name -> its bases, of one file."""
+    return {name: bases for name, bases, _ in class_bodies(tree.text.get(file, ""))}
+
+
+def table_rows(text, heading):
+    """(line, cells) of the first table below a heading, its two head lines left out."""
+    rows, inside = [], False
+    for line, row in enumerate(text.splitlines(), 1):
+        if row.startswith("#"):
+            inside = row.lstrip("# ") == heading
+        elif inside and row.startswith("|"):
+            rows.append((line, [cell.strip() for cell in row.strip("|").split("|")]))
+    return rows[2:]
+
+
+def check_ports(tree):
+    page = tree.root / "ARCHITECTURE.md"
+    if not page.is_file():
+        return
+    bases = {}
+    for file in tree.text:
+        for name, more in classes_of(tree, file).items():
+            bases.setdefault(name, set()).update(more)
+    named = set()
+    for line, cells in table_rows(page.read_text(encoding="utf-8"), "Ports and adapters"):
+        here = f"ARCHITECTURE.md:{line}: ports:"
+        m = re.fullmatch(r"`([\w/]+\.h)`", cells[0])
+        header = "src/" + m[1] if m else ""
+        if header not in tree.text:
+            yield f"{here} {cells[0]} is no header of src/"
+            continue
+        named.add(header)
+        ports = set(classes_of(tree, header))
+        for cell in cells[2:]:
+            sides = re.findall(r"`(\w+)`", cell)
+            if not sides and cell != "not yet":
+                yield f"{here} \"{cell}\" names no class for {cells[0]}"
+            for side in sides:
+                if not bases.get(side, set()) & ports:
+                    yield f"{here} no class {side} derives from a class of {cells[0]}"
+    for file, text in sorted(tree.text.items()):
+        if (re.match(r"src/platform/\w+\.h$", file) and file not in named and
+                re.search(r"\bvirtual\b[^;{]*=\s*0\s*;", text)):
+            yield f"{file}:1: ports: the table of ports in ARCHITECTURE.md lacks it"
+
+
+def lines_of(tree, folder):
+    return sum(len((tree.root / name).read_bytes().splitlines()) for name in tree.text
+               if name.rpartition("/")[0] == folder)
+
+
+def check_budgets(tree):
+    for folder, most in BUDGETS.items():
+        lines = lines_of(tree, folder)
+        if lines > most:
+            yield f"{folder}:1: budget: {lines} lines, and {most} are allowed"
 
 
 def project_files(root):
@@ -395,17 +571,32 @@ def check_words(root):
 def findings(root):
     tree = Tree(root)
     result = []
-    for check in (check_toolkit, check_up, check_circles, check_ui):
+    for check in (check_toolkit, check_up, check_circles, check_ui, check_kinds, check_ports,
+                  check_budgets):
         result += check(tree)
     result += check_words(Path(root))
     return result
 
 
+def print_drawn(root):
+    for path in sorted((root / "src").glob("*/*.ui"), key=lambda p: p.stem):
+        for name, widget in sorted(drawn_widgets(path)[1]):
+            print(path.stem, widget, name)
+
+
 def main(arguments):
-    root = Path(arguments[0]) if arguments else Path(__file__).resolve().parent.parent
+    root = Path(__file__).resolve().parent.parent
+    if arguments == ["--drawn"]:
+        print_drawn(root)
+        return 0
+    if arguments:
+        root = Path(arguments[0])
     result = findings(root)
     for finding in result:
         print(finding)
+    tree = Tree(root)
+    print("lines: " + ", ".join(f"{folder} {lines_of(tree, folder)} of {most}"
+                                for folder, most in BUDGETS.items()))
     if result:
         print(f"layer check: {len(result)} finding(s)")
         return 1

@@ -213,8 +213,38 @@ class LayerCheckTest(unittest.TestCase):
         self.write("src/support/a.h", '#include "support/b.h"\n')
         self.write("src/support/b.h", '#include "support/c.h"\n')
         self.write("src/support/c.h", '#include "support/a.h"\n')
-        self.assert_finds("circle: src/support/a.h -> src/support/b.h -> src/support/c.h -> "
-                          "src/support/a.h")
+        self.assert_finds("circle: src/support/a -> src/support/b -> src/support/c -> "
+                          "src/support/a")
+
+    def test_a_header_with_its_source_is_one_module(self):
+        self.write("src/support/a.h", "")
+        self.write("src/support/a.cpp", '#include "support/a.h"\n#include "support/b.h"\n')
+        self.write("src/support/b.h", "")
+        self.assert_clean()
+        self.write("src/support/b.cpp", '#include "support/b.h"\n#include "support/a.h"\n')
+        self.assert_finds("circle: src/support/a -> src/support/b -> src/support/a")
+
+    def test_each_circle_is_found_by_itself(self):
+        for folder in ("support", "session"):
+            self.write(f"src/{folder}/a.h", f'#include "{folder}/b.h"\n')
+            self.write(f"src/{folder}/b.h", f'#include "{folder}/a.h"\n')
+        self.assertEqual(len(self.findings()), 2)
+
+    def test_a_wider_circle_names_all_who_run_in_it(self):
+        for name, to in (("a", "bc"), ("b", "a"), ("c", "a")):
+            self.write(f"src/support/{name}.h",
+                       "".join(f'#include "support/{other}.h"\n' for other in to))
+        self.assert_finds("circle: src/support/a -> src/support/b -> src/support/a "
+                          "(and src/support/c)")
+
+    def test_a_permitted_circle_is_let_pass_and_no_wider_one(self):
+        self.write("src/parameters/frmOVGParm1.cpp", '#include "parameters/frmOVGParm2.cpp"\n')
+        self.write("src/parameters/frmOVGParm2.cpp", '#include "parameters/frmOVGParm1.cpp"\n')
+        self.assert_clean()
+        self.write("src/parameters/other.cpp", '#include "parameters/frmOVGParm1.cpp"\n')
+        self.assert_clean()
+        self.write("src/parameters/frmOVGParm2.cpp", '#include "parameters/other.cpp"\n')
+        self.assert_finds("circle", "src/parameters/other")
 
     def test_two_roads_to_one_file_are_no_circle(self):
         self.write("src/support/a.h", '#include "support/b.h"\n#include "support/c.h"\n')
@@ -237,7 +267,7 @@ class LayerCheckTest(unittest.TestCase):
              'OptionButton optA{*this, "optA", 3};',
              'Timer Timer1{*this, "Timer1"};'],
             "QLineEdit txtSupply", "QLineEdit txtSpeed_0", "QLineEdit txtSpeed_1",
-            "QLabel lblRow_1", "QLabel lblRow_4", "QToolButton tbrABS_exit",
+            "QLabel lblRow_1", "QLabel lblRow_4", "QAction tbrABS_exit",
             "QRadioButton optA_3")
         self.assert_clean()
 
@@ -257,8 +287,41 @@ class LayerCheckTest(unittest.TestCase):
         self.screen(['TextBox txtSupply{*this, "txtSupply"};'])
         self.assert_finds("src/tests/frmPage.h:1: ui", "txtSupply is not drawn")
 
-    def test_a_control_of_an_unusual_name_is_drawn_all_the_same(self):
-        self.screen(['Frame LeverFrame{*this, "LeverFrame"};'], "QGroupBox LeverFrame")
+    def test_a_control_is_known_by_its_class_whatever_its_name(self):
+        drawn = ("QLabel TirePic", "QLineEdit TireTxt", "QLineEdit textOrder",
+                 "QPushButton StartButton", "QLabel bmpABS", "QTabBar tbsOptions",
+                 "QGroupBox LeverLengthFrame", "QTableWidget w1", "QProgressBar w2",
+                 "QRadioButton w3", "QCheckBox w4", "QMenu w5", "QPlainTextEdit w6")
+        for one in drawn:
+            with self.subTest(one):
+                self.screen([], one)
+                self.assert_finds("src/tests/frmPage.ui:1: ui",
+                                  "does not own " + one.split(" ")[1])
+
+    def test_a_widget_of_another_class_is_found(self):
+        for one in ("QComboBox cboA", "QSpinBox txtA", "HomeMade thing"):
+            with self.subTest(one):
+                self.screen([], one)
+                self.assert_finds("no widget of this program", one.split(" ")[0])
+
+    def test_a_widget_shows_the_kinds_that_it_can_show(self):
+        for kind, widget, fits in (
+                ("Label", "QLabel", True), ("Picture", "QLabel", True),
+                ("TextBox", "QLabel", False), ("TextBox", "QLineEdit", True),
+                ("Button", "QCheckBox", False), ("OptionButton", "QRadioButton", True),
+                ("OptionButton", "QCheckBox", False), ("Frame", "QWidget", True),
+                ("Frame", "QToolBar", False), ("DataGrid", "QTableWidget", True)):
+            with self.subTest(f"{kind} {widget}"):
+                self.screen([f'{kind} x{{*this, "x"}};'], f"{widget} x")
+                if fits:
+                    self.assert_clean()
+                else:
+                    self.assert_finds(f"x is a {widget}, which shows no {kind}")
+
+    def test_a_container_has_an_owner_or_none(self):
+        self.screen([], "QWidget centre", "QFrame line", "QScrollArea area")
+        self.assert_clean()
+        self.screen(['Frame area{*this, "area"};'], "QScrollArea area")
         self.assert_clean()
 
     def test_a_gap_in_an_array_is_found(self):
@@ -271,9 +334,15 @@ class LayerCheckTest(unittest.TestCase):
         self.assert_finds("does not own txtSupply")
 
     def test_decorations_and_bars_have_no_owner(self):
-        self.screen([], "QLabel lblSupply_caption", "QLabel staticArrow", "QToolBar tbrABS",
-                    "QWidget centre", "QLabel line1")
+        self.screen([], "QLabel lblSupply_caption", "QLabel staticArrow", "QGroupBox staticBox",
+                    "QToolBar tbrABS", "QMenuBar menuBar", "QWidget centre")
         self.assert_clean()
+
+    def test_what_takes_input_is_no_decoration(self):
+        for one in ("QLineEdit staticText", "QPushButton cmdStart_caption"):
+            with self.subTest(one):
+                self.screen([], one)
+                self.assert_finds("does not own")
 
     def test_a_member_broken_over_lines_is_read(self):
         self.screen(['ControlArray<TextBox> txtSpeed{\n      *this, "txtSpeed",\n      {0,\n 1}};'],
@@ -329,6 +398,67 @@ class LayerCheckTest(unittest.TestCase):
         self.write("src/tests/frmPage.h", form("frmPage"))
         self.write("src/tests/frmPage.ui", "<ui>")
         self.assert_finds("cannot be read")
+
+    # The kinds of controls, the ports, the budgets.
+
+    KINDS = ("kTextBox", "kLabel", "kFrame", "kButton", "kOptionButton", "kCheckBox", "kPicture",
+             "kProgressBar", "kTimer", "kMenuItem", "kToolButton", "kDataGrid", "kTabStrip")
+
+    def test_the_kinds_of_controls_are_thirteen(self):
+        def write(kinds):
+            self.write("src/platform/controls.h",
+                       "enum class ControlKind {\n  " + ",\n  ".join(kinds) + ",\n};\n")
+        write(self.KINDS)
+        self.assert_clean()
+        write(self.KINDS + ("kSlider",))
+        self.assert_finds("src/platform/controls.h:1: kinds: Slider is new")
+        write(self.KINDS[1:])
+        self.assert_finds("src/platform/controls.h:1: kinds: TextBox is gone")
+
+    PORT = "class Clock {\n public:\n  virtual void Sleep(int ms) = 0;\n};\n"
+
+    def ports(self, *rows):
+        self.write("ARCHITECTURE.md", "# House\n\n| `x.h` | another table |\n|---|---|\n\n"
+                   "## Ports and adapters\n\nWords.\n\n| Port | What | Linux | Tests |\n"
+                   "|---|---|---|---|\n" + "".join(f"| {row} |\n" for row in rows) +
+                   "\n## Next\n\n| a | b |\n|---|---|\n| `c` | d |\n")
+
+    def clocks(self):
+        self.write("src/platform/clock.h", self.PORT)
+        self.write("src/adapters/qt/qt_clock.h", "class QtClock : public Clock {};\n")
+        self.write("autotests/a_test.cpp",
+                   "class Stopped : public Base, public Clock {};\nclass Other {};\n")
+
+    def test_a_true_table_of_ports_is_let_pass(self):
+        self.clocks()
+        self.ports("`platform/clock.h` | sleeps | `QtClock`, real | `Stopped`")
+        self.assert_clean()
+        self.ports("`platform/clock.h` | sleeps | `QtClock` | not yet")
+        self.assert_clean()
+
+    def test_a_port_or_a_side_that_is_not_there_is_found(self):
+        self.clocks()
+        self.ports("`platform/clock.h` | sleeps | `QtClock` | `Stopped`",
+                   "`platform/gone.h` | nothing | `QtClock` | `Stopped`")
+        self.assert_finds("ARCHITECTURE.md:13: ports", "platform/gone.h")
+        for side in ("Gone", "Other"):
+            with self.subTest(side):
+                self.ports(f"`platform/clock.h` | sleeps | `QtClock` | `Stopped`, `{side}`")
+                self.assert_finds("ARCHITECTURE.md:12: ports", f"no class {side}")
+        self.ports("`platform/clock.h` | sleeps | Qt | `Stopped`")
+        self.assert_finds('ports: "Qt" names no class')
+
+    def test_a_port_that_the_table_lacks_is_found(self):
+        self.clocks()
+        self.ports()
+        self.assert_finds("src/platform/clock.h:1: ports")
+
+    def test_a_folder_keeps_to_its_budget(self):
+        most = layer_check.BUDGETS["src/platform"]
+        self.write("src/platform/a.cpp", "\n" * (most - 1))  # forms.h has a line, too
+        self.assert_clean()
+        self.write("src/platform/b.h", "\n")
+        self.assert_finds("src/platform:1: budget", str(most + 1))
 
     # Words.
 
