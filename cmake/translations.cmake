@@ -1,4 +1,5 @@
-# Compiles translations/*.ts and lays them, the pictures and the help pages into the program.
+# Compiles translations/*.ts and lays them, the toolkit's own words and the pictures into the
+# program, and the help pages beside it.
 find_program(LRELEASE lrelease HINTS /usr/lib/qt6/bin ${QT6_INSTALL_PREFIX}/lib/qt6/bin REQUIRED)
 
 file(GLOB LORIMET_TS CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/translations/*.ts)
@@ -12,6 +13,14 @@ foreach(ts ${LORIMET_TS})
     DEPENDS ${ts} VERBATIM)
   list(APPEND LORIMET_QM ${qm})
   string(APPEND qrc_rows "    <file alias=\"translations/${name}.qm\">${qm}</file>\n")
+endforeach()
+
+# The words of the toolkit's own boxes and dialogs.
+foreach(language fr es)
+  find_file(LORIMET_QTBASE_${language} qtbase_${language}.qm REQUIRED
+    HINTS ${QT6_INSTALL_PREFIX}/share/qt6/translations ${QT6_INSTALL_PREFIX}/translations)
+  string(APPEND qrc_rows "    <file alias=\"translations/qtbase_${language}.qm\">"
+    "${LORIMET_QTBASE_${language}}</file>\n")
 endforeach()
 
 file(GLOB LORIMET_PICTURES CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/packaging/pictures/*.png)
@@ -30,13 +39,21 @@ set_source_files_properties(${CMAKE_BINARY_DIR}/resources/lorimet.qrc PROPERTIES
   AUTORCC_OPTIONS "--compress-algo;zlib")
 set(LORIMET_RESOURCES ${CMAKE_BINARY_DIR}/resources/lorimet.qrc ${LORIMET_QM})
 
-# The help pages stand as files beside the program, where the help viewer finds them.
-function(lorimet_copy_help target)
-  file(GLOB_RECURSE pages CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/help/*)
-  add_custom_command(OUTPUT ${CMAKE_BINARY_DIR}/help.stamp
-    COMMAND ${CMAKE_COMMAND} -E copy_directory ${CMAKE_SOURCE_DIR}/help ${CMAKE_BINARY_DIR}/bin/help
-    COMMAND ${CMAKE_COMMAND} -E touch ${CMAKE_BINARY_DIR}/help.stamp
-    DEPENDS ${pages} VERBATIM)
-  add_custom_target(${target}_help ALL DEPENDS ${CMAKE_BINARY_DIR}/help.stamp)
-  add_dependencies(${target} ${target}_help)
+# The help pages and what they show are files beside the program, where the help viewer finds them.
+file(GLOB_RECURSE LORIMET_HELP CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/help/*)
+set(help_folder ${CMAKE_BINARY_DIR}/bin/help)
+add_custom_command(OUTPUT ${CMAKE_BINARY_DIR}/help.stamp
+  COMMAND ${CMAKE_COMMAND} -E rm -rf ${help_folder}
+  COMMAND ${CMAKE_COMMAND} -E copy_directory ${CMAKE_SOURCE_DIR}/help ${help_folder}
+  COMMAND ${CMAKE_COMMAND} -E make_directory ${help_folder}/pictures
+  COMMAND ${CMAKE_COMMAND} -E copy ${LORIMET_PICTURES} ${help_folder}/pictures
+  COMMAND ${CMAKE_COMMAND} -E touch ${CMAKE_BINARY_DIR}/help.stamp
+  DEPENDS ${LORIMET_HELP} ${LORIMET_PICTURES} VERBATIM)
+add_custom_target(lorimet_help DEPENDS ${CMAKE_BINARY_DIR}/help.stamp)
+
+# Gives a program the help pages: who builds the program alone has them beside it.
+function(lorimet_add_help)
+  foreach(target ${ARGN})
+    add_dependencies(${target} lorimet_help)
+  endforeach()
 endfunction()

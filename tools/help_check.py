@@ -130,6 +130,10 @@ def check_links(help_folder, path, page, pages, complain):
             complain(path, f"line {line}: external link {link}")
             continue
         target = path if not parts.path else (path.parent / parts.path).resolve()
+        if target.parent == help_folder / "pictures":  # where the build copies them
+            if not (help_folder.parent / "packaging/pictures" / target.name).is_file():
+                complain(path, f"line {line}: no such picture: {link}")
+            continue
         if help_folder not in target.parents or not target.is_file():
             complain(path, f"line {line}: no such file: {link}")
         elif parts.fragment and parts.fragment not in pages[target].anchors:

@@ -1,6 +1,6 @@
 #!/bin/sh
 # Renders every SVG of this folder to PNG at 1x and 2x, and the application icon at all its sizes
-# and as ../lorimet.ico, and copies what the help pages show to ../../help/pictures.
+# and as ../lorimet.ico.
 # Needs rsvg-convert and ImageMagick's convert.
 set -eu
 cd "$(dirname "$0")"
@@ -24,8 +24,3 @@ cp lorimet_128.png lorimet@2x.png
 
 convert lorimet_16.png lorimet_20.png lorimet_24.png lorimet_32.png lorimet_48.png \
   lorimet_64.png lorimet_128.png lorimet_256.png ../lorimet.ico
-
-mkdir -p ../../help/pictures
-for name in exit print save restart faults valve sensor notebook help picOVGFwd picOVGRear; do
-  cp "$name.png" "$name@2x.png" ../../help/pictures/
-done
