@@ -12,6 +12,7 @@
 #include <utility>
 #include <vector>
 
+#include "adapters/headless/headless_desktop.h"
 #include "session/link_library.h"
 
 namespace lorimet::testing_support {
@@ -20,6 +21,9 @@ class FakeLink : public LinkLibrary {
  public:
   // "StartSession 83", in order.
   std::vector<std::string> calls;
+  // The same with the sleeps of a SequenceClock among them, "sleep 1500", for waits whose place in
+  // the sequence matters.
+  std::vector<std::string> sequence;
   // Answers by operation, used up one by one; then 0.
   std::map<std::string, std::deque<std::int32_t>> answers;
   // Answers that stay.
@@ -50,6 +54,7 @@ class FakeLink : public LinkLibrary {
   static constexpr std::size_t kTextBufferSize = 1024;
 
   std::vector<std::string> TakeCalls() { return std::exchange(calls, {}); }
+  std::vector<std::string> TakeSequence() { return std::exchange(sequence, {}); }
 
   std::int32_t Connect(char* p, std::uint32_t hWnd, char* v, std::int32_t deviceId,
                        std::int32_t ecu_family, std::uint8_t* before2, std::uint8_t* before1,
@@ -138,7 +143,7 @@ class FakeLink : public LinkLibrary {
                                            std::uint8_t* data) override {
     const std::string arguments = Hex(&id, 1);
     if (read_block) {
-      calls.push_back("ReadData " + arguments);
+      Note("ReadData " + arguments);
       return read_block(id, count, data);
     }
     return Answer("ReadData", arguments);
@@ -175,9 +180,14 @@ class FakeLink : public LinkLibrary {
     std::memcpy(buffer, text.c_str(), std::min(text.size() + 1, kTextBufferSize));
   }
 
+  void Note(const std::string& call) {
+    calls.push_back(call);
+    sequence.push_back(call);
+  }
+
   std::int32_t Answer(const std::string& operation, const std::string& arguments = {}) {
     const std::string call = arguments.empty() ? operation : operation + " " + arguments;
-    calls.push_back(call);
+    Note(call);
     if (on_call) on_call(call);
     auto& queue = answers[operation];
     if (!queue.empty()) {
@@ -188,6 +198,19 @@ class FakeLink : public LinkLibrary {
     const auto fixed = always.find(operation);
     return fixed == always.end() ? 0 : fixed->second;
   }
+};
+
+// Notes its sleeps in the sequence of a link.
+class SequenceClock : public VirtualClock {
+ public:
+  explicit SequenceClock(FakeLink& link) : link_(link) {}
+  void Sleep(std::uint32_t milliseconds) override {
+    link_.sequence.push_back("sleep " + std::to_string(milliseconds));
+    VirtualClock::Sleep(milliseconds);
+  }
+
+ private:
+  FakeLink& link_;
 };
 
 }  // namespace lorimet::testing_support

@@ -28,6 +28,7 @@ frmZeltMain& ProgramTest::Main() { return program.session->main_form; }
 void ProgramTest::Start() {
   ASSERT_EQ(program.Start(), EntryResult::kRunning);
   link.TakeCalls();
+  link.TakeSequence();
 }
 
 void ProgramTest::SetLanguage(int language) {

@@ -54,12 +54,12 @@ class ProgramTest : public testing::Test {
   void Start();
   void SetLanguage(int language);
 
-  VirtualClock clock;
+  FakeLink link;
+  SequenceClock clock{link};
   HeadlessDesktop desktop{clock};
   MemoryRegistry registry;
   HeadlessMessageHook hook;
   HeadlessProcess process;
-  FakeLink link;
   RecordingHelpViewer help_viewer;
   TsTranslations translations{LORIMET_SOURCE_ROOT "/translations"};
   PosixProfileFile profile_file;

@@ -19,6 +19,11 @@ using Row = std::vector<std::string>;
 
 const Calls kFill = {"FaultLock", "FaultGetCount", "FaultGetData", "FaultUnlock"};
 
+Calls operator+(Calls calls, const Calls& more) {
+  calls.insert(calls.end(), more.begin(), more.end());
+  return calls;
+}
+
 class FaultListTest : public ProgramTest {
  protected:
   void Hold(const std::vector<FaultRecord>& records) {
@@ -44,10 +49,8 @@ class FaultListTest : public ProgramTest {
 TEST_F(FaultListTest, OpensAfterAWaitWithTheFirstRowFocusedAndItsAdvice) {
   Hold({{0, 5, 7, 0, 0, 3}});
   Start();
-  clock.sleeps.clear();
   List().Load();
-  EXPECT_EQ(clock.sleeps, std::vector<std::uint32_t>{1500});
-  EXPECT_EQ(link.TakeCalls(), kFill);
+  EXPECT_EQ(link.TakeSequence(), Calls{"sleep 1500"} + kFill);
   EXPECT_EQ(Rows(),
             (std::vector<Row>{{"1", "Sensor e tone wheel defect", "ACTIVE", "3", "5", "7"}}));
   EXPECT_EQ(Grid().FocusedRow(), 0);
@@ -177,7 +180,7 @@ TEST_F(FaultListTest, ClearingRunsWholeWhateverFails) {
   Hold({{0, 5, 7, 0, 0, 3}});
   Open();
   link.TakeCalls();
-  clock.sleeps.clear();
+  link.TakeSequence();
   link.always["ClearAllFaults"] = 1;
   link.always["ResetECU"] = 1;
   std::vector<MousePointer> pointers;
@@ -187,11 +190,8 @@ TEST_F(FaultListTest, ClearingRunsWholeWhateverFails) {
     rows_while_clearing = Grid().RowCount();
   };
   List().cmdClearAll.UserClick();
-  Calls expected(4, "ClearAllFaults");
-  expected.insert(expected.end(), 4, "ResetECU");
-  expected.insert(expected.end(), kFill.begin(), kFill.end());
-  EXPECT_EQ(link.TakeCalls(), expected);
-  EXPECT_EQ(clock.sleeps, std::vector<std::uint32_t>{8000});
+  EXPECT_EQ(link.TakeSequence(),
+            Calls(4, "ClearAllFaults") + Calls(4, "ResetECU") + Calls{"sleep 8000"} + kFill);
   EXPECT_EQ(pointers, std::vector<MousePointer>(pointers.size(), MousePointer::kHourglass));
   EXPECT_FALSE(pointers.empty());
   EXPECT_EQ(rows_while_clearing, 0);
@@ -214,6 +214,44 @@ TEST_F(FaultListTest, ListClosedWhileClearingStaysClosed) {
   desktop.on_do_events = [&] { List().UserClose(); };
   List().cmdClearAll.UserClick();
   EXPECT_FALSE(List().Loaded());
+}
+
+TEST_F(FaultListTest, ClearingEmptiesAListOfManyRows) {
+  Hold({{0, 5, 7, 0, 0, 3}, {0, 3, 1, 0, 0, 2}, {0, 13, 2, 0, 1, 1}});
+  Open();
+  ASSERT_EQ(Grid().RowCount(), 3);
+  int rows_while_clearing = -1;
+  desktop.on_do_events = [&] { rows_while_clearing = Grid().RowCount(); };
+  Hold({});  // the ECU has forgotten them
+  List().cmdClearAll.UserClick();
+  EXPECT_EQ(rows_while_clearing, 0);
+  EXPECT_EQ(Rows(), std::vector<Row>{});
+  EXPECT_EQ(List().txtRepair.Text(), "");
+}
+
+TEST_F(FaultListTest, UpdatingReplacesAListOfManyRows) {
+  Hold({{0, 5, 7, 0, 0, 3}, {0, 3, 1, 0, 0, 2}, {0, 13, 2, 0, 1, 1}});
+  Open();
+  Hold({{0, 7, 3, 0, 0, 1}, {0, 5, 7, 0, 1, 2}});
+  List().cmdUpdate.UserClick();
+  ASSERT_EQ(Grid().RowCount(), 2);
+  EXPECT_EQ(Rows()[0][4], "7");
+  EXPECT_EQ(Rows()[1][4], "5");
+}
+
+TEST_F(FaultListTest, NoManualIsToldInTheUsersLanguage) {
+  SetLanguage(kFrench);
+  Hold({{0, 7, 3, 0, 0, 3}});
+  Open();
+  Main().nECUType = 0;
+  Grid().UserClickHyperlink(0);
+  const Boxes boxes = desktop.TakeBoxes();
+  ASSERT_EQ(boxes.size(), 1u);
+  const auto& rows = translations.Rows(kFrench);
+  EXPECT_EQ(boxes[0].text,
+            rows.at("No help manual currently exists for this Trailer configuration."));
+  EXPECT_EQ(boxes[0].title, rows.at("Missing Help File"));
+  EXPECT_NE(boxes[0].title, "Missing Help File");
 }
 
 TEST_F(FaultListTest, LinkBeforeAnyIdentityTellsThatThereIsNoManual) {
@@ -307,6 +345,11 @@ TEST_F(FaultListTest, SpeaksTheLanguageOnScreen) {
   EXPECT_EQ(Rows()[1][1], in_french("The description is not available"));
   EXPECT_EQ(Rows()[1][2], in_french("Stored"));
   EXPECT_NE(Rows()[0][2], "ACTIVE");
+  Row heads;
+  for (const GridColumn& column : Grid().Columns()) heads.push_back(column.caption);
+  EXPECT_EQ(heads, (Row{in_french("Num"), in_french("Name"), in_french("Type"), in_french("Times"),
+                        in_french("SID"), in_french("FMI")}));
+  EXPECT_EQ(heads[1], "Nom");
   // The description that is missing is known by its translated words.
   Grid().UserClickHyperlink(1);
   EXPECT_EQ(List().TopicKey(), "SIDunkFMIunk");

@@ -7,6 +7,7 @@
 
 #include "autotests/common/program_fixture.h"
 #include "faults/faults_part.h"
+#include "support/dictionary.h"
 
 namespace lorimet::testing_support {
 namespace {
@@ -82,6 +83,32 @@ TEST_F(FaultsTest, LargestCountIsRead) {
   link.always["FaultGetCount"] = 32767;
   EXPECT_EQ(Module().GetFaultCount(), 32767);
   EXPECT_EQ(Module().FaultData().size(), 32768u);
+}
+
+// Fails on one text.
+class FailingTranslations : public TranslationSource {
+ public:
+  bool Open() override { return true; }
+  std::string Lookup(int, const std::string& key) override {
+    if (key == "Stored") throw RuntimeError(ErrorNumber::kOverflow);
+    return key;
+  }
+};
+
+TEST_F(FaultsTest, AnErrorWhileTheListIsFilledTellsWhereItStood) {
+  FailingTranslations failing;
+  Dictionary dictionary(failing, desktop);
+  dictionary.Open();
+  dictionary.SetLanguage(kFrench);
+  Faults module(link, desktop, dictionary, program.faults->fault_table);
+  Hold({{0, 5, 7, 0, 0, 3}, {0, 5, 7, 0, 1, 3}, {0, 59, 12, 0, 0, 1}, {0, 3, 1, 0, 0, 1}});
+  frmFaults& list = program.faults->fault_list;
+  module.FillFaultGrid(list.grdFaults, list.txtRepair);
+  EXPECT_EQ(desktop.TakeBoxes(),
+            (Boxes{PlainBox("6:  Overflow", "ERROR"),
+                   PlainBox("Error in insert fault record.\r\niCol = 2\r\niNbrOfRows = 4\r\n"
+                            "iRow = 1",
+                            "ERROR")}));
 }
 
 TEST_F(FaultsTest, ClearingIsTriedUntilItSucceeds) {

@@ -130,10 +130,11 @@ TEST_F(RestartTest, TheStaticReadIsWaitedForIn30MillisecondSteps) {
     Main().mnuTools[1].UserClick();
     Main().tbrABS_restart.UserClick();
   });
+  link.TakeSequence();
   ASSERT_EQ(program.Start(), EntryResult::kRunning);
-  EXPECT_EQ(clock.sleeps, (std::vector<std::uint32_t>{30, 30, 30, 30}));
   EXPECT_EQ(seen, Calls{"refuses"});
-  EXPECT_EQ(link.TakeCalls(), (Calls{"Connect", "ReadStaticData", "StartSession 83", "Password"}));
+  EXPECT_EQ(link.TakeSequence(), (Calls{"Connect", "ReadStaticData", "StartSession 83", "Password",
+                                        "sleep 30", "sleep 30", "sleep 30", "sleep 30"}));
   EXPECT_EQ(Main().nECUType, 2);
 }
 
