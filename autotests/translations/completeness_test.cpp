@@ -6,20 +6,17 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <array>
 #include <filesystem>
-#include <fstream>
 #include <map>
 #include <regex>
 #include <set>
-#include <sstream>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "adapters/headless/ui_design.h"
-#include "adapters/headless/xml_reader.h"
 #include "autotests/translations/source_literals.h"
+#include "autotests/translations/translation_rows.h"
 #include "faults/fault_catalogue.h"
 #include "faults/repair_instructions.h"
 #include "support/text.h"
@@ -27,41 +24,12 @@
 namespace lorimet {
 namespace {
 
+using testing_support::kLanguages;
 using testing_support::LiteralReader;
+using testing_support::ReadFile;
+using testing_support::RowsOf;
 using testing_support::SourceLiteral;
-
-struct TranslationRow {
-  std::string key, text;
-  bool unfinished = false;
-};
-
-constexpr std::array<const char*, 2> kLanguages = {"fr", "es"};
-
-std::string ReadFile(const std::filesystem::path& path) {
-  std::stringstream text;
-  text << std::ifstream(path, std::ios::binary).rdbuf();
-  return text.str();
-}
-
-std::vector<TranslationRow> RowsOf(const std::string& language) {
-  const std::string xml = ReadFile(LORIMET_SOURCE_ROOT "/translations/lorimet_" + language + ".ts");
-  XmlReader reader(xml);
-  std::vector<TranslationRow> rows;
-  std::string value;
-  while (reader.Next()) {
-    if (reader.Kind() == XmlReader::Token::kText) value += reader.Text();
-    if (reader.Kind() == XmlReader::Token::kStart) {
-      value.clear();
-      if (reader.Name() == "message") rows.emplace_back();
-      if (reader.Name() == "translation")
-        rows.back().unfinished = !reader.Attribute("type").empty();
-    }
-    if (reader.Kind() != XmlReader::Token::kEnd) continue;
-    if (reader.Name() == "source") rows.back().key = value;
-    if (reader.Name() == "translation") rows.back().text = value;
-  }
-  return rows;
-}
+using testing_support::TranslationRow;
 
 std::set<std::string> KeysOf(const std::string& language) {
   std::set<std::string> keys;
