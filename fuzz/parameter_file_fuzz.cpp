@@ -5,10 +5,12 @@
 #include "adapters/headless/headless_ports.h"
 #include "adapters/posix/posix_profile_file.h"
 #include "fuzz/profile_file_model.h"
+#include "parameters/block_table.h"
 #include "parameters/parameter_file.h"
 #include "parameters/parm_block.h"
 #include "session/ecu_data.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <cstdio>
 #include <cstdlib>
@@ -86,11 +88,10 @@ class Side {
     return parameters.WriteParmsToFile();
   }
   bool operator==(const Side& other) const {
-    return image.EOL1 == other.image.EOL1 && image.EOL2 == other.image.EOL2 &&
-           image.EOL3 == other.image.EOL3 && image.EOL4 == other.image.EOL4 &&
-           image.EOL5 == other.image.EOL5 && image.EOL6 == other.image.EOL6 &&
-           image.EOL7 == other.image.EOL7 && image.EOL9 == other.image.EOL9 &&
-           image.FCF == other.image.FCF &&
+    return std::ranges::all_of(lorimet::kBlockTable,
+                               [&](const lorimet::BlockRow& row) {
+                                 return image.*row.block == other.image.*row.block;
+                               }) &&
            std::memcmp(&ecu_data, &other.ecu_data, sizeof ecu_data) == 0;
   }
 

@@ -1,8 +1,10 @@
 // The GIO page and the recipes of its functions.
+#include <algorithm>
 #include <fstream>
 #include <sstream>
 
 #include "autotests/parameters/wizard_fixture.h"
+#include "parameters/block_table.h"
 #include "parameters/function_blocks.h"
 #include "parameters/gio_functions.h"
 #include "parameters/parameters_part.h"
@@ -29,10 +31,9 @@ std::vector<ListedWrite> ReadListing() {
 }
 
 ParmBlock& BlockOf(const std::string& name, ParameterImage& image) {
-  if (name == "EOL2") return image.EOL2;
-  if (name == "EOL3") return image.EOL3;
-  if (name == "EOL5") return image.EOL5;
-  return image.FCF.at(static_cast<std::size_t>(name.back() - '1'));
+  const auto* const row =
+      std::ranges::find_if(kImageBlocks, [&](const auto& entry) { return name == entry.first; });
+  return image.*row->second;
 }
 
 void Write(const ListedWrite& row, ParameterImage& image) {
@@ -85,8 +86,9 @@ TEST_F(GioSelectionTest, LoadStartsTheFunctionBlocksFromTheTemplate) {
   constexpr int kIds[] = {55, 56, 57, 58, 59, 60, 68, 69};
   ParameterImage expected = before;
   for (std::size_t i = 0; i < 8; ++i) {
-    FillInDefaultFCF(static_cast<std::uint8_t>(kIds[i]), expected.FCF[i].DataArr);
-    expected.FCF[i].bNumBytes = 111;
+    ParmBlock& block = expected.*kFunctionBlocks[i];
+    FillInDefaultFCF(static_cast<std::uint8_t>(kIds[i]), block.DataArr);
+    block.bNumBytes = 111;
   }
   expected.EOL5(83) = 0;
   expected.EOL5(84) = 0;
@@ -134,7 +136,7 @@ TEST_F(GioSelectionTest, EveryChoiceWritesWhatIsListedInOrder) {
         if (row.item == item && chosen[static_cast<std::size_t>(item)] != (item == 8))
           Write(row, expected);
     if (chosen[1])
-      for (std::size_t i = 0; i < 5; ++i) expected.FCF[i].bNumBytes = 111;
+      for (std::size_t i = 0; i < 5; ++i) (expected.*kFunctionBlocks[i]).bNumBytes = 111;
     ParameterImage image = start;
     ApplyGioFunctions(chosen, image);
     EXPECT_EQ(Differences(expected, image), Lines{}) << bits;
@@ -160,10 +162,10 @@ TEST_F(GioSelectionTest, EachBoxStandsForItsFunction) {
 
 TEST_F(GioSelectionTest, NoBoxCheckedLeavesTheTemplates) {
   Page().Load();
-  const auto blocks = Image().FCF;
+  const ParameterImage before = Image();
   PassOn();
-  EXPECT_EQ(Image().FCF, blocks);
-  EXPECT_EQ(Image().FCF[7].bNumBytes, 111);
+  for (const BlockName block : kFunctionBlocks) EXPECT_EQ(Image().*block, before.*block);
+  EXPECT_EQ(Image().FCF8.bNumBytes, 111);
   EXPECT_EQ(Image().EOL2(5), 176);
   EXPECT_EQ(Image().EOL5(108), 255);
 }
@@ -172,10 +174,10 @@ TEST_F(GioSelectionTest, BothTireInflationsStandTogetherInBlocksOfTheirOwn) {
   GioChoice chosen{};
   chosen[0] = chosen[5] = true;
   ApplyGioFunctions(chosen, Image());
-  EXPECT_EQ(Image().FCF[0](47), 41);  // of item 5
-  EXPECT_EQ(Image().FCF[7](3), 118);  // of item 0
-  EXPECT_EQ(Image().FCF[6](3), 117);  // item 5's event takes item 0's block
-  EXPECT_EQ(Image().FCF[1](3), 112);
+  EXPECT_EQ(Image().FCF1(47), 41);  // of item 5
+  EXPECT_EQ(Image().FCF8(3), 118);  // of item 0
+  EXPECT_EQ(Image().FCF7(3), 117);  // item 5's event takes item 0's block
+  EXPECT_EQ(Image().FCF2(3), 112);
 }
 
 TEST_F(GioSelectionTest, NextHidesThePageAndGoesToTheLoadSensingPage) {
@@ -197,17 +199,17 @@ TEST_F(GioSelectionTest, LiftAxleBoxOpensItsDialogWhenChecked) {
   });
   Page().chkGIO[6].UserClick();
   EXPECT_EQ(desktop.ModalForms(), Lines{"frmLiftAxlePressures"});
-  EXPECT_EQ(Image().FCF[0](16) * 256 + Image().FCF[0](17), 18286);
+  EXPECT_EQ(Image().FCF1(16) * 256 + Image().FCF1(17), 18286);
   Page().chkGIO[6].UserClick();
   EXPECT_EQ(desktop.ModalForms().size(), 1u) << "unchecking opens nothing";
   // The recipe leaves the dialog's bytes alone, and the tag axle's overwrites them.
   GioChoice chosen{};
   chosen[6] = true;
   ApplyGioFunctions(chosen, Image());
-  EXPECT_EQ(Image().FCF[0](16) * 256 + Image().FCF[0](17), 18286);
+  EXPECT_EQ(Image().FCF1(16) * 256 + Image().FCF1(17), 18286);
   chosen[1] = true;
   ApplyGioFunctions(chosen, Image());
-  EXPECT_EQ(Image().FCF[0](16) * 256 + Image().FCF[0](17), 5 * 256 + 220);
+  EXPECT_EQ(Image().FCF1(16) * 256 + Image().FCF1(17), 5 * 256 + 220);
 }
 
 TEST_F(GioSelectionTest, SpecialBoxOpensItsDialogWhenChecked) {
@@ -251,15 +253,15 @@ TEST_F(GioSelectionTest, ReturningFromTheLoadSensingPageDiscardsTheDialogsValues
   desktop.OnModal("frmGIOSelection", [&](Form&) {
     desktop.OnModal("frmLiftAxlePressures", [&](Form&) { Press(LiftAxle().Command1); });
     Page().chkGIO[6].UserClick();
-    EXPECT_NE(Image().FCF[0](16), 0);
+    EXPECT_NE(Image().FCF1(16), 0);
     Press(Page().cmdNext);
   });
   desktop.OnModal("frmOVGParm2",
                   [&](Form&) { Press(program.parameters->load_sensing_page.cmdPrev); });
   desktop.OnModal("frmGIOSelection", [&](Form&) {
     EXPECT_FALSE(Page().chkGIO[6].Value());
-    EXPECT_EQ(Image().FCF[0](16), 0);
-    EXPECT_EQ(Image().FCF[0](51), ' ');
+    EXPECT_EQ(Image().FCF1(16), 0);
+    EXPECT_EQ(Image().FCF1(51), ' ');
     Press(Page().cmdClose);
   });
   Page().Show(Modality::kModal);

@@ -17,7 +17,7 @@ class LiftAxleTest : public WizardFormTest {
     Dialog().txtLoweringPress.UserType(lowering);
     Dialog().txtLiftingPress.UserType(lifting);
   }
-  ParmBlock& Fcf1() { return Image().FCF[0]; }
+  ParmBlock& Fcf1() { return Image().FCF1; }
 };
 
 TEST_F(LiftAxleTest, WithoutAConnectionTheDefaultsAreShown) {

@@ -17,18 +17,6 @@
 namespace lorimet::testing_support {
 namespace {
 
-using Block = ParmBlock ParameterImage::*;
-constexpr std::array<std::pair<const char*, Block>, 8> kBlocks = {{
-    {"EOL1", &ParameterImage::EOL1},
-    {"EOL2", &ParameterImage::EOL2},
-    {"EOL3", &ParameterImage::EOL3},
-    {"EOL4", &ParameterImage::EOL4},
-    {"EOL5", &ParameterImage::EOL5},
-    {"EOL6", &ParameterImage::EOL6},
-    {"EOL7", &ParameterImage::EOL7},
-    {"EOL9", &ParameterImage::EOL9},
-}};
-
 // --- The model.
 
 // n / d to the nearest, a half to the even neighbour.
@@ -99,10 +87,8 @@ class PageProperties : public WizardFormTest {
       ++place;
       return static_cast<std::uint8_t>(round.value * (2 * place + 1) + place * place);
     };
-    for (const auto& [name, block] : kBlocks)
+    for (const auto& [name, block] : kImageBlocks)
       for (std::uint8_t& byte : (Image().*block).DataArr) byte = next();
-    for (ParmBlock& block : Image().FCF)
-      for (std::uint8_t& byte : block.DataArr) byte = next();
     Image().EOL9.bNumBytes = static_cast<std::uint8_t>(round.value);
     Put(Image().EOL1, 1, 0x20, round.mechanical ? 0x20 : 0);
   }

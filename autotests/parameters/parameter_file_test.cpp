@@ -13,6 +13,7 @@
 #include "autotests/common/program_fixture.h"
 #include "parameters/parameters_part.h"
 #include "session/session_part.h"
+#include "parameters/block_table.h"
 
 namespace lorimet::testing_support {
 namespace {
@@ -557,9 +558,9 @@ TEST_F(ParameterFileTest, IdentityOfTheEcuIsNotTouched) {
 }
 
 TEST_F(ParameterFileTest, FunctionBlocksOfAnEarlierVisitDoNotStay) {
-  for (ParmBlock& block : Image().FCF) block.bNumBytes = 111;
+  for (const BlockName block : kFunctionBlocks) (Image().*block).bNumBytes = 111;
   ReadText("");
-  for (const ParmBlock& block : Image().FCF) EXPECT_EQ(block.bNumBytes, 0);
+  for (const BlockName block : kFunctionBlocks) EXPECT_EQ((Image().*block).bNumBytes, 0);
 }
 
 TEST_F(ParameterFileTest, FileCutOffAnywhereEitherReadsOrEndsInSilence) {

@@ -10,6 +10,7 @@
 #include "parameters/parameters_part.h"
 #include "session/session_part.h"
 #include "support/support_part.h"
+#include "parameters/block_table.h"
 
 namespace lorimet::testing_support {
 namespace {
@@ -56,13 +57,13 @@ TEST_F(ParameterReadingTest, CountsAreAsReturnedButForThoseThatAreForced) {
   Start();
   Image().EOL4.bNumBytes = 9;
   Image().EOL6.bNumBytes = 9;
-  for (ParmBlock& block : Image().FCF) block.bNumBytes = 111;
+  for (const BlockName block : kFunctionBlocks) (Image().*block).bNumBytes = 111;
   Read();
   EXPECT_EQ(Image().EOL2.bNumBytes, 80);
   EXPECT_EQ(Image().EOL7.bNumBytes, 123);
   EXPECT_EQ(Image().EOL4.bNumBytes, 0);
   EXPECT_EQ(Image().EOL6.bNumBytes, 0);
-  for (const ParmBlock& block : Image().FCF) EXPECT_EQ(block.bNumBytes, 0);
+  for (const BlockName block : kFunctionBlocks) EXPECT_EQ((Image().*block).bNumBytes, 0);
 }
 
 TEST_F(ParameterReadingTest, DeadLinkIsTriedFourTimesABlockAndKeepsTheImage) {

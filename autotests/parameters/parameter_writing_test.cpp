@@ -10,6 +10,7 @@
 #include "faults/faults_part.h"
 #include "parameters/parameters_part.h"
 #include "support/support_part.h"
+#include "parameters/block_table.h"
 
 namespace lorimet::testing_support {
 namespace {
@@ -42,7 +43,7 @@ class ParameterWritingTest : public ProgramTest {
     for (ParmBlock* block : {&image.EOL1, &image.EOL2, &image.EOL3, &image.EOL4, &image.EOL5,
                              &image.EOL6, &image.EOL7, &image.EOL9})
       block->bNumBytes = count++;
-    for (ParmBlock& block : image.FCF) block.bNumBytes = 111;
+    for (const BlockName block : kFunctionBlocks) (image.*block).bNumBytes = 111;
   }
   void AnswerErrors(const std::map<int, int>& bytes) {
     link.read_block = [bytes](std::uint8_t id, std::uint8_t* count, std::uint8_t* data) {

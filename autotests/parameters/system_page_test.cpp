@@ -2,6 +2,7 @@
 #include "autotests/parameters/wizard_fixture.h"
 #include "parameters/parameters_part.h"
 #include "support/support_part.h"
+#include "parameters/block_table.h"
 
 namespace lorimet::testing_support {
 namespace {
@@ -554,7 +555,7 @@ TEST_F(SystemPageTest, NextOnlyHidesThePage) {
 TEST_F(SystemPageTest, SingleModulatorSystemLeavesTheFunctionBlocksAbsent) {
   SetSystem(2, 1, 2);
   PressNext("frmOVGParm2");
-  for (const ParmBlock& block : Image().FCF) EXPECT_EQ(block, ParmBlock{});
+  for (const BlockName block : kFunctionBlocks) EXPECT_EQ(Image().*block, ParmBlock{});
 }
 
 TEST_F(SystemPageTest, CloseUnloadsThePage) {

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <functional>
 #include <map>
 #include <string>
@@ -14,6 +15,25 @@
 #include "support/support_part.h"
 
 namespace lorimet::testing_support {
+
+constexpr std::array<std::pair<const char*, BlockName>, 16> kImageBlocks = {{
+    {"EOL1", &ParameterImage::EOL1},
+    {"EOL2", &ParameterImage::EOL2},
+    {"EOL3", &ParameterImage::EOL3},
+    {"EOL4", &ParameterImage::EOL4},
+    {"EOL5", &ParameterImage::EOL5},
+    {"EOL6", &ParameterImage::EOL6},
+    {"EOL7", &ParameterImage::EOL7},
+    {"EOL9", &ParameterImage::EOL9},
+    {"FCF1", &ParameterImage::FCF1},
+    {"FCF2", &ParameterImage::FCF2},
+    {"FCF3", &ParameterImage::FCF3},
+    {"FCF4", &ParameterImage::FCF4},
+    {"FCF5", &ParameterImage::FCF5},
+    {"FCF6", &ParameterImage::FCF6},
+    {"FCF7", &ParameterImage::FCF7},
+    {"FCF8", &ParameterImage::FCF8},
+}};
 
 // The bytes of two images that differ, as "EOL2(5): 16 -> 176".
 inline std::vector<std::string> Differences(const ParameterImage& before,
@@ -28,16 +48,7 @@ inline std::vector<std::string> Differences(const ParameterImage& before,
       lines.push_back(name + " count: " + std::to_string(a.bNumBytes) + " -> " +
                       std::to_string(b.bNumBytes));
   };
-  compare("EOL1", before.EOL1, after.EOL1);
-  compare("EOL2", before.EOL2, after.EOL2);
-  compare("EOL3", before.EOL3, after.EOL3);
-  compare("EOL4", before.EOL4, after.EOL4);
-  compare("EOL5", before.EOL5, after.EOL5);
-  compare("EOL6", before.EOL6, after.EOL6);
-  compare("EOL7", before.EOL7, after.EOL7);
-  compare("EOL9", before.EOL9, after.EOL9);
-  for (std::size_t i = 0; i < before.FCF.size(); ++i)
-    compare("FCF" + std::to_string(i + 1), before.FCF[i], after.FCF[i]);
+  for (const auto& [name, block] : kImageBlocks) compare(name, before.*block, after.*block);
   return lines;
 }
 
@@ -56,14 +67,9 @@ class WizardFormTest : public ProgramTest {
   // Fills every byte with its own value, so that a byte that is not written shows.
   void FillImage() {
     std::uint8_t value = 37;
-    const auto fill = [&](ParmBlock& block) {
-      for (std::uint8_t& byte : block.DataArr) byte = value = static_cast<std::uint8_t>(value + 89);
-    };
-    ParameterImage& i = Image();
-    for (ParmBlock* block :
-         {&i.EOL1, &i.EOL2, &i.EOL3, &i.EOL4, &i.EOL5, &i.EOL6, &i.EOL7, &i.EOL9})
-      fill(*block);
-    for (ParmBlock& block : i.FCF) fill(block);
+    for (const auto& [name, block] : kImageBlocks)
+      for (std::uint8_t& byte : (Image().*block).DataArr)
+        byte = value = static_cast<std::uint8_t>(value + 89);
   }
   // The bytes that the action changes.
   Lines ChangesOf(const std::function<void()>& action) {

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "autotests/common/program_fixture.h"
+#include "parameters/block_table.h"
 #include "parameters/conversions.h"
 #include "parameters/parameters_part.h"
 #include "session/session_part.h"
@@ -522,7 +523,7 @@ TEST_F(WizardTest, SingleModulatorSystemSkipsTheFunctions) {
   Main().mnuSystem[0].UserClick();
   EXPECT_EQ(desktop.ModalForms(),
             (std::vector<std::string>{"frmOVGParm1", "frmOVGParm2", "frmOVGParm1"}));
-  for (const ParmBlock& block : Image().FCF) EXPECT_EQ(block.bNumBytes, 0);
+  for (const BlockName block : kFunctionBlocks) EXPECT_EQ((Image().*block).bNumBytes, 0);
 }
 
 TEST_F(WizardTest, PreviousBringsTheFunctionsLoadedAnew) {
@@ -846,8 +847,8 @@ TEST_F(WizardTest, WalkingAThousandTimesNeitherDeepensNorChangesAByte) {
   Vehicle()(1) = 0x04;
   std::vector<ParmBlock> settled;
   const auto blocks = [&] {
-    return std::vector<ParmBlock>{Image().EOL1, Image().EOL2, Image().EOL3,   Image().EOL5,
-                                  Image().EOL7, Image().EOL9, Image().FCF[0], Image().FCF[7]};
+    return std::vector<ParmBlock>{Image().EOL1, Image().EOL2, Image().EOL3, Image().EOL5,
+                                  Image().EOL7, Image().EOL9, Image().FCF1, Image().FCF8};
   };
   desktop.OnModal("frmOVGParm1", [](Form& f) { Press(static_cast<frmOVGParm1&>(f).cmdNext); });
   for (int i = 0; i < 1000; ++i) {

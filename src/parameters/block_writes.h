@@ -21,7 +21,6 @@ struct BlockWrite {
   std::uint8_t bits;
 };
 
-using BlockName = ParmBlock ParameterImage::*;
 constexpr BlockName kEOL1 = &ParameterImage::EOL1;
 constexpr BlockName kEOL2 = &ParameterImage::EOL2;
 constexpr BlockName kEOL3 = &ParameterImage::EOL3;

@@ -66,7 +66,7 @@ void frmLiftAxlePressures::OnAccept() {
 // Error 6 from 90 psi on, whose counts do not fit.
 void frmLiftAxlePressures::Store(std::int16_t psi, int index) {
   const std::int16_t counts = ToInteger(psi / kPsi * kCounts);
-  ParmBlock& block = parts_.image.FCF[0];
+  ParmBlock& block = parts_.image.FCF1;
   const int high = counts / 256;
   const int low = counts % 256;
   block(index) = ToByte(high);

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "parameters/block_table.h"
+
 namespace lorimet {
 
 void FillInDefaultFCF(std::uint8_t nId, std::array<std::uint8_t, ParmBlock::kSize>& DataArr) {
@@ -16,10 +18,15 @@ void FillInDefaultFCF(std::uint8_t nId, std::array<std::uint8_t, ParmBlock::kSiz
 }
 
 void ResetFunctionBlocks(ParameterImage& image) {
-  for (std::size_t i = 0; i < image.FCF.size(); ++i) {
-    FillInDefaultFCF(kFunctionBlockIds[i], image.FCF[i].DataArr);
-    image.FCF[i].bNumBytes = kFunctionBlockBytes;
+  for (const BlockRow& row : kBlockTable) {
+    if (std::ranges::find(kFunctionBlocks, row.block) == kFunctionBlocks.end()) continue;
+    FillInDefaultFCF(row.local_id, (image.*row.block).DataArr);
+    (image.*row.block).bNumBytes = kFunctionBlockBytes;
   }
+}
+
+void DropFunctionBlocks(ParameterImage& image) {
+  for (const BlockName block : kFunctionBlocks) (image.*block).bNumBytes = 0;
 }
 
 }  // namespace lorimet

@@ -9,13 +9,8 @@
 
 namespace lorimet {
 
-constexpr int kFunctionBlockCount = 8;
 // What a function block counts with index 0.
 constexpr std::uint8_t kFunctionBlockBytes = 111;
-// The local identifiers of FCF1 to FCF8.
-constexpr std::array<std::uint8_t, kFunctionBlockCount> kFunctionBlockIds = {
-    0x37, 0x38, 0x39, 0x3A, 0x3B, 0x3C, 0x44, 0x45,
-};
 constexpr int kFunctionNameIndex = 51;
 constexpr int kFunctionNameLength = 20;
 
@@ -23,5 +18,7 @@ constexpr int kFunctionNameLength = 20;
 void FillInDefaultFCF(std::uint8_t nId, std::array<std::uint8_t, ParmBlock::kSize>& DataArr);
 // All eight blocks as the template, present.
 void ResetFunctionBlocks(ParameterImage& image);
+// All eight absent: those of another trailer must not reach this one.
+void DropFunctionBlocks(ParameterImage& image);
 
 }  // namespace lorimet

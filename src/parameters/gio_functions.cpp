@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <string_view>
 
+#include "parameters/block_table.h"
 #include "parameters/block_writes.h"
 #include "parameters/function_blocks.h"
 
@@ -150,7 +151,7 @@ static_assert(std::ranges::all_of(kFcfRecipes, [](const FcfRecipe& recipe) {
 }));
 
 void ApplyRecipe(const FcfRecipe& recipe, ParameterImage& image) {
-  ParmBlock& block = image.FCF[static_cast<std::size_t>(recipe.block - 1)];
+  ParmBlock& block = image.*kFunctionBlocks[static_cast<std::size_t>(recipe.block - 1)];
   for (const FcfByte& byte : recipe.bytes) {
     if (byte.index == 0) break;
     block(byte.index) = byte.value;
@@ -167,7 +168,7 @@ void ApplyFunction(int item, ParameterImage& image) {
     if (recipe.item == item) ApplyRecipe(recipe, image);
   // The tag axle's blocks are made present again.
   if (item == kGioTagAxle)
-    for (std::size_t i = 0; i < 5; ++i) image.FCF[i].bNumBytes = kFunctionBlockBytes;
+    for (std::size_t i = 0; i < 5; ++i) (image.*kFunctionBlocks[i]).bNumBytes = kFunctionBlockBytes;
 }
 
 }  // namespace

@@ -4,7 +4,9 @@
 #include <array>
 #include <optional>
 
+#include "parameters/block_table.h"
 #include "parameters/conversions.h"
+#include "parameters/function_blocks.h"
 #include "parameters/parameter_reading.h"
 #include "platform/clock.h"
 #include "platform/desktop.h"
@@ -20,36 +22,7 @@ namespace lorimet {
 namespace {
 
 constexpr std::size_t kAnswerSize = 1024;
-constexpr std::uint8_t kTrailerBytes = 123;
 constexpr std::int32_t kHighestSum = 32767;  // the running sum is a 16-bit signed one
-constexpr const char* kVehicleSection = "EOL7_Vehicle_Data";
-
-// A section of block keys; an optional one is written while its block is present.
-struct Section {
-  const char* name;
-  ParmBlock ParameterImage::*block;
-  bool optional;
-};
-
-constexpr std::array<Section, 7> kWriteOrder = {{
-    {"EOL1_System_Parameter", &ParameterImage::EOL1, false},
-    {"EOL2_GIO_Functions", &ParameterImage::EOL2, false},
-    {"EOL3_GIO_Parameter", &ParameterImage::EOL3, true},
-    {"EOL4_SLEV_Parameter", &ParameterImage::EOL4, true},
-    {"EOL5_GIO_Connectors", &ParameterImage::EOL5, false},
-    {"EOL6_ServiceIntervall", &ParameterImage::EOL6, true},
-    {"EOL9_GIO_FID", &ParameterImage::EOL9, true},
-}};
-
-constexpr std::array<Section, 7> kReadOrder = {{
-    {"EOL1_System_Parameter", &ParameterImage::EOL1, false},
-    {"EOL2_GIO_Functions", &ParameterImage::EOL2, false},
-    {"EOL5_GIO_Connectors", &ParameterImage::EOL5, false},
-    {"EOL3_GIO_Parameter", &ParameterImage::EOL3, true},
-    {"EOL4_SLEV_Parameter", &ParameterImage::EOL4, true},
-    {"EOL6_ServiceIntervall", &ParameterImage::EOL6, true},
-    {"EOL9_GIO_FID", &ParameterImage::EOL9, true},
-}};
 
 // The three texts of the vehicle section.
 struct TextKey {
@@ -131,10 +104,13 @@ bool ParameterFile::ReadParmsFromFile() {
 
 void ParameterFile::Read(const std::string& path) {
   path_ = path;
-  // Function blocks are no part of a file, and those of another trailer must not stay.
-  for (ParmBlock& block : image_.FCF) block.bNumBytes = 0;
-  for (const Section& section : kReadOrder) ReadFileData(section.name, image_.*section.block);
-  ReadVehicleData();
+  DropFunctionBlocks(image_);
+  for (const BlockRow* row : kBlocksInOrder<&BlockRow::file_read>) {
+    if (row->block == &ParameterImage::EOL7)
+      ReadVehicleData(row->section);
+    else
+      ReadFileData(row->section, image_.*row->block);
+  }
   image_.EOL7.bNumBytes = kTrailerBytes;
   RefreshConfiguration();
 }
@@ -150,17 +126,18 @@ void ParameterFile::ReadFileData(const std::string& strWhichParm, ParmBlock& blo
   block.bNumBytes = static_cast<std::uint8_t>(count + 1);
 }
 
-void ParameterFile::ReadVehicleData() {
-  const std::string date = Get(kVehicleSection, "TrailerDateOfProduction");
+void ParameterFile::ReadVehicleData(const std::string& section) {
+  const std::string date = Get(section, "TrailerDateOfProduction");
   image_.EOL7(1) = PackedByte(Digit(date, 0), Digit(date, 1));
   image_.EOL7(2) = PackedByte(Digit(date, 2), Digit(date, 3));
   image_.EOL7(3) = PackedByte(Digit(date, 5), date.size() > 6 ? date.substr(6) : std::string());
-  for (const TextKey& row : kTextKeys) ReadText(row.key, row.first, row.count);
+  for (const TextKey& row : kTextKeys) ReadText(section, row.key, row.first, row.count);
 }
 
 // A text shorter than its field, its padding lost on the way through the file, ends the reading.
-void ParameterFile::ReadText(const std::string& key, int first, int count) {
-  const std::string text = Trim(Get(kVehicleSection, key));
+void ParameterFile::ReadText(const std::string& section, const std::string& key, int first,
+                             int count) {
+  const std::string text = Trim(Get(section, key));
   if (static_cast<int>(text.size()) < count) throw RuntimeError(ErrorNumber::kSubscriptOutOfRange);
   StoreBlockText(image_.EOL7, first, count, text);
 }
@@ -218,11 +195,13 @@ void ParameterFile::Write(const std::string& path) {
   path_ = path;
   try {
     Put("VERSION", "CREATEDBY", "Norvick Corbel Software / " + DateText(clock_.Now()));
-    for (const Section& section : kWriteOrder) {
-      const ParmBlock& block = image_.*section.block;
-      if (!section.optional || block.bNumBytes > 0) WriteFileData(section.name, block);
+    for (const BlockRow* row : kBlocksInOrder<&BlockRow::file_write>) {
+      const ParmBlock& block = image_.*row->block;
+      if (row->block == &ParameterImage::EOL7)
+        WriteVehicleData(row->section);
+      else if (!row->optional || block.bNumBytes > 0)
+        WriteFileData(row->section, block);
     }
-    WriteVehicleData();
   } catch (const RuntimeError&) {
     // Half-way by design: what was reached is the file.
     file_.Flush();
@@ -245,13 +224,13 @@ void ParameterFile::WriteFileData(const std::string& strWhichParm, const ParmBlo
   Put(strWhichParm, "Checksum", std::to_string((sum + 1) % 256));
 }
 
-void ParameterFile::WriteVehicleData() {
+void ParameterFile::WriteVehicleData(const std::string& section) {
   const ParmBlock& trailer = image_.EOL7;
-  Put(kVehicleSection, "DataVersion", DataVersion());
-  Put(kVehicleSection, "TrailerDateOfProduction",
+  Put(section, "DataVersion", DataVersion());
+  Put(section, "TrailerDateOfProduction",
       PackedText(trailer(1)) + PackedText(trailer(2)) + "-" + PackedText(trailer(3)));
   for (const TextKey& row : kTextKeys)
-    Put(kVehicleSection, row.key, ToCp1252(BlockText(trailer, row.first, row.count)));
+    Put(section, row.key, ToCp1252(BlockText(trailer, row.first, row.count)));
 }
 
 std::string ParameterFile::DataVersion() const {

@@ -34,13 +34,13 @@ class ParameterFile {
  private:
   void Read(const std::string& path);
   void ReadFileData(const std::string& strWhichParm, ParmBlock& block);
-  void ReadVehicleData();
-  void ReadText(const std::string& key, int first, int count);
+  void ReadVehicleData(const std::string& section);
+  void ReadText(const std::string& section, const std::string& key, int first, int count);
   void RefreshConfiguration();
 
   void Write(const std::string& path);
   void WriteFileData(const std::string& strWhichParm, const ParmBlock& block);
-  void WriteVehicleData();
+  void WriteVehicleData(const std::string& section);
   std::string Proposal() const;
   std::string DataVersion() const;
 

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 
+#include "parameters/block_table.h"
+#include "parameters/function_blocks.h"
 #include "platform/desktop.h"
 #include "platform/forms.h"
 #include "session/ecu_data.h"
@@ -11,8 +13,6 @@
 
 namespace lorimet {
 namespace {
-
-constexpr std::uint8_t kTrailerBytes = 123;  // EOL7's count, whatever the ECU returned
 
 std::string Bytes(const ParmBlock& block, int first, int count) {
   std::string bytes;
@@ -23,6 +23,11 @@ std::string Bytes(const ParmBlock& block, int first, int count) {
 void ShowProgress(const ReadingParts& parts, const std::string& text) {
   parts.error_text.SetText(text);
   parts.desktop.Repaint();
+}
+
+void RefreshRecord(const ReadingParts& parts, BlockName block) {
+  if (block == &ParameterImage::EOL1) RefreshVehicleFields(parts.image, parts.ecu_data);
+  if (block == &ParameterImage::EOL7) RefreshIdentityFields(parts.image, parts.ecu_data);
 }
 
 }  // namespace
@@ -66,17 +71,15 @@ std::int32_t ReadParmsFromECU(const ReadingParts& parts) {
   StartEcuSession(link);
   SetParameterAccess(link, 1);
   ShowProgress(parts, parts.dictionary.Translate("Reading Parameter Data..."));
-  ReadBlock(link, 0x3D, image.EOL2, true);
-  if (ReadBlock(link, 0x03, image.EOL1) == 0) RefreshVehicleFields(image, parts.ecu_data);
-  if (ReadBlock(link, 0x06, image.EOL7) == 0) RefreshIdentityFields(image, parts.ecu_data);
+  std::int32_t status = 0;
+  for (const BlockRow* row : kBlocksInOrder<&BlockRow::ecu_read>) {
+    status = ReadBlock(link, row->local_id, image.*row->block, row->block == &ParameterImage::EOL2);
+    if (status == 0) RefreshRecord(parts, row->block);
+  }
   image.EOL7.bNumBytes = kTrailerBytes;
-  ReadBlock(link, 0x28, image.EOL5);
-  ReadBlock(link, 0x27, image.EOL3);
-  const std::int32_t status = ReadBlock(link, 0x42, image.EOL9);
   image.EOL4.bNumBytes = 0;
   image.EOL6.bNumBytes = 0;
-  // Function blocks of an earlier visit must not reach another trailer.
-  for (ParmBlock& block : image.FCF) block.bNumBytes = 0;
+  DropFunctionBlocks(image);
   ShowProgress(parts, " ");
   parts.main_form.SetMousePointer(MousePointer::kArrow);
   return status;

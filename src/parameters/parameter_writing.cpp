@@ -5,6 +5,7 @@
 #include <string>
 
 #include "faults/faults.h"
+#include "parameters/block_table.h"
 #include "parameters/conversions.h"
 #include "parameters/parameter_errors.h"
 #include "platform/clock.h"
@@ -27,35 +28,6 @@ constexpr std::uint32_t kChecksumWait = 2000;
 constexpr std::uint32_t kClearWait = 2000;
 constexpr std::uint32_t kResetWait = 3000;
 
-struct BlockWrite {
-  ParmBlock ParameterImage::*block;  // null for a function block
-  std::size_t fcf;                   // its place among the function blocks
-  std::uint8_t local_id;
-  const char* status;
-  const char* error;
-};
-
-constexpr std::array<BlockWrite, 16> kWrites = {{
-    {&ParameterImage::EOL5, 0, 0x28, "Writing EOL5 Data to ECU", "Error Writing EOL5 Parameters"},
-    {&ParameterImage::EOL2, 0, 0x3D, "Writing OVG Data to ECU ", "Error Writing OVG Parameters"},
-    {&ParameterImage::EOL1, 0, 0x03, "Writing Vehicle Data to ECU",
-     "Error Writing Vehicle Parameters"},
-    {&ParameterImage::EOL7, 0, 0x06, "Writing Trailer Data to ECU",
-     "Error Writing Trailer Parameters"},
-    {&ParameterImage::EOL3, 0, 0x27, "Writing EOL3 Data to ECU", "Error Writing EOL3 Parameters"},
-    {&ParameterImage::EOL4, 0, 0x17, "Writing EOL4 Data to ECU", "Error Writing EOL4 Parameters"},
-    {&ParameterImage::EOL6, 0, 0x05, "Writing EOL6 Data to ECU", "Error Writing EOL6 Parameters"},
-    {&ParameterImage::EOL9, 0, 0x42, "Writing EOL9 Data to ECU", "Error Writing EOL9 Parameters"},
-    {nullptr, 0, 0x37, "Writing FCF 1 Data to ECU", "Error Writing FCF1 GIO Parameters"},
-    {nullptr, 1, 0x38, "Writing FCF 2 Data to ECU", "Error Writing FCF2 GIO Parameters"},
-    {nullptr, 2, 0x39, "Writing FCF 3 Data to ECU", "Error Writing FCF3 GIO Parameters"},
-    {nullptr, 3, 0x3A, "Writing FCF 4 Data to ECU", "Error Writing FCF4 GIO Parameters"},
-    {nullptr, 4, 0x3B, "Writing FCF 5 Data to ECU", "Error Writing FCF5 GIO Parameters"},
-    {nullptr, 5, 0x3C, "Writing FCF 6 Data to ECU", "Error Writing FCF6 GIO Parameters"},
-    {nullptr, 6, 0x44, "Writing FCF 7 Data to ECU", "Error Writing FCF7 GIO Parameters"},
-    {nullptr, 7, 0x45, "Writing FCF 8 Data to ECU", "Error Writing FCF8 GIO Parameters"},
-}};
-
 // The boxes of this sequence are shown as they stand, without the dictionary.
 void ShowPlainBox(Desktop& desktop, const std::string& text, const std::string& title) {
   MessageBox box;
@@ -69,8 +41,8 @@ void ShowStatus(const WritingParts& parts, const char* text) {
   parts.desktop.Repaint();
 }
 
-void WriteBlock(const WritingParts& parts, const BlockWrite& row) {
-  const ParmBlock& block = row.block != nullptr ? parts.image.*row.block : parts.image.FCF[row.fcf];
+void WriteBlock(const WritingParts& parts, const BlockRow& row) {
+  const ParmBlock& block = parts.image.*row.block;
   if (block.bNumBytes == 0) return;
   ShowStatus(parts, row.status);
   const auto count = static_cast<std::uint8_t>(block.bNumBytes - 1);
@@ -111,7 +83,7 @@ void WriteParmsToECU(const WritingParts& parts) {
   parts.page.SetMousePointer(MousePointer::kHourglass);
   StartEcuSession(link);
   SetParameterAccess(link, 1);
-  for (const BlockWrite& row : kWrites) WriteBlock(parts, row);
+  for (const BlockRow* row : kBlocksInOrder<&BlockRow::ecu_write>) WriteBlock(parts, *row);
   SetParameterAccess(link, 0);
   parts.clock.Sleep(kAccessWait);
   ShowStatus(parts, "Updating Checksums");

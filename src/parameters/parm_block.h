@@ -35,11 +35,14 @@ class ParmBlock {
 // The sixteen blocks and what is shared with them; alive for the whole run.
 struct ParameterImage {
   ParmBlock EOL1, EOL2, EOL3, EOL4, EOL5, EOL6, EOL7, EOL9;
-  std::array<ParmBlock, 8> FCF;  // FCF1 to FCF8 at 0 to 7
+  ParmBlock FCF1, FCF2, FCF3, FCF4, FCF5, FCF6, FCF7, FCF8;
 
   bool bStopLightCable = false;        // a stop light activation cable is configured
   std::int16_t nNumAxlesSelected = 0;  // as chosen on the system page
   std::string strTrailerVIN;           // the vehicle id last accepted in the wizard, UTF-8
 };
+
+// A block by its place in the image: image.*kEOL1.
+using BlockName = ParmBlock ParameterImage::*;
 
 }  // namespace lorimet
