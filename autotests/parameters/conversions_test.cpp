@@ -80,9 +80,9 @@ TEST(Conversions, TyresCountTwentyFiveMillimetres) {
 }
 
 TEST(Conversions, LengthsArePairsOfTenths) {
-  EXPECT_EQ(LengthText(4, 210), "123.4");
-  EXPECT_EQ(LengthText(0, 0), "0");
-  EXPECT_EQ(LengthText(255, 255), "6553.5");
+  EXPECT_EQ(LengthText({4, 210}), "123.4");
+  EXPECT_EQ(LengthText({0, 0}), "0");
+  EXPECT_EQ(LengthText({255, 255}), "6553.5");
   const BytePair pair = LengthPair("123.4");
   EXPECT_EQ(pair.high, 4);
   EXPECT_EQ(pair.low, 210);
@@ -96,8 +96,8 @@ TEST(Conversions, EveryPairIsShownAndReadsBack) {
     const auto low = static_cast<std::uint8_t>(value % 256);
     std::string mm = std::to_string(value / 10);
     if (value % 10 != 0) mm += "." + std::to_string(value % 10);
-    ASSERT_EQ(LengthText(high, low), mm);
-    ASSERT_EQ(AxleLoadText(high, low), std::to_string(value));
+    ASSERT_EQ(LengthText({high, low}), mm);
+    ASSERT_EQ(AxleLoadText({high, low}), std::to_string(value));
     for (const BytePair& pair : {LengthPair(mm), AxleLoadPair(std::to_string(value))}) {
       ASSERT_EQ(pair.high, high) << value;
       ASSERT_EQ(pair.low, low) << value;

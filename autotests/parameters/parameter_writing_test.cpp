@@ -11,6 +11,7 @@
 #include "parameters/parameters_part.h"
 #include "support/support_part.h"
 #include "parameters/block_table.h"
+#include "parameters/record_refresh.h"
 
 namespace lorimet::testing_support {
 namespace {

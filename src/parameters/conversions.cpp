@@ -35,8 +35,8 @@ BytePair PairOf(double value) {
 
 double Psi(std::uint8_t byte) { return byte * kPsiPerCount; }
 
-double Millimetres(std::uint8_t high, std::uint8_t low) {
-  return (high * 256 + low) * kMillimetresPerCount;
+double Millimetres(const BytePair& pair) {
+  return (pair.high * 256 + pair.low) * kMillimetresPerCount;
 }
 
 std::string PressureText(std::uint8_t byte) { return FormatNumber(Psi(byte), "#0"); }
@@ -49,12 +49,10 @@ std::string ControlPressureText(std::uint8_t byte) {
   return FormatNumber(byte * 0.1 * kPsiPerBar, "#0");
 }
 
-std::string LengthText(std::uint8_t high, std::uint8_t low) {
-  return NumberText(Millimetres(high, low));
-}
+std::string LengthText(const BytePair& pair) { return NumberText(Millimetres(pair)); }
 
-std::string AxleLoadText(std::uint8_t high, std::uint8_t low) {
-  return std::to_string(high * 256 + low);
+std::string AxleLoadText(const BytePair& pair) {
+  return std::to_string(pair.high * 256 + pair.low);
 }
 
 std::string TyreText(std::uint8_t byte) { return std::to_string(byte * kMillimetresPerTyreCount); }
@@ -65,6 +63,10 @@ std::string BlockText(const ParmBlock& block, int first, int count) {
   std::string bytes;
   for (int i = 0; i < count; ++i) bytes += static_cast<char>(block(first + i));
   return FromCp1252(UntilNul(bytes));
+}
+
+std::string BlockText(const ParameterImage& image, const TextField& field) {
+  return BlockText(image.*field.block, field.index, field.size);
 }
 
 std::uint8_t UnladenSuspensionByte(std::string_view psi) {
@@ -94,6 +96,10 @@ void StoreBlockText(ParmBlock& block, int first, int count, std::string_view byt
     const auto at = static_cast<std::size_t>(i);
     block(first + i) = at < bytes.size() ? static_cast<std::uint8_t>(bytes[at]) : ' ';
   }
+}
+
+void StoreBlockText(ParameterImage& image, const TextField& field, std::string_view bytes) {
+  StoreBlockText(image.*field.block, field.index, field.size, bytes);
 }
 
 }  // namespace lorimet

@@ -8,7 +8,7 @@
 #include <string>
 #include <string_view>
 
-#include "parameters/parm_block.h"
+#include "parameters/block_fields.h"
 
 namespace lorimet {
 
@@ -16,8 +16,8 @@ namespace lorimet {
 
 // psi of a 0.1 bar byte.
 double Psi(std::uint8_t byte);
-// mm of a pair that counts 0.1 mm, high byte first.
-double Millimetres(std::uint8_t high, std::uint8_t low);
+// mm of a pair that counts 0.1 mm.
+double Millimetres(const BytePair& pair);
 // psi of a 0.1 bar byte, as a whole number.
 std::string PressureText(std::uint8_t byte);
 // The same by another order of the products, for the braking pressure Pm_AN.
@@ -25,15 +25,16 @@ std::string PressureTextPmAn(std::uint8_t byte);
 // The same in steps, for the control pressures.
 std::string ControlPressureText(std::uint8_t byte);
 // mm of a pair that counts 0.1 mm, with its tenths where there are any.
-std::string LengthText(std::uint8_t high, std::uint8_t low);
-// kg of an axle load pair, high byte first.
-std::string AxleLoadText(std::uint8_t high, std::uint8_t low);
+std::string LengthText(const BytePair& pair);
+// kg of an axle load pair.
+std::string AxleLoadText(const BytePair& pair);
 // mm of a tyre byte, which counts 25 mm.
 std::string TyreText(std::uint8_t byte);
 // Two packed decimal digits; the hexadecimal text where they are none.
 std::string PackedText(std::uint8_t byte);
 // Single-byte characters of a block as text, to the first NUL, blanks kept.
 std::string BlockText(const ParmBlock& block, int first, int count);
+std::string BlockText(const ParameterImage& image, const TextField& field);
 
 // --- From the screen. Error 13 for a text that is no number where a strict one is asked for,
 // error 6 for what does not fit the byte; all rounded with ties to even.
@@ -46,10 +47,6 @@ std::uint8_t PressureByte(std::string_view psi);
 std::uint8_t TyreByte(std::string_view mm);      // strict
 std::uint8_t TeethByte(std::string_view teeth);  // strict
 
-struct BytePair {
-  std::uint8_t high = 0;
-  std::uint8_t low = 0;
-};
 // From mm (strict): tenfold, rendered to text and read back.
 BytePair LengthPair(std::string_view mm);
 // From kg by the text's numeric value.
@@ -59,5 +56,6 @@ std::uint8_t PackedByte(std::string_view first, std::string_view second);
 
 // Copies single-byte characters (code page 1252) into a block, filled up with blanks to `count`.
 void StoreBlockText(ParmBlock& block, int first, int count, std::string_view bytes);
+void StoreBlockText(ParameterImage& image, const TextField& field, std::string_view bytes);
 
 }  // namespace lorimet

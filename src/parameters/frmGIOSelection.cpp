@@ -6,9 +6,19 @@
 #include "parameters/frmOVGParm2.h"
 #include "parameters/function_blocks.h"
 #include "parameters/gio_functions.h"
+#include "parameters/parameter_map.h"
 #include "support/dictionary.h"
 
 namespace lorimet {
+namespace {
+
+constexpr FieldWrite kAtLoad[] = {
+    PutByte(parameter::Connector(83), 0), PutByte(parameter::Connector(84), 0),
+    PutByte(parameter::GioValue(35), 3),  PutByte(parameter::GioValue(36), 3),
+    PutByte(parameter::GioValue(38), 1),
+};
+
+}  // namespace
 
 frmGIOSelection::frmGIOSelection(const WizardParts& parts)
     : Form(parts.desktop, "frmGIOSelection"), parts_(parts) {
@@ -24,13 +34,8 @@ frmGIOSelection::frmGIOSelection(const WizardParts& parts)
 void frmGIOSelection::OnLoad() {
   parts_.dictionary.TranslateForm(*this);
   CenterOnScreen();
-  ParameterImage& image = parts_.image;
-  ResetFunctionBlocks(image);
-  image.EOL5(83) = 0;
-  image.EOL5(84) = 0;
-  image.EOL3(35) = 3;
-  image.EOL3(36) = 3;
-  image.EOL3(38) = 1;
+  ResetFunctionBlocks(parts_.image);
+  ApplyWrites(kAtLoad, parts_.image);
   chkGIO[kGioDoorAjar].SetEnabled(false);
   chkGIO[kGioTagAxle].SetToolTipText(
       parts_.dictionary.Translate("GIO3, single port Y-cable, P/N 310 662 517 0"));

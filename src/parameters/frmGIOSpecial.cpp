@@ -2,85 +2,86 @@
 
 #include <cstdint>
 
-#include "parameters/block_writes.h"
 #include "parameters/frmSpeedSwitchThresh.h"
+#include "parameters/parameter_map.h"
 #include "support/dictionary.h"
 
 namespace lorimet {
 namespace {
 
-constexpr int kSpeedSwitch = 2;
+using namespace parameter;
+
+constexpr int kSpeedSwitchBox = 2;
 
 // A box shows as checked when all its bytes are these.
 struct Mark {
   int box;
-  BlockName block;
-  int index;
+  ByteField field;
   std::uint8_t value;
 };
 // clang-format off
 constexpr Mark kMarks[] = {
-    {0, kEOL1, 34,  54},
-    {0, kEOL1, 33,  10},
-    {0, kEOL5, 30, 147},
-    {0, kEOL5, 31, 145},
-    {1, kEOL5, 21, 161},
-    {1, kEOL5, 20,  65},
-    {2, kEOL3,  1,  21},
-    {2, kEOL2,  1,   1},
-    {2, kEOL3,  2,   0},
-    {2, kEOL3,  3,   1},
-    {2, kEOL3,  5,   7},
+    {0, kSuspensionLaden,       54},
+    {0, kSuspensionUnladen,     10},
+    {0, kHydraulicPin1,        147},
+    {0, kHydraulicPin2,        145},
+    {1, kConstantPowerPin,     161},
+    {1, kSharedPin,             65},
+    {2, kTurnOnSpeed,           21},
+    {2, kSpeedSwitch,            1},
+    {2, kTurnOffSpeed,           0},
+    {2, kSpeedSwitchMode,        1},
+    {2, kSpeedSwitchKind,        7},
 };
 
 // What a box writes when the dialog is closed.
 struct SpecialWrite {
   int box;
   bool checked;
-  BlockWrite write;
+  FieldWrite write;
 };
 constexpr SpecialWrite kSpecialWrites[] = {
-    {0, true,  PutBits(kEOL2,   3, 0x40)},
-    {0, true,  PutByte(kEOL2,   5,  160)},
-    {0, true,  PutByte(kEOL5,  30,  147)},
-    {0, true,  PutByte(kEOL5,  31,  145)},
-    {0, false, ClearBits(kEOL2, 3, 0x40)},
-    {0, false, PutByte(kEOL2,   5,  176)},
-    {0, false, PutByte(kEOL5,  30,    0)},
-    {0, false, PutByte(kEOL5,  31,    0)},
+    {0, true,  SetBits(kHydraulicSensor)},
+    {0, true,  PutByte(kGuardOptions,         160)},
+    {0, true,  PutByte(kHydraulicPin1,        147)},
+    {0, true,  PutByte(kHydraulicPin2,        145)},
+    {0, false, ClearBits(kHydraulicSensor)},
+    {0, false, PutByte(kGuardOptions,         176)},
+    {0, false, PutByte(kHydraulicPin1,          0)},
+    {0, false, PutByte(kHydraulicPin2,          0)},
 
-    {1, true,  PutByte(kEOL5,  20,   65)},
-    {1, true,  PutByte(kEOL5,  21,  161)},
-    {1, true,  PutBits(kEOL2,   3, 0x01)},
-    {1, false, PutByte(kEOL5,  21,    0)},
-    {1, false, ClearBits(kEOL2, 3, 0x01)},
+    {1, true,  PutByte(kSharedPin,             65)},
+    {1, true,  PutByte(kConstantPowerPin,     161)},
+    {1, true,  SetBits(kConstantPower)},
+    {1, false, PutByte(kConstantPowerPin,       0)},
+    {1, false, ClearBits(kConstantPower)},
 
-    {2, true,  PutByte(kEOL2,   1,    1)},
-    {2, true,  PutByte(kEOL3,   3,    1)},
-    {2, true,  PutByte(kEOL3,   5,    7)},
-    {2, true,  PutByte(kEOL5,   1,  177)},
-    {2, false, PutByte(kEOL2,   1,    0)},
-    {2, false, PutByte(kEOL3,   1,   15)},
-    {2, false, PutByte(kEOL3,   2,   10)},
-    {2, false, PutByte(kEOL3,   3,    2)},
-    {2, false, PutByte(kEOL5,   1,    0)},
+    {2, true,  PutByte(kSpeedSwitch,            1)},
+    {2, true,  PutByte(kSpeedSwitchMode,        1)},
+    {2, true,  PutByte(kSpeedSwitchKind,        7)},
+    {2, true,  PutByte(kSpeedSwitchPin,       177)},
+    {2, false, PutByte(kSpeedSwitch,            0)},
+    {2, false, PutByte(kTurnOnSpeed,           15)},
+    {2, false, PutByte(kTurnOffSpeed,          10)},
+    {2, false, PutByte(kSpeedSwitchMode,        2)},
+    {2, false, PutByte(kSpeedSwitchPin,         0)},
 };
 
 // What is written in every case, the suspension pressures first of all.
-constexpr BlockWrite kAlways[] = {
-    PutByte(kEOL1, 33,  10),
-    PutByte(kEOL1, 34,  54),
-    PutByte(kEOL5, 39, 209),
-    PutByte(kEOL5, 40, 211),
-    PutByte(kEOL5, 41, 212),
-    PutByte(kEOL3, 35,   3),
-    PutByte(kEOL3, 36,   3),
+constexpr FieldWrite kAlways[] = {
+    PutByte(kSuspensionUnladen,     10),
+    PutByte(kSuspensionLaden,       54),
+    PutByte(Connector(39),         209),
+    PutByte(Connector(40),         211),
+    PutByte(Connector(41),         212),
+    PutByte(GioValue(35),            3),
+    PutByte(GioValue(36),            3),
 };
 // clang-format on
 
 bool IsMarked(int box, const ParameterImage& image) {
   for (const Mark& mark : kMarks)
-    if (mark.box == box && (image.*mark.block)(mark.index) != mark.value) return false;
+    if (mark.box == box && mark.field.In(image) != mark.value) return false;
   return true;
 }
 
@@ -103,7 +104,7 @@ void frmGIOSpecial::OnLoad() {
 }
 
 void frmGIOSpecial::OnFunction(int index) {
-  if (loading_ || index != kSpeedSwitch || !chkPerkins[index].Value()) return;
+  if (loading_ || index != kSpeedSwitchBox || !chkPerkins[index].Value()) return;
   parts_.pages.speed_switch->Show(Modality::kModal, this);
 }
 

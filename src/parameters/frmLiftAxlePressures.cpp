@@ -1,7 +1,7 @@
 #include "parameters/frmLiftAxlePressures.h"
 
 #include "parameters/memory_word.h"
-#include "parameters/parm_block.h"
+#include "parameters/parameter_map.h"
 #include "support/dictionary.h"
 #include "support/numbers.h"
 
@@ -13,12 +13,16 @@ constexpr MemoryAddress kLiftingAddress{2, 7, 0x10};
 constexpr double kCounts = 5120;  // are 14 psi
 constexpr double kPsi = 14;
 constexpr int kLeastDifference = 5;  // psi
-constexpr int kLoweringIndex = 16;   // of FCF1, high byte first
-constexpr int kLiftingIndex = 18;
 
 std::string PressureOf(const MemoryWord& word, const char* unknown) {
   if (word.first == 0 && word.second == 0) return unknown;
   return FormatNumber((word.first * 256 + word.second) / kCounts * kPsi, "#0");
+}
+
+// Error 6 from 90 psi on, whose counts do not fit.
+BytePair CountsOf(std::int16_t psi) {
+  const std::int16_t counts = ToInteger(psi / kPsi * kCounts);
+  return {ToByte(counts / 256), ToByte(counts % 256)};
 }
 
 std::int16_t WholePsi(const TextBox& field) { return ToInteger(StrictNumber(field.Text())); }
@@ -58,19 +62,9 @@ void frmLiftAxlePressures::OnAccept() {
                      "Invalid Values");
     return;
   }
-  Store(lowering, kLoweringIndex);
-  Store(lifting, kLiftingIndex);
+  parameter::kLoweringPressure.Put(parts_.image, CountsOf(lowering));
+  parameter::kLiftingPressure.Put(parts_.image, CountsOf(lifting));
   Unload();
-}
-
-// Error 6 from 90 psi on, whose counts do not fit.
-void frmLiftAxlePressures::Store(std::int16_t psi, int index) {
-  const std::int16_t counts = ToInteger(psi / kPsi * kCounts);
-  ParmBlock& block = parts_.image.FCF1;
-  const int high = counts / 256;
-  const int low = counts % 256;
-  block(index) = ToByte(high);
-  block(index + 1) = ToByte(low);
 }
 
 }  // namespace lorimet

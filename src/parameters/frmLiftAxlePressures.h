@@ -1,8 +1,6 @@
 // The dialog of the pressures at which the lift axle is lowered and lifted.
 #pragma once
 
-#include <cstdint>
-
 #include "parameters/range_check.h"
 #include "parameters/wizard.h"
 #include "platform/forms.h"
@@ -24,7 +22,6 @@ class frmLiftAxlePressures : public Form {
 
  private:
   void OnAccept();
-  void Store(std::int16_t psi, int index);
 
   WizardParts parts_;
   RangeChecks checks_;

@@ -1,20 +1,18 @@
 #include "parameters/frmOVGParm1.h"
 
-#include "parameters/block_writes.h"
 #include "parameters/frmGIOSelection.h"
 #include "parameters/frmOVGParm2.h"
-#include "parameters/parameter_reading.h"
+#include "parameters/parameter_map.h"
 #include "session/ecu_data.h"
 #include "support/dictionary.h"
 
 namespace lorimet {
 namespace {
 
-constexpr int kRows = 5;   // of the axle definition
-constexpr int kAxles = 3;  // with a record in the image
+using namespace parameter;
+
+constexpr int kRows = 5;  // of the axle definition
 constexpr const char* kBlank = " ";
-constexpr unsigned kStopLightBit = 0x20;  // EOL2(2)
-constexpr unsigned kCableBit = 0x04;      // EOL9(2)
 
 // The diagram row of an axle by the number of axles, one to three; -1 is not drawn.
 // clang-format off
@@ -144,11 +142,11 @@ void frmOVGParm1::LoadAxles() {
 void frmOVGParm1::LoadStopLightCable() {
   const ParameterImage& image = parts_.image;
   const bool present = image.EOL9.bNumBytes != 0;
-  const bool configured = present && (image.EOL9(2) & kCableBit) != 0 && image.EOL9(15) == 'I' &&
-                          image.EOL3(33) == 3 && image.EOL5(18) > 0 &&
-                          (image.EOL2(2) & kStopLightBit) != 0;
+  const bool configured = present && kStopLightInstalled.In(image) != 0 &&
+                          kStopLightLetter.In(image) == 'I' && kStopLightMode.In(image) == 3 &&
+                          kStopLightPin.In(image) > 0 && kStopLightOption.In(image) != 0;
   frameSLAC.SetEnabled(present);
-  const int item = image.EOL5(18) == 177 ? 1 : 0;
+  const int item = kStopLightPin.In(image) == 177 ? 1 : 0;
   optSLAC[configured ? item : 2].SetValue(true);
   parts_.image.bStopLightCable = configured;
 }
@@ -161,12 +159,13 @@ void frmOVGParm1::OnQueryUnload(bool& cancel, UnloadMode) {
 
 void frmOVGParm1::OnVehicleType(int index) {
   if (bLoading) return;
-  SetBits(parts_.image.EOL1, 1, 0x03, static_cast<unsigned>(index));
+  kVehicleType.Put(parts_.image, index);
 }
 
 void frmOVGParm1::OnModularMounting() {
   if (bLoading) return;
-  SetBits(parts_.image.EOL1, 1, 0xC0, chkModularMounting.Value() ? 0u : 0x80u);
+  kMounting.Put(parts_.image, 0);
+  kRearMounted.Put(parts_.image, chkModularMounting.Value() ? 0 : 1);
   ShowMounting();
   UpdateDisplay();
 }
@@ -181,14 +180,14 @@ void frmOVGParm1::OnABSSystem(int index) {
     optSensorEF[0].SetEnabled(true);
     optSensorEF[1].SetEnabled(true);
   }
-  SetBits(parts_.image.EOL1, 1, 0x1C, static_cast<unsigned>(index) << 2);
+  kAbsSystem.Put(parts_.image, index);
   UpdateDisplay();
 }
 
 void frmOVGParm1::OnSuspensionType(int index) {
   if (bLoading) return;
-  SetBits(parts_.image.EOL1, 1, 0x20, static_cast<unsigned>(index) << 5);
-  SetBits(parts_.image.EOL2, 3, 0xC0, 0);
+  kMechanical.Put(parts_.image, index);
+  kSuspensionInputs.Put(parts_.image, 0);
   ApplySuspension(index == 1);
 }
 
@@ -229,11 +228,11 @@ void frmOVGParm1::OnStopLightCable() {
 
 void frmOVGParm1::ApplySuspension(bool mechanical) {
   ParameterImage& image = parts_.image;
-  SetBits(image.EOL2, 4, 0x03, mechanical ? 1u : 0u);
-  SetBits(image.EOL2, 5, 0x10, mechanical ? 0u : 0x10u);
+  kPathSensing.Put(image, mechanical ? 1 : 0);
+  kBellowsSensing.Put(image, mechanical ? 0 : 1);
   const bool one_modulator = parts_.ecu_data.bNumModulators.Load() == 1;
-  const std::uint8_t sensor = one_modulator ? 20 : 148;
-  image.EOL5(34) = mechanical ? sensor : std::uint8_t{0};
+  const int sensor = one_modulator ? 20 : 148;
+  kSuspensionPin.Put(image, mechanical ? sensor : 0);
 }
 
 // --- The diagram ---------------------------------------------------------------------------------
@@ -292,12 +291,14 @@ void frmOVGParm1::UpdateDisplay() {
 // --- Leaving -------------------------------------------------------------------------------------
 
 void frmOVGParm1::StoreAxle(int axle) {
-  unsigned bits = 0;
-  if (optSensorCD[axle].Value() && optSensorCD[axle].Enabled()) bits += 0x10;
-  if (optSensorEF[axle].Value() && optSensorEF[axle].Enabled()) bits += 0x20;
-  if (chkLiftAxle1[axle].Value()) bits += 1;
-  if (chkLiftAxle2[axle].Value()) bits += 3;
-  SetBits(parts_.image.EOL1, AxleByte(axle), 0x37, bits);
+  int sensors = 0;
+  if (optSensorCD[axle].Value() && optSensorCD[axle].Enabled()) sensors += 1;
+  if (optSensorEF[axle].Value() && optSensorEF[axle].Enabled()) sensors += 2;
+  AxleSensors(axle).Put(parts_.image, sensors);
+  int lift = 0;
+  if (chkLiftAxle1[axle].Value()) lift += 1;
+  if (chkLiftAxle2[axle].Value()) lift += 3;
+  AxleLift(axle).Put(parts_.image, lift);
 }
 
 void frmOVGParm1::OnNext() {

@@ -4,7 +4,7 @@
 #include "parameters/frmGIOSelection.h"
 #include "parameters/frmOVGParm1.h"
 #include "parameters/frmOVGParm3.h"
-#include "parameters/parm_block.h"
+#include "parameters/parameter_map.h"
 #include "session/ecu_data.h"
 #include "support/dictionary.h"
 #include "support/numbers.h"
@@ -13,11 +13,10 @@
 namespace lorimet {
 namespace {
 
+using namespace parameter;
+
 constexpr double kAnything = 1e300;
 constexpr int kRows = 5;
-constexpr int kVehicleIdSize = 18;
-constexpr int kManufacturerSize = 20;
-constexpr int kTrailerTypeSize = 20;
 constexpr const char* kControlPressureUnladen = "94";  // psi
 
 std::string Front(const std::string& text, std::size_t count) { return text.substr(0, count); }
@@ -32,9 +31,9 @@ std::uint8_t Packed(const std::string& digits) {
 }
 
 // Single-byte characters, filled up with blanks to the field's size.
-std::string FieldOf(const std::string& text, std::size_t size) {
+std::string FieldOf(const std::string& text, const TextField& field) {
   std::string bytes = ToCp1252(text);
-  bytes.resize(size, ' ');
+  bytes.resize(static_cast<std::size_t>(field.size), ' ');
   return bytes;
 }
 
@@ -121,12 +120,13 @@ void frmOVGParm2::ShowDiagram() {
 }
 
 void frmOVGParm2::ShowIdentity() {
-  const ParmBlock& trailer = parts_.image.EOL7;
-  txtProdYear.SetText(PackedText(trailer(1)) + PackedText(trailer(2)));
-  txtProdWeek.SetText(PackedText(trailer(3)));
-  txtTrailerVIN.SetText(BlockText(trailer, 4, kVehicleIdSize));
-  txtManufacturer.SetText(BlockText(trailer, 22, kManufacturerSize));
-  txtTrailerType.SetText(BlockText(trailer, 42, kTrailerTypeSize));
+  const ParameterImage& image = parts_.image;
+  txtProdYear.SetText(PackedText(kProductionCentury.In(image)) +
+                      PackedText(kProductionYear.In(image)));
+  txtProdWeek.SetText(PackedText(kProductionWeek.In(image)));
+  txtTrailerVIN.SetText(BlockText(image, kVehicleId));
+  txtManufacturer.SetText(BlockText(image, kManufacturer));
+  txtTrailerType.SetText(BlockText(image, kTrailerType));
 }
 
 void frmOVGParm2::ShowSuspensionKind() {
@@ -138,30 +138,27 @@ void frmOVGParm2::ShowSuspensionKind() {
 }
 
 void frmOVGParm2::ShowAxle(int i) {
-  const ParmBlock& vehicle = parts_.image.EOL1;
-  const int at = 6 * i;
-  txtAxleLoadUnladen[i].SetText(AxleLoadText(vehicle(3 + at), vehicle(4 + at)));
-  txtAxleLoadLaden[i].SetText(AxleLoadText(vehicle(5 + at), vehicle(6 + at)));
+  const ParameterImage& image = parts_.image;
+  txtAxleLoadUnladen[i].SetText(AxleLoadText(AxleLoadUnladen(i).In(image)));
+  txtAxleLoadLaden[i].SetText(AxleLoadText(AxleLoadLaden(i).In(image)));
   if (bAirSuspension_) {
-    txtSuspensionPressUnladen[i].SetText(PressureText(vehicle(33)));
-    txtSuspensionPressLaden[i].SetText(PressureText(vehicle(34)));
+    txtSuspensionPressUnladen[i].SetText(PressureText(kSuspensionUnladen.In(image)));
+    txtSuspensionPressLaden[i].SetText(PressureText(kSuspensionLaden.In(image)));
   } else {
     txtSuspensionPressUnladen[i].SetText("0");
-    txtSuspensionPressLaden[i].SetText(LengthText(vehicle(68), vehicle(69)));
-    txtLeverLength[i].SetText(LengthText(vehicle(64), vehicle(65)));
+    txtSuspensionPressLaden[i].SetText(LengthText(kSuspensionPath.In(image)));
+    txtLeverLength[i].SetText(LengthText(kLeverLength.In(image)));
   }
-  txtBrakingPressLadenPm_AN[i].SetText(PressureTextPmAn(vehicle(42)));
-  txtBrakingPressLadenPm_K1[i].SetText(PressureText(vehicle(43)));
-  txtBrakingPressLadenPm_Max[i].SetText(PressureText(vehicle(45)));
-  txtBrakingPressUnladen[i].SetText(PressureText(vehicle(46)));
+  txtBrakingPressLadenPm_AN[i].SetText(PressureTextPmAn(kBrakingLadenPmAn.In(image)));
+  txtBrakingPressLadenPm_K1[i].SetText(PressureText(kBrakingLadenPmK1.In(image)));
+  txtBrakingPressLadenPm_Max[i].SetText(PressureText(kBrakingLadenPmMax.In(image)));
+  txtBrakingPressUnladen[i].SetText(PressureText(kBrakingUnladen.In(image)));
 }
 
 void frmOVGParm2::ShowControlPressures() {
-  const ParmBlock& vehicle = parts_.image.EOL1;
   txtControlPressureUnladen[0].SetText(kControlPressureUnladen);
-  txtControlPressureLaden[0].SetText(ControlPressureText(vehicle(38)));
-  txtControlPressureLaden[1].SetText(ControlPressureText(vehicle(39)));
-  txtControlPressureLaden[2].SetText(ControlPressureText(vehicle(41)));
+  for (int i = 0; i < txtControlPressureLaden.Size(); ++i)
+    txtControlPressureLaden[i].SetText(ControlPressureText(kControlPressure[i].In(parts_.image)));
 }
 
 void frmOVGParm2::Next() {
@@ -176,61 +173,51 @@ void frmOVGParm2::Next() {
 
 // Always all three: the empty rows of axles that are not there clear their loads.
 void frmOVGParm2::StoreAxleLoads() {
-  ParmBlock& vehicle = parts_.image.EOL1;
-  for (int a = 0; a < 3; ++a) {
-    const BytePair unladen = AxleLoadPair(txtAxleLoadUnladen[a].Text());
-    vehicle(3 + 6 * a) = unladen.high;
-    vehicle(4 + 6 * a) = unladen.low;
-    const BytePair laden = AxleLoadPair(txtAxleLoadLaden[a].Text());
-    vehicle(5 + 6 * a) = laden.high;
-    vehicle(6 + 6 * a) = laden.low;
+  for (int a = 0; a < kAxles; ++a) {
+    AxleLoadUnladen(a).Put(parts_.image, AxleLoadPair(txtAxleLoadUnladen[a].Text()));
+    AxleLoadLaden(a).Put(parts_.image, AxleLoadPair(txtAxleLoadLaden[a].Text()));
   }
 }
 
 void frmOVGParm2::StoreSuspension() {
-  ParmBlock& vehicle = parts_.image.EOL1;
+  ParameterImage& image = parts_.image;
   if (bAirSuspension_) {
-    vehicle(33) = UnladenSuspensionByte(txtSuspensionPressUnladen[0].Text());
-    vehicle(34) = PressureByte(txtSuspensionPressLaden[0].Text());
+    kSuspensionUnladen.Put(image, UnladenSuspensionByte(txtSuspensionPressUnladen[0].Text()));
+    kSuspensionLaden.Put(image, PressureByte(txtSuspensionPressLaden[0].Text()));
     return;
   }
-  const BytePair path = LengthPair(txtSuspensionPressLaden[0].Text());
-  vehicle(68) = path.high;
-  vehicle(69) = path.low;
-  const BytePair lever = LengthPair(txtLeverLength[0].Text());
-  vehicle(64) = lever.high;
-  vehicle(65) = lever.low;
+  kSuspensionPath.Put(image, LengthPair(txtSuspensionPressLaden[0].Text()));
+  kLeverLength.Put(image, LengthPair(txtLeverLength[0].Text()));
 }
 
 void frmOVGParm2::StoreBrakingPressures() {
-  ParmBlock& vehicle = parts_.image.EOL1;
-  vehicle(42) = PressureByte(txtBrakingPressLadenPm_AN[0].Text());
-  vehicle(43) = PressureByte(txtBrakingPressLadenPm_K1[0].Text());
-  vehicle(45) = PressureByte(txtBrakingPressLadenPm_Max[0].Text());
-  vehicle(46) = PressureByte(txtBrakingPressUnladen[0].Text());
+  ParameterImage& image = parts_.image;
+  kBrakingLadenPmAn.Put(image, PressureByte(txtBrakingPressLadenPm_AN[0].Text()));
+  kBrakingLadenPmK1.Put(image, PressureByte(txtBrakingPressLadenPm_K1[0].Text()));
+  kBrakingLadenPmMax.Put(image, PressureByte(txtBrakingPressLadenPm_Max[0].Text()));
+  kBrakingUnladen.Put(image, PressureByte(txtBrakingPressUnladen[0].Text()));
 }
 
 void frmOVGParm2::StoreProductionDate() {
-  ParmBlock& trailer = parts_.image.EOL7;
   // In single-byte characters, so that any letter counts as one.
   const std::string year = ToCp1252(txtProdYear.Text());
-  trailer(1) = Packed(Front(year, 2));
-  trailer(2) = Packed(Back(year, 2));
+  kProductionCentury.Put(parts_.image, Packed(Front(year, 2)));
+  kProductionYear.Put(parts_.image, Packed(Back(year, 2)));
   // A single digit is the left and the right one: "7" is 0x77.
-  trailer(3) = Packed(ToCp1252(txtProdWeek.Text()));
+  kProductionWeek.Put(parts_.image, Packed(ToCp1252(txtProdWeek.Text())));
 }
 
 void frmOVGParm2::StoreIdentity() {
-  ParmBlock& trailer = parts_.image.EOL7;
-  parts_.image.strTrailerVIN = txtTrailerVIN.Text();
+  ParameterImage& image = parts_.image;
+  image.strTrailerVIN = txtTrailerVIN.Text();
   const std::string vehicle_id = ToCp1252(Trim(txtTrailerVIN.Text()));
-  StoreBlockText(trailer, 4, kVehicleIdSize, vehicle_id);
+  StoreBlockText(image, kVehicleId, vehicle_id);
   parts_.ecu_data.VehicleId.Store(vehicle_id, ' ');
-  const std::string manufacturer = FieldOf(txtManufacturer.Text(), kManufacturerSize);
-  StoreBlockText(trailer, 22, kManufacturerSize, manufacturer);
+  const std::string manufacturer = FieldOf(txtManufacturer.Text(), kManufacturer);
+  StoreBlockText(image, kManufacturer, manufacturer);
   parts_.ecu_data.Manufacturer.Store(manufacturer);
-  const std::string type = FieldOf(txtTrailerType.Text(), kTrailerTypeSize);
-  StoreBlockText(trailer, 42, kTrailerTypeSize, type);
+  const std::string type = FieldOf(txtTrailerType.Text(), kTrailerType);
+  StoreBlockText(image, kTrailerType, type);
   parts_.ecu_data.TrailerType.Store(type);
 }
 

@@ -5,14 +5,17 @@
 #include "parameters/frmOVGParm1.h"
 #include "parameters/frmOVGParm2.h"
 #include "parameters/parameter_file.h"
+#include "parameters/parameter_map.h"
 #include "parameters/parameter_writing.h"
-#include "parameters/parm_block.h"
+#include "parameters/record_refresh.h"
 #include "platform/desktop.h"
 #include "session/ecu_data.h"
 #include "support/dictionary.h"
 
 namespace lorimet {
 namespace {
+
+using namespace parameter;
 
 // Items of optOVGStatus.
 constexpr int kNotAvailable = 0;
@@ -23,13 +26,6 @@ constexpr int kTwinTires = 3;
 // Items of the system page's optSLAC.
 constexpr int kLevel2Output = 1;
 constexpr int kNoCable = 2;
-
-constexpr std::uint8_t Without(std::uint8_t byte, int bits) {
-  return static_cast<std::uint8_t>(byte & ~bits);
-}
-constexpr std::uint8_t With(std::uint8_t byte, int bits) {
-  return static_cast<std::uint8_t>(byte | bits);
-}
 
 }  // namespace
 
@@ -59,63 +55,56 @@ frmOVGParm3::frmOVGParm3(const WizardParts& parts, Clock& clock, Faults& faults,
 void frmOVGParm3::OnLoad() {
   parts_.dictionary.TranslateForm(*this);
   CenterOnScreen();
-  const ParmBlock& vehicle = parts_.image.EOL1;
+  const ParameterImage& image = parts_.image;
   optOVGStatus[kNotAvailable].SetEnabled(false);
-  const bool on = (parts_.image.EOL2(5) & 0x80) != 0;
-  const bool twin = (vehicle(62) & 0x01) != 0;
+  const bool on = kOverturnGuard.In(image) != 0;
+  const bool twin = kTwinTyres.In(image) != 0;
   optOVGStatus[!on ? kOff : twin ? kTwinTires : kSingleTires].SetValue(true);
   const frmOVGParm1& system = *parts_.pages.system;
   if (system.optABSSystem[0].Value() || system.optABSSystem[4].Value()) {
     txtTireSize[1].SetEnabled(false);
     txtNumTeeth[1].SetEnabled(false);
   }
-  txtTireSize[0].SetText(TyreText(vehicle(55)));
-  txtTireSize[1].SetText(TyreText(vehicle(56)));
-  txtNumTeeth[0].SetText(std::to_string(vehicle(58)));
-  txtNumTeeth[1].SetText(std::to_string(vehicle(59)));
+  for (int i = 0; i < 2; ++i) {
+    txtTireSize[i].SetText(TyreText(kTyreSize[i].In(image)));
+    txtNumTeeth[i].SetText(std::to_string(kNumTeeth[i].In(image)));
+  }
 }
 
 void frmOVGParm3::GetSettingsFromGUI() {
   StoreOverturnGuard();
-  ParmBlock& vehicle = parts_.image.EOL1;
-  vehicle(55) = TyreByte(txtTireSize[0].Text());
-  vehicle(56) = TyreByte(txtTireSize[1].Text());
-  vehicle(58) = TeethByte(txtNumTeeth[0].Text());
-  vehicle(59) = TeethByte(txtNumTeeth[1].Text());
+  for (int i = 0; i < 2; ++i) kTyreSize[i].Put(parts_.image, TyreByte(txtTireSize[i].Text()));
+  for (int i = 0; i < 2; ++i) kNumTeeth[i].Put(parts_.image, TeethByte(txtNumTeeth[i].Text()));
   StoreStopLight();
 }
 
 // With the guard off, the kind of tyres keeps its last value.
 void frmOVGParm3::StoreOverturnGuard() {
-  ParmBlock& vehicle = parts_.image.EOL1;
-  ParmBlock& guard = parts_.image.EOL2;
-  guard(5) = Without(guard(5), 0x80);
   const bool twin = optOVGStatus[kTwinTires].Value();
-  if (!twin && !optOVGStatus[kSingleTires].Value()) return;
-  guard(5) = With(guard(5), 0x80);
-  vehicle(62) = twin ? With(vehicle(62), 0x01) : Without(vehicle(62), 0x01);
+  const bool on = twin || optOVGStatus[kSingleTires].Value();
+  kOverturnGuard.Put(parts_.image, on ? 1 : 0);
+  if (on) kTwinTyres.Put(parts_.image, twin ? 1 : 0);
 }
 
 void frmOVGParm3::StoreStopLight() {
   ParameterImage& image = parts_.image;
   const frmOVGParm1& system = *parts_.pages.system;
   if (!system.optSLAC[kNoCable].Value()) {
-    image.EOL9(2) = With(image.EOL9(2), 0x04);
-    image.EOL9(15) = 'I';
-    image.EOL3(33) = 3;
-    image.EOL5(18) = system.optSLAC[kLevel2Output].Value() ? 177 : 65;
-    image.EOL2(2) = With(Without(image.EOL2(2), 0x80), 0x20);
+    kStopLightInstalled.Put(image, 1);
+    kStopLightLetter.Put(image, 'I');
+    kStopLightMode.Put(image, 3);
+    kStopLightPin.Put(image, system.optSLAC[kLevel2Output].Value() ? 177 : 65);
+    kSharedOutput.Put(image, 0);
+    kStopLightOption.Put(image, 1);
     return;
   }
   // What the page of the functions has put into these two bytes is given up.
-  image.EOL2(2) = 0;
-  image.EOL5(20) = 0;
-  if (parts_.ecu_data.bNumModulators.Load() > 1) {
-    image.EOL2(2) = With(image.EOL2(2), 0x80);
-    image.EOL5(20) = 65;
-  }
-  image.EOL5(18) = 0;
-  image.EOL3(33) = 7;
+  const bool shared = parts_.ecu_data.bNumModulators.Load() > 1;
+  kOutputOptions.Put(image, 0);
+  kSharedOutput.Put(image, shared ? 1 : 0);
+  kSharedPin.Put(image, shared ? 65 : 0);
+  kStopLightPin.Put(image, 0);
+  kStopLightMode.Put(image, 7);
 }
 
 void frmOVGParm3::SaveToEcu() {

@@ -4,7 +4,7 @@
 #include <string>
 
 #include "parameters/memory_word.h"
-#include "parameters/parm_block.h"
+#include "parameters/parameter_map.h"
 #include "support/dictionary.h"
 #include "support/numbers.h"
 
@@ -56,8 +56,8 @@ void frmSpeedSwitchThresh::OnAccept() {
                      "Invalid Values");
     return;
   }
-  parts_.image.EOL3(1) = ToByte(turn_on);
-  parts_.image.EOL3(2) = ToByte(turn_off);
+  parameter::kTurnOnSpeed.Put(parts_.image, ToByte(turn_on));
+  parameter::kTurnOffSpeed.Put(parts_.image, ToByte(turn_off));
   Unload();
 }
 

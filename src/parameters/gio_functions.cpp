@@ -5,80 +5,80 @@
 #include <string_view>
 
 #include "parameters/block_table.h"
-#include "parameters/block_writes.h"
 #include "parameters/function_blocks.h"
+#include "parameters/parameter_map.h"
 
 namespace lorimet {
 namespace {
 
-constexpr int kFirstConnector = 85;
-constexpr int kLastConnector = 108;
+using namespace parameter;
+
 constexpr std::uint8_t kNoConnector = 255;
 
 struct GioWrite {
   int item;
-  BlockWrite write;
+  FieldWrite write;
 };
 
 // The bytes outside the function blocks. The rows of the special functions hold for the box that is
 // not checked.
 // clang-format off
 constexpr GioWrite kGioWrites[] = {
-    {0, PutByte(kEOL2,   8,   6)},
-    {0, PutByte(kEOL2,   2, 128)},
-    {0, PutByte(kEOL5,  20,  65)},
-    {0, PutByte(kEOL5,  39, 209)},
-    {0, PutByte(kEOL5,  40, 211)},
-    {0, PutByte(kEOL5,  41, 212)},
-    {0, PutByte(kEOL5, 103, 161)},
+    {0, PutByte(kGioMask2,               6)},
+    {0, PutByte(kOutputOptions,        128)},
+    {0, PutByte(kSharedPin,             65)},
+    {0, PutByte(Connector(39),         209)},
+    {0, PutByte(Connector(40),         211)},
+    {0, PutByte(Connector(41),         212)},
+    {0, PutByte(Connector(103),        161)},
 
-    {1, PutBits(kEOL2,   7, 0xF8)},
-    {1, PutByte(kEOL3,  35,   7)},
-    {1, PutByte(kEOL3,  38,   0)},
-    {1, PutByte(kEOL5,  20,   0)},
-    {1, PutByte(kEOL5,  89, 179)},
-    {1, PutByte(kEOL5,  99, 177)},
+    {1, SetBits(kGioMask1,            0xF8)},
+    {1, PutByte(GioValue(35),            7)},
+    {1, PutByte(GioValue(38),            0)},
+    {1, PutByte(kSharedPin,              0)},
+    {1, PutByte(Connector(89),         179)},
+    {1, PutByte(Connector(99),         177)},
 
-    {2, PutBits(kEOL2,   8, 0x02)},
-    {2, PutByte(kEOL5,  20,   0)},
-    {2, PutByte(kEOL5, 105,  65)},
+    {2, SetBits(kGioMask2,            0x02)},
+    {2, PutByte(kSharedPin,              0)},
+    {2, PutByte(Connector(105),         65)},
 
-    {3, PutByte(kEOL5,  20,   0)},
+    {3, PutByte(kSharedPin,              0)},
 
-    {4, PutByte(kEOL5,  39,   0)},
-    {4, PutByte(kEOL5,  40,   0)},
-    {4, PutByte(kEOL5,  41,   0)},
-    {4, PutByte(kEOL2,   7, 224)},
-    {4, PutByte(kEOL2,   8,   3)},
-    {4, PutByte(kEOL5,  91, 145)},
-    {4, PutByte(kEOL5,  94, 177)},
+    {4, PutByte(Connector(39),           0)},
+    {4, PutByte(Connector(40),           0)},
+    {4, PutByte(Connector(41),           0)},
+    {4, PutByte(kGioMask1,             224)},
+    {4, PutByte(kGioMask2,               3)},
+    {4, PutByte(Connector(91),         145)},
+    {4, PutByte(Connector(94),         177)},
 
-    {5, PutByte(kEOL2,   7, 248)},
-    {5, PutByte(kEOL2,   8,   3)},
-    {5, PutBits(kEOL2,   3, 0x40)},
-    {5, PutByte(kEOL5,  91, 145)},
-    {5, PutByte(kEOL5,  94, 177)},
-    {5, PutByte(kEOL5,  85, 161)},
+    {5, PutByte(kGioMask1,             248)},
+    {5, PutByte(kGioMask2,               3)},
+    {5, SetBits(kHydraulicSensor)},
+    {5, PutByte(Connector(91),         145)},
+    {5, PutByte(Connector(94),         177)},
+    {5, PutByte(Connector(85),         161)},
 
-    {6, PutByte(kEOL2,   2, 128)},
-    {6, PutByte(kEOL2,   7, 248)},
-    {6, PutByte(kEOL2,   8,   1)},
-    {6, PutByte(kEOL5,  93, 145)},
-    {6, PutByte(kEOL5,  96, 161)},
-    {6, PutByte(kEOL5,  98, 147)},
-    {6, PutByte(kEOL3,  35,   3)},
-    {6, PutByte(kEOL3,  36,   3)},
+    {6, PutByte(kOutputOptions,        128)},
+    {6, PutByte(kGioMask1,             248)},
+    {6, PutByte(kGioMask2,               1)},
+    {6, PutByte(Connector(93),         145)},
+    {6, PutByte(Connector(96),         161)},
+    {6, PutByte(Connector(98),         147)},
+    {6, PutByte(GioValue(35),            3)},
+    {6, PutByte(GioValue(36),            3)},
 
-    {8, ClearBits(kEOL2, 3, 0x41)},
-    {8, PutByte(kEOL2,   5, 176)},
-    {8, PutByte(kEOL5,  30,   0)},
-    {8, PutByte(kEOL5,  31,   0)},
-    {8, PutByte(kEOL5,  21,   0)},
-    {8, ClearBits(kEOL2, 1, 0x01)},
-    {8, PutByte(kEOL3,   1,  15)},
-    {8, PutByte(kEOL3,   2,  10)},
-    {8, PutByte(kEOL3,   3,   2)},
-    {8, PutByte(kEOL5,   1,   0)},
+    {8, ClearBits(kSpecialFunctions)},
+    {8, PutByte(kGuardOptions,         176)},
+    {8, PutByte(kHydraulicPin1,          0)},
+    {8, PutByte(kHydraulicPin2,          0)},
+    {8, PutByte(kConstantPowerPin,       0)},
+    {8, ClearBits(kSpeedSwitchBit)},
+    {8, PutByte(kTurnOnSpeed,           15)},
+    {8, PutByte(kTurnOffSpeed,          10)},
+    {8, PutByte(kSpeedSwitchMode,        2)},
+    {8, PutByte(kSpeedSwitchPin,         0)},
 };
 // clang-format on
 
@@ -174,9 +174,10 @@ void ApplyFunction(int item, ParameterImage& image) {
 }  // namespace
 
 void ApplyGioFunctions(const GioChoice& chosen, ParameterImage& image) {
-  for (int i = kFirstConnector; i <= kLastConnector; ++i) image.EOL5(i) = kNoConnector;
-  image.EOL2(7) = 0;
-  image.EOL2(8) = 0;
+  for (int i = kFirstGioConnector; i <= kLastGioConnector; ++i)
+    Connector(i).Put(image, kNoConnector);
+  kGioMask1.Put(image, 0);
+  kGioMask2.Put(image, 0);
   for (int item = 0; item < kGioFunctionCount; ++item)
     if (chosen[static_cast<std::size_t>(item)] != (item == kGioSpecial)) ApplyFunction(item, image);
 }

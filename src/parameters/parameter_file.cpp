@@ -7,7 +7,8 @@
 #include "parameters/block_table.h"
 #include "parameters/conversions.h"
 #include "parameters/function_blocks.h"
-#include "parameters/parameter_reading.h"
+#include "parameters/parameter_map.h"
+#include "parameters/record_refresh.h"
 #include "platform/clock.h"
 #include "platform/desktop.h"
 #include "platform/process.h"
@@ -27,34 +28,14 @@ constexpr std::int32_t kHighestSum = 32767;  // the running sum is a 16-bit sign
 // The three texts of the vehicle section.
 struct TextKey {
   const char* key;
-  int first;
-  int count;
+  TextField field;
 };
 
 constexpr std::array<TextKey, 3> kTextKeys = {{
-    {"VIN", 4, 18},
-    {"Manufacturer", 22, 20},
-    {"TypeOfVehicle", 42, 20},
+    {"VIN", parameter::kVehicleId},
+    {"Manufacturer", parameter::kManufacturer},
+    {"TypeOfVehicle", parameter::kTrailerType},
 }};
-
-// Numbers of sensors and modulators by the ABS system in bits 2 to 4 of EOL1(1).
-struct AbsSystem {
-  std::uint8_t sensors;
-  std::uint8_t modulators;
-};
-
-constexpr AbsSystem SystemOf(int code) {
-  switch (code) {
-    case 0:
-      return {2, 2};
-    case 2:
-      return {4, 3};
-    case 4:
-      return {2, 1};
-    default:
-      return {4, 2};
-  }
-}
 
 std::string Digit(const std::string& text, std::size_t at) {
   return at < text.size() ? text.substr(at, 1) : std::string();
@@ -112,7 +93,7 @@ void ParameterFile::Read(const std::string& path) {
       ReadFileData(row->section, image_.*row->block);
   }
   image_.EOL7.bNumBytes = kTrailerBytes;
-  RefreshConfiguration();
+  RefreshConfiguration(image_, ecu_data_);
 }
 
 void ParameterFile::ReadFileData(const std::string& strWhichParm, ParmBlock& block) {
@@ -128,39 +109,20 @@ void ParameterFile::ReadFileData(const std::string& strWhichParm, ParmBlock& blo
 
 void ParameterFile::ReadVehicleData(const std::string& section) {
   const std::string date = Get(section, "TrailerDateOfProduction");
-  image_.EOL7(1) = PackedByte(Digit(date, 0), Digit(date, 1));
-  image_.EOL7(2) = PackedByte(Digit(date, 2), Digit(date, 3));
-  image_.EOL7(3) = PackedByte(Digit(date, 5), date.size() > 6 ? date.substr(6) : std::string());
-  for (const TextKey& row : kTextKeys) ReadText(section, row.key, row.first, row.count);
+  parameter::kProductionCentury.Put(image_, PackedByte(Digit(date, 0), Digit(date, 1)));
+  parameter::kProductionYear.Put(image_, PackedByte(Digit(date, 2), Digit(date, 3)));
+  const std::string rest = date.size() > 6 ? date.substr(6) : std::string();
+  parameter::kProductionWeek.Put(image_, PackedByte(Digit(date, 5), rest));
+  for (const TextKey& row : kTextKeys) ReadText(section, row.key, row.field);
 }
 
 // A text shorter than its field, its padding lost on the way through the file, ends the reading.
-void ParameterFile::ReadText(const std::string& section, const std::string& key, int first,
-                             int count) {
+void ParameterFile::ReadText(const std::string& section, const std::string& key,
+                             const TextField& field) {
   const std::string text = Trim(Get(section, key));
-  if (static_cast<int>(text.size()) < count) throw RuntimeError(ErrorNumber::kSubscriptOutOfRange);
-  StoreBlockText(image_.EOL7, first, count, text);
-}
-
-void ParameterFile::RefreshConfiguration() {
-  const ParmBlock& vehicle = image_.EOL1;
-  RefreshVehicleFields(image_, ecu_data_);
-  RefreshIdentityFields(image_, ecu_data_);
-  ecu_data_.nMechanicalSuspension.Store(static_cast<std::int16_t>((vehicle(1) >> 5) & 0x01));
-  ecu_data_.nMounting.Store(static_cast<std::int16_t>((vehicle(1) >> 7) & 0x01));
-  const AbsSystem system = SystemOf((vehicle(1) >> 2) & 0x07);
-  ecu_data_.bNumSensors.Store(system.sensors);
-  ecu_data_.bNumModulators.Store(system.modulators);
-  std::int16_t axles = 0;
-  for (int a = 0; a < 3; ++a) {
-    ecu_data_.nAxleSensors[static_cast<std::size_t>(a)].Store(
-        static_cast<std::int16_t>((vehicle(AxleByte(a)) >> 4) & 0x03));
-    // An axle counts while none of its four load bytes is 0, so 4096 kg do not count.
-    bool loaded = true;
-    for (int i = 3; i <= 6; ++i) loaded = loaded && vehicle(i + 6 * a) != 0;
-    if (loaded) ++axles;
-  }
-  ecu_data_.nNumAxles.Store(axles);
+  if (static_cast<int>(text.size()) < field.size)
+    throw RuntimeError(ErrorNumber::kSubscriptOutOfRange);
+  StoreBlockText(image_, field, text);
 }
 
 std::string ParameterFile::Proposal() const {
@@ -225,12 +187,13 @@ void ParameterFile::WriteFileData(const std::string& strWhichParm, const ParmBlo
 }
 
 void ParameterFile::WriteVehicleData(const std::string& section) {
-  const ParmBlock& trailer = image_.EOL7;
   Put(section, "DataVersion", DataVersion());
   Put(section, "TrailerDateOfProduction",
-      PackedText(trailer(1)) + PackedText(trailer(2)) + "-" + PackedText(trailer(3)));
+      PackedText(parameter::kProductionCentury.In(image_)) +
+          PackedText(parameter::kProductionYear.In(image_)) + "-" +
+          PackedText(parameter::kProductionWeek.In(image_)));
   for (const TextKey& row : kTextKeys)
-    Put(section, row.key, ToCp1252(BlockText(trailer, row.first, row.count)));
+    Put(section, row.key, ToCp1252(BlockText(image_, row.field)));
 }
 
 std::string ParameterFile::DataVersion() const {

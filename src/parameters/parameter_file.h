@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "parameters/parm_block.h"
+#include "parameters/block_fields.h"
 
 namespace lorimet {
 
@@ -35,8 +35,7 @@ class ParameterFile {
   void Read(const std::string& path);
   void ReadFileData(const std::string& strWhichParm, ParmBlock& block);
   void ReadVehicleData(const std::string& section);
-  void ReadText(const std::string& section, const std::string& key, int first, int count);
-  void RefreshConfiguration();
+  void ReadText(const std::string& section, const std::string& key, const TextField& field);
 
   void Write(const std::string& path);
   void WriteFileData(const std::string& strWhichParm, const ParmBlock& block);

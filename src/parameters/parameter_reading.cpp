@@ -5,20 +5,14 @@
 
 #include "parameters/block_table.h"
 #include "parameters/function_blocks.h"
+#include "parameters/record_refresh.h"
 #include "platform/desktop.h"
 #include "platform/forms.h"
-#include "session/ecu_data.h"
 #include "session/link_library.h"
 #include "support/dictionary.h"
 
 namespace lorimet {
 namespace {
-
-std::string Bytes(const ParmBlock& block, int first, int count) {
-  std::string bytes;
-  for (int i = 0; i < count; ++i) bytes += static_cast<char>(block(first + i));
-  return bytes;
-}
 
 void ShowProgress(const ReadingParts& parts, const std::string& text) {
   parts.error_text.SetText(text);
@@ -46,22 +40,6 @@ std::int32_t ReadBlock(LinkLibrary& link, std::uint8_t local_id, ParmBlock& bloc
     std::copy_n(buffer.begin(), block.DataArr.size(), block.DataArr.begin());
     return status;
   });
-}
-
-void RefreshVehicleFields(const ParameterImage& image, ECUData& ecu_data) {
-  ecu_data.nVehicleType.Store(static_cast<std::int16_t>(image.EOL1(1) & 0x03));
-  for (int a = 0; a < 3; ++a) {
-    const std::uint8_t axle = image.EOL1(AxleByte(a));
-    const auto i = static_cast<std::size_t>(a);
-    ecu_data.nAxleLift[i].Store(static_cast<std::int16_t>(axle & 0x07));
-    ecu_data.nAxleFlag[i].Store(static_cast<std::int16_t>((axle >> 3) & 0x01));
-  }
-}
-
-void RefreshIdentityFields(const ParameterImage& image, ECUData& ecu_data) {
-  ecu_data.VehicleId.Store(Bytes(image.EOL7, 4, 18), ' ');
-  ecu_data.Manufacturer.Store(Bytes(image.EOL7, 22, 20));
-  ecu_data.TrailerType.Store(Bytes(image.EOL7, 42, 20));
 }
 
 std::int32_t ReadParmsFromECU(const ReadingParts& parts) {

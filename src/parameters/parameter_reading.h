@@ -35,12 +35,4 @@ struct ReadingParts {
 // that cannot be read stays as it is.
 std::int32_t ReadParmsFromECU(const ReadingParts& parts);
 
-// The fields of the record that nobody but the program fills: vehicle type, lift and flag tables
-// from EOL1, and the three identity texts from EOL7.
-void RefreshVehicleFields(const ParameterImage& image, ECUData& ecu_data);
-void RefreshIdentityFields(const ParameterImage& image, ECUData& ecu_data);
-
-// The index of axle `a`'s (0 to 2) byte of lift function, flag and sensors in EOL1.
-constexpr int AxleByte(int a) { return 7 + 6 * a; }
-
 }  // namespace lorimet

@@ -6,12 +6,10 @@
 
 #include "faults/faults.h"
 #include "parameters/block_table.h"
-#include "parameters/conversions.h"
 #include "parameters/parameter_errors.h"
 #include "platform/clock.h"
 #include "platform/desktop.h"
 #include "platform/forms.h"
-#include "session/ecu_data.h"
 #include "session/link_library.h"
 #include "support/dictionary.h"
 #include "support/text.h"
@@ -104,16 +102,6 @@ void WriteParmsToECU(const WritingParts& parts) {
                std::string("               The Parameter Data has been saved.") + kCrLf +
                    "It is highly recommended that the End of Line Test be run again.",
                "Parameter Data");
-}
-
-void RefreshTestFields(const ParameterImage& image, ECUData& ecu_data) {
-  const ParmBlock& vehicle = image.EOL1;
-  const bool mechanical = (vehicle(1) & 0x20) != 0;
-  ecu_data.nMounting.Store((vehicle(1) & 0x80) != 0 ? 1 : 0);
-  ecu_data.nMechanicalSuspension.Store(mechanical ? 1 : 0);
-  ecu_data.dTargetPressure1.Store(Psi(vehicle(42)));
-  ecu_data.dTargetPressure2.Store(Psi(vehicle(43)));
-  if (mechanical) ecu_data.dLadenHeightValue.Store(Millimetres(vehicle(68), vehicle(69)));
 }
 
 }  // namespace lorimet

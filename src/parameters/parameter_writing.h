@@ -12,7 +12,6 @@ class Faults;
 class Form;
 class LinkLibrary;
 class TextBox;
-struct ECUData;
 
 struct WritingParts {
   LinkLibrary& link;
@@ -29,9 +28,6 @@ struct WritingParts {
 // the ECU and shows its complaints one by one, then says that the data has been saved, whatever
 // came of it. Blocks for 7.1 seconds and more.
 void WriteParmsToECU(const WritingParts& parts);
-
-// The fields of the record that the end-of-line tests use, from the image as it is to be written.
-void RefreshTestFields(const ParameterImage& image, ECUData& ecu_data);
 
 // Shows the ECU's complaint of byte `n` and a single bit.
 void ShowParmError(Desktop& desktop, std::int16_t n, std::uint8_t bMask);
