@@ -3,23 +3,17 @@
 
 #include <gtest/gtest.h>
 
-#include <functional>
 #include <set>
 #include <string>
 #include <tuple>
 #include <vector>
 
+#include "autotests/common/gestures.h"
+
 namespace lorimet {
 namespace {
 
-int ErrorOf(const std::function<void()>& action) {
-  try {
-    action();
-  } catch (const RuntimeError& error) {
-    return error.Number();
-  }
-  return 0;
-}
+using testing_support::ErrorOf;
 
 TEST(Conversions, PressuresAreShownInWholePsi) {
   EXPECT_EQ(PressureText(0), "0");

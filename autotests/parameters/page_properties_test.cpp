@@ -78,8 +78,7 @@ struct Round {
 
 class PageProperties : public WizardFormTest {
  protected:
-  frmOVGParm2& Page() { return program.parameters->load_sensing_page; }
-  frmOVGParm3& Last() { return program.parameters->overturn_guard_page; }
+  frmOVGParm2& Page() { return LoadSensing(); }
 
   void Fill(const Round& round) {
     int place = round.axles * 7 + (round.mechanical ? 3 : 0);

@@ -11,9 +11,9 @@
 #include <sstream>
 
 #include "autotests/common/program_fixture.h"
+#include "parameters/block_table.h"
 #include "parameters/parameters_part.h"
 #include "session/session_part.h"
-#include "parameters/block_table.h"
 
 namespace lorimet::testing_support {
 namespace {

@@ -7,10 +7,10 @@
 #include <map>
 
 #include "autotests/common/program_fixture.h"
+#include "parameters/block_table.h"
 #include "parameters/parameters_part.h"
 #include "session/session_part.h"
 #include "support/support_part.h"
-#include "parameters/block_table.h"
 
 namespace lorimet::testing_support {
 namespace {

@@ -8,10 +8,10 @@
 
 #include "autotests/common/program_fixture.h"
 #include "faults/faults_part.h"
-#include "parameters/parameters_part.h"
-#include "support/support_part.h"
 #include "parameters/block_table.h"
+#include "parameters/parameters_part.h"
 #include "parameters/record_refresh.h"
+#include "support/support_part.h"
 
 namespace lorimet::testing_support {
 namespace {

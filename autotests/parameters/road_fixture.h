@@ -11,6 +11,7 @@
 #include <string>
 #include <vector>
 
+#include "autotests/common/gestures.h"
 #include "autotests/common/program_fixture.h"
 #include "autotests/common/simulated_link.h"
 #include "parameters/parameters_part.h"
@@ -62,11 +63,6 @@ class RoadFixture : public Base {
     next("frmOVGParm3", [save](Form& f) -> Button& { return static_cast<frmOVGParm3&>(f).*save; });
     program->session->main_form.mnuSystem[0].UserClick();
   }
-  static void Press(Button& button) {
-    button.Owner().UserFocus(&button);
-    button.UserClick();
-  }
-
   ECUData& Ecu() { return program->session->records.ecu_data; }
   // What the ECU holds, by local id.
   std::map<int, Bytes> Stored() {

@@ -1,8 +1,8 @@
 // The system page of the parameter wizard.
 #include "autotests/parameters/wizard_fixture.h"
+#include "parameters/block_table.h"
 #include "parameters/parameters_part.h"
 #include "support/support_part.h"
-#include "parameters/block_table.h"
 
 namespace lorimet::testing_support {
 namespace {

@@ -10,6 +10,7 @@
 #include <utility>
 #include <vector>
 
+#include "autotests/common/gestures.h"
 #include "autotests/common/program_fixture.h"
 #include "parameters/parameters_part.h"
 #include "support/support_part.h"
@@ -62,6 +63,8 @@ class WizardFormTest : public ProgramTest {
   frmGIOSelection& Gio() { return program.parameters->gio_page; }
   frmGIOSpecial& Special() { return program.parameters->special_gio; }
   frmLiftAxlePressures& LiftAxle() { return program.parameters->lift_axle; }
+  frmOVGParm2& LoadSensing() { return program.parameters->load_sensing_page; }
+  frmOVGParm3& Last() { return program.parameters->overturn_guard_page; }
   frmSpeedSwitchThresh& SpeedSwitch() { return program.parameters->speed_switch; }
 
   // Fills every byte with its own value, so that a byte that is not written shows.
@@ -80,20 +83,6 @@ class WizardFormTest : public ProgramTest {
   void Speak(int language) {
     program.support->dictionary.Open();
     program.support->dictionary.SetLanguage(language);
-  }
-  // As the mouse does it: the button gets the focus before its click.
-  static void Press(Button& button) {
-    button.Owner().UserFocus(&button);
-    button.UserClick();
-  }
-  // The number of the run-time error that the action raises; 0 for none.
-  static int ErrorOf(const std::function<void()>& action) {
-    try {
-      action();
-    } catch (const RuntimeError& error) {
-      return error.Number();
-    }
-    return 0;
   }
   static MessageBox RangeBox(const std::string& text) {
     return PlainBox(text, "Range Limit Exceeded");

@@ -6,7 +6,7 @@
 #include <utility>
 #include <vector>
 
-#include "autotests/common/program_fixture.h"
+#include "autotests/parameters/wizard_fixture.h"
 #include "parameters/block_table.h"
 #include "parameters/conversions.h"
 #include "parameters/parameters_part.h"
@@ -15,7 +15,7 @@
 namespace lorimet::testing_support {
 namespace {
 
-class WizardTest : public ProgramTest {
+class WizardTest : public WizardFormTest {
  protected:
   WizardTest() {
     // Three axles with air suspension on a 4S/2M system.
@@ -26,11 +26,8 @@ class WizardTest : public ProgramTest {
     Ecu().nAxleSensors[1].Store(1);
     Image().EOL1(1) = 0x04;
   }
-  ParameterImage& Image() { return program.parameters->image; }
   ParmBlock& Vehicle() { return program.parameters->image.EOL1; }
-  frmOVGParm1& System() { return program.parameters->system_page; }
-  frmOVGParm2& Page() { return program.parameters->load_sensing_page; }
-  frmOVGParm3& Last() { return program.parameters->overturn_guard_page; }
+  frmOVGParm2& Page() { return LoadSensing(); }
   void OpenPage() {
     System().Load();
     Page().Load();
@@ -38,19 +35,6 @@ class WizardTest : public ProgramTest {
   void MakeMechanical() {
     Ecu().nMechanicalSuspension.Store(1);
     Vehicle()(1) = 0x24;
-  }
-  // As the mouse does it: the button gets the focus before its click.
-  static void Press(Button& button) {
-    button.Owner().UserFocus(&button);
-    button.UserClick();
-  }
-  static int ErrorOf(const std::function<void()>& action) {
-    try {
-      action();
-    } catch (const RuntimeError& error) {
-      return error.Number();
-    }
-    return 0;
   }
 };
 

@@ -1,9 +1,5 @@
 #include "parameters/frmGIOSelection.h"
 
-#include "parameters/frmGIOSpecial.h"
-#include "parameters/frmLiftAxlePressures.h"
-#include "parameters/frmOVGParm1.h"
-#include "parameters/frmOVGParm2.h"
 #include "parameters/function_blocks.h"
 #include "parameters/gio_functions.h"
 #include "parameters/parameter_map.h"

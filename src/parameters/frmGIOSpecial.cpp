@@ -2,7 +2,6 @@
 
 #include <cstdint>
 
-#include "parameters/frmSpeedSwitchThresh.h"
 #include "parameters/parameter_map.h"
 #include "support/dictionary.h"
 

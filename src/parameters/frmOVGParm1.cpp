@@ -1,7 +1,5 @@
 #include "parameters/frmOVGParm1.h"
 
-#include "parameters/frmGIOSelection.h"
-#include "parameters/frmOVGParm2.h"
 #include "parameters/parameter_map.h"
 #include "session/ecu_data.h"
 #include "support/dictionary.h"
@@ -42,14 +40,23 @@ void Select(const ControlArray<OptionButton>& options, int index) {
 
 frmOVGParm1::frmOVGParm1(const WizardParts& parts)
     : Form(parts.desktop, "frmOVGParm1"), parts_(parts) {
-  optVehicleType.OnClick([this](int index) { OnVehicleType(index); });
-  optNumAxles.OnClick([this](int index) { OnNumAxles(index); });
-  optABSSystem.OnClick([this](int index) { OnABSSystem(index); });
-  optSuspensionType.OnClick([this](int index) { OnSuspensionType(index); });
-  chkModularMounting.on_click = [this] { OnModularMounting(); };
-  optSensorCD.OnClick([this](int) { UpdateDisplay(); });
-  optSensorEF.OnClick([this](int) { UpdateDisplay(); });
-  optSLAC.OnClick([this](int) { OnStopLightCable(); });
+  const auto bind = [this](auto& options, void (frmOVGParm1::*action)(int)) {
+    options.OnClick([this, action](int index) {
+      (this->*action)(index);
+      TellChoices();
+    });
+  };
+  bind(optVehicleType, &frmOVGParm1::OnVehicleType);
+  bind(optNumAxles, &frmOVGParm1::OnNumAxles);
+  bind(optABSSystem, &frmOVGParm1::OnABSSystem);
+  bind(optSuspensionType, &frmOVGParm1::OnSuspensionType);
+  bind(optSensorCD, &frmOVGParm1::OnSensor);
+  bind(optSensorEF, &frmOVGParm1::OnSensor);
+  bind(optSLAC, &frmOVGParm1::OnStopLightCable);
+  chkModularMounting.on_click = [this] {
+    OnModularMounting();
+    TellChoices();
+  };
   cmdNext.on_click = [this] { OnNext(); };
   cmdClose.on_click = [this] { Unload(); };
 }
@@ -70,6 +77,7 @@ void frmOVGParm1::OnLoad() {
   LoadAxles();
   LoadStopLightCable();
   bLoading = false;
+  TellChoices();
 }
 
 void frmOVGParm1::LoadMounting() {
@@ -222,7 +230,9 @@ void frmOVGParm1::OnNumAxles(int index) {
   }
 }
 
-void frmOVGParm1::OnStopLightCable() {
+void frmOVGParm1::OnSensor(int) { UpdateDisplay(); }
+
+void frmOVGParm1::OnStopLightCable(int) {
   parts_.image.bStopLightCable = optSLAC[0].Value() || optSLAC[1].Value();
 }
 
@@ -299,6 +309,18 @@ void frmOVGParm1::StoreAxle(int axle) {
   if (chkLiftAxle1[axle].Value()) lift += 1;
   if (chkLiftAxle2[axle].Value()) lift += 3;
   AxleLift(axle).Put(parts_.image, lift);
+}
+
+void frmOVGParm1::TellChoices() {
+  if (bLoading) return;
+  SystemChoices& choices = parts_.choices;
+  choices.air_suspension = optSuspensionType[0].Value();
+  choices.two_sensors = optABSSystem[0].Value() || optABSSystem[4].Value();
+  for (int item = 0; item < optSLAC.Size(); ++item)
+    if (optSLAC[item].Value()) choices.stop_light = static_cast<StopLightCable>(item);
+  for (int i = 0; i < txtSensor.Size(); ++i)
+    choices.diagram[static_cast<std::size_t>(i)] = {txtSensor[i].Text(), txtSensor[i].Enabled()};
+  choices.picture = picOVG_ECU.Image();
 }
 
 void frmOVGParm1::OnNext() {

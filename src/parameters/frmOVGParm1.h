@@ -78,9 +78,11 @@ class frmOVGParm1 : public Form {
   void OnABSSystem(int index);
   void OnSuspensionType(int index);
   void OnNumAxles(int index);
-  void OnStopLightCable();
+  void OnSensor(int index);
+  void OnStopLightCable(int index);
   void OnNext();
 
+  void TellChoices();
   void ShowMounting();
   void ApplySuspension(bool mechanical);
   void StoreAxle(int axle);

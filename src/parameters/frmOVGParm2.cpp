@@ -1,9 +1,6 @@
 #include "parameters/frmOVGParm2.h"
 
 #include "parameters/conversions.h"
-#include "parameters/frmGIOSelection.h"
-#include "parameters/frmOVGParm1.h"
-#include "parameters/frmOVGParm3.h"
 #include "parameters/parameter_map.h"
 #include "session/ecu_data.h"
 #include "support/dictionary.h"
@@ -96,7 +93,7 @@ void frmOVGParm2::WatchSuspensionLaden() {
 void frmOVGParm2::OnLoad() {
   parts_.dictionary.TranslateForm(*this);
   CenterOnScreen();
-  bAirSuspension_ = parts_.pages.system->optSuspensionType[0].Value();
+  bAirSuspension_ = parts_.choices.air_suspension;
   ShowDiagram();
   ShowIdentity();
   ShowSuspensionKind();
@@ -111,12 +108,12 @@ void frmOVGParm2::OnLoad() {
 }
 
 void frmOVGParm2::ShowDiagram() {
-  frmOVGParm1& system = *parts_.pages.system;
-  for (int i = 0; i < 6; ++i) {
-    txtSensor[i].SetText(system.txtSensor[i].Text());
-    txtSensor[i].SetVisible(system.txtSensor[i].Enabled());
+  for (int i = 0; i < txtSensor.Size(); ++i) {
+    const SystemChoices::DiagramBox& box = parts_.choices.diagram[static_cast<std::size_t>(i)];
+    txtSensor[i].SetText(box.text);
+    txtSensor[i].SetVisible(box.drawn);
   }
-  picOVG_ECU.SetImage(system.picOVG_ECU.Image());
+  picOVG_ECU.SetImage(parts_.choices.picture);
 }
 
 void frmOVGParm2::ShowIdentity() {

@@ -1,9 +1,6 @@
 #include "parameters/frmOVGParm3.h"
 
 #include "parameters/conversions.h"
-#include "parameters/frmGIOSelection.h"
-#include "parameters/frmOVGParm1.h"
-#include "parameters/frmOVGParm2.h"
 #include "parameters/parameter_file.h"
 #include "parameters/parameter_map.h"
 #include "parameters/parameter_writing.h"
@@ -22,10 +19,6 @@ constexpr int kNotAvailable = 0;
 constexpr int kOff = 1;
 constexpr int kSingleTires = 2;
 constexpr int kTwinTires = 3;
-
-// Items of the system page's optSLAC.
-constexpr int kLevel2Output = 1;
-constexpr int kNoCable = 2;
 
 }  // namespace
 
@@ -60,8 +53,7 @@ void frmOVGParm3::OnLoad() {
   const bool on = kOverturnGuard.In(image) != 0;
   const bool twin = kTwinTyres.In(image) != 0;
   optOVGStatus[!on ? kOff : twin ? kTwinTires : kSingleTires].SetValue(true);
-  const frmOVGParm1& system = *parts_.pages.system;
-  if (system.optABSSystem[0].Value() || system.optABSSystem[4].Value()) {
+  if (parts_.choices.two_sensors) {
     txtTireSize[1].SetEnabled(false);
     txtNumTeeth[1].SetEnabled(false);
   }
@@ -88,12 +80,12 @@ void frmOVGParm3::StoreOverturnGuard() {
 
 void frmOVGParm3::StoreStopLight() {
   ParameterImage& image = parts_.image;
-  const frmOVGParm1& system = *parts_.pages.system;
-  if (!system.optSLAC[kNoCable].Value()) {
+  const StopLightCable cable = parts_.choices.stop_light;
+  if (cable != StopLightCable::kNone) {
     kStopLightInstalled.Put(image, 1);
     kStopLightLetter.Put(image, 'I');
     kStopLightMode.Put(image, 3);
-    kStopLightPin.Put(image, system.optSLAC[kLevel2Output].Value() ? 177 : 65);
+    kStopLightPin.Put(image, cable == StopLightCable::kLevel2Output ? 177 : 65);
     kSharedOutput.Put(image, 0);
     kStopLightOption.Put(image, 1);
     return;

@@ -7,6 +7,7 @@
 
 namespace lorimet {
 
+class Clock;
 class Faults;
 class ParameterFile;
 

@@ -14,7 +14,9 @@ ParametersPart::ParametersPart(const Ports& ports, SupportPart& support, Session
                      session.records.ecu_data, image),
       pages{&system_page,  &gio_page,          &special_gio,        &lift_axle,
             &speed_switch, &load_sensing_page, &overturn_guard_page},
-      wizard{ports.desktop, support.dictionary, ports.link, session.records.ecu_data, image, pages},
+      wizard{
+          ports.desktop, support.dictionary, ports.link, session.records.ecu_data, image, choices,
+          pages},
       system_page(wizard),
       gio_page(wizard),
       special_gio(wizard),

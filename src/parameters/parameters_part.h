@@ -25,6 +25,7 @@ struct ParametersPart {
 
   ParameterImage image;
   ParameterFile parameter_file;
+  SystemChoices choices;
   WizardPages pages;
   WizardParts wizard;
   frmOVGParm1 system_page;
