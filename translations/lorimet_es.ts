@@ -3091,7 +3091,7 @@ frenado&#13;
     </message>
     <message>
         <source>Save &amp;As...</source>
-        <translation>Guardar &amp;como...</translation>
+        <translation>Guardar c&amp;omo...</translation>
     </message>
     <message>
         <source>Display Options</source>
@@ -3108,6 +3108,18 @@ frenado&#13;
     <message>
         <source>Apply</source>
         <translation>Aplicar</translation>
+    </message>
+    <message>
+        <source>ECU (*.ecu)|*.ecu</source>
+        <translation>ECU (*.ecu)|*.ecu</translation>
+    </message>
+    <message>
+        <source>ECU (*.ecu)|*.ecu|Text (*.txt)|*.txt|All Files (*.*)|*.*</source>
+        <translation>ECU (*.ecu)|*.ecu|Texto (*.txt)|*.txt|Todos los archivos (*.*)|*.*</translation>
+    </message>
+    <message>
+        <source>Text (*.txt)|*.txt|All Files (*.*)|*.*</source>
+        <translation>Texto (*.txt)|*.txt|Todos los archivos (*.*)|*.*</translation>
     </message>
 </context>
 </TS>

@@ -3109,5 +3109,17 @@ freinage&#13;
         <source>Apply</source>
         <translation>Appliquer</translation>
     </message>
+    <message>
+        <source>ECU (*.ecu)|*.ecu</source>
+        <translation>ECU (*.ecu)|*.ecu</translation>
+    </message>
+    <message>
+        <source>ECU (*.ecu)|*.ecu|Text (*.txt)|*.txt|All Files (*.*)|*.*</source>
+        <translation>ECU (*.ecu)|*.ecu|Texte (*.txt)|*.txt|Tous les fichiers (*.*)|*.*</translation>
+    </message>
+    <message>
+        <source>Text (*.txt)|*.txt|All Files (*.*)|*.*</source>
+        <translation>Texte (*.txt)|*.txt|Tous les fichiers (*.*)|*.*</translation>
+    </message>
 </context>
 </TS>
