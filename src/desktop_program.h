@@ -8,6 +8,7 @@
 #include "adapters/qt/qt_clock.h"
 #include "adapters/qt/qt_desktop.h"
 #include "adapters/qt/qt_help_viewer.h"
+#include "adapters/qt/qt_toolkit_texts.h"
 #include "adapters/qt/qt_translations.h"
 #include "program.h"
 #include "session/loaded_link_library.h"
@@ -39,8 +40,10 @@ class DesktopProgram {
       // Nothing of what stands on the stack may run again.
       std::_Exit(program.ExitStatus());
     };
-    program.support->dictionary.on_language_changed.push_back(
-        [this] { help_viewer.SetLanguage(program.support->dictionary.Language()); });
+    program.support->dictionary.on_language_changed.push_back([this] {
+      help_viewer.SetLanguage(program.support->dictionary.Language());
+      toolkit_texts.SetLanguage(program.support->dictionary.Language());
+    });
 #if !defined(_WIN32)
     notifier_ = std::make_unique<QSocketNotifier>(hook.ReadDescriptor(), QSocketNotifier::Read);
     QObject::connect(notifier_.get(), &QSocketNotifier::activated, notifier_.get(),
@@ -51,6 +54,7 @@ class DesktopProgram {
   QtDesktop desktop;
   QtClock clock;
   QtTranslations translations;
+  QtToolkitTexts toolkit_texts;
 #if defined(_WIN32)
   WindowsRegistry registry;
   WindowsMessageHook hook;

@@ -19,9 +19,11 @@
 #include <QRadioButton>
 #include <QTabBar>
 #include <QTableWidget>
+#include <QTemporaryDir>
 #include <QTimer>
 #include <QToolBar>
 #include <QVBoxLayout>
+#include <QWindow>
 
 #include "adapters/qt/qt_style.h"
 
@@ -31,6 +33,15 @@ Q_GUI_EXPORT bool qt_sendShortcutOverrideEvent(QObject* object, ulong timestamp,
                                                Qt::KeyboardModifiers modifiers,
                                                const QString& text = QString(),
                                                bool autorepeat = false, ushort count = 1);
+// How the toolkit's platforms hand over what the window system tells.
+Q_GUI_EXPORT void qt_handleKeyEvent(QWindow* window, QEvent::Type type, int key,
+                                    Qt::KeyboardModifiers modifiers,
+                                    const QString& text = QString(), bool autorepeat = false,
+                                    ushort count = 1);
+Q_GUI_EXPORT void qt_handleMouseEvent(QWindow* window, const QPointF& local, const QPointF& global,
+                                      Qt::MouseButtons state, Qt::MouseButton button,
+                                      QEvent::Type type, Qt::KeyboardModifiers modifiers,
+                                      int timestamp);
 
 // The toolkit's friend that makes an event look as if it came from the window system.
 class QSpontaneKeyEvent {
@@ -45,6 +56,9 @@ namespace {
 class Application : public testing::Environment {
  public:
   void SetUp() override {
+    // The toolkit's file dialog remembers its places: not in the settings of whoever runs the
+    // tests.
+    qputenv("XDG_CONFIG_HOME", settings_.path().toUtf8());
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     application_ = std::make_unique<QApplication>(argc_, argv_);
     ApplyStyle(*application_);
@@ -52,6 +66,7 @@ class Application : public testing::Environment {
   void TearDown() override { application_.reset(); }
 
  private:
+  QTemporaryDir settings_;
   int argc_ = 1;
   char name_[14] = "desktop_tests";
   char* argv_[2] = {name_, nullptr};
@@ -221,6 +236,34 @@ void DesktopTest::Press(QWidget* widget, int key, Qt::KeyboardModifiers modifier
   QKeyEvent release(QEvent::KeyRelease, key, modifiers, text);
   if (alive) Send(widget, release);
 }
+
+namespace road {
+
+void Key(QWidget* window, int key, Qt::KeyboardModifiers modifiers, const QString& text) {
+  const QPointer<QWidget> alive(window);
+  if (window->windowHandle() == nullptr) return;
+  if (qt_sendShortcutOverrideEvent(window->windowHandle(), 0, key, modifiers, text)) return;
+  if (alive) qt_handleKeyEvent(alive->windowHandle(), QEvent::KeyPress, key, modifiers, text);
+  if (alive && alive->windowHandle() != nullptr)
+    qt_handleKeyEvent(alive->windowHandle(), QEvent::KeyRelease, key, modifiers, text);
+}
+
+void Click(QWidget* widget) { Click(widget, widget->rect().center()); }
+
+void Click(QWidget* widget, const QPoint& place) {
+  const QPointer<QWidget> window(widget->window());
+  const QPointF global = widget->mapToGlobal(QPointF(place));
+  const QPointF local = window->mapFromGlobal(global);
+  static int time = 0;
+  time += 2000;  // never a double click
+  qt_handleMouseEvent(window->windowHandle(), local, global, Qt::LeftButton, Qt::LeftButton,
+                      QEvent::MouseButtonPress, Qt::NoModifier, time);
+  if (window && window->windowHandle() != nullptr)
+    qt_handleMouseEvent(window->windowHandle(), local, global, Qt::NoButton, Qt::LeftButton,
+                        QEvent::MouseButtonRelease, Qt::NoModifier, time + 10);
+}
+
+}  // namespace road
 
 void DesktopTest::Type(QWidget* widget, const QString& text) {
   for (const QChar character : text)

@@ -16,6 +16,7 @@
 #include "adapters/qt/qt_desktop.h"
 #include "platform/controls.h"
 #include "platform/forms.h"
+#include "platform/runtime_error.h"
 
 class QEvent;
 
@@ -62,24 +63,35 @@ class SampleForm : public Form {
 QWidget* BuildSampleWindow(QWidget* parent);
 QWidget* BuildSampleDialog(QWidget* parent);
 
+// The window system's own road: what happens to a real window, through all that the toolkit does
+// with it before a widget hears of it.
+namespace road {
+
+void Key(QWidget* window, int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier,
+         const QString& text = {});
+void Click(QWidget* widget);  // in its middle
+void Click(QWidget* widget, const QPoint& place);
+
+}  // namespace road
+
 class DesktopTest : public testing::Test {
  public:
   // Delivers an event as the window system does.
   static void Send(QWidget* widget, QEvent& event);
+  // Lets everything that is pending happen.
+  static void Pump();
+  // Runs `action` from the event loop once the next modal window stands.
+  static void WhenModal(const std::function<void(QWidget* modal)>& action);
 
  protected:
   DesktopTest();
   ~DesktopTest() override;
 
-  // Lets everything that is pending happen.
-  static void Pump();
   static void Click(QWidget* widget);
   static void DoubleClick(QWidget* widget);
   static void Press(QWidget* widget, int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier,
                     const QString& text = {});
   static void Type(QWidget* widget, const QString& text);
-  // Runs `action` from the event loop once the next modal window stands.
-  static void WhenModal(const std::function<void(QWidget* modal)>& action);
 
   template <typename Widget>
   Widget* Find(const Form& form, const char* name) {

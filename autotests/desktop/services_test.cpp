@@ -1,10 +1,19 @@
 // The clock, the translation files and the keys.
+#include <QApplication>
+#include <QDialogButtonBox>
+#include <QDir>
+#include <QFile>
+#include <QFileDialog>
+#include <QIcon>
 #include <QKeyEvent>
+#include <QPushButton>
+#include <QSettings>
 #include <QTemporaryDir>
 
 #include "adapters/qt/qt_clock.h"
 #include "adapters/qt/qt_keys.h"
 #include "adapters/qt/qt_text.h"
+#include "adapters/qt/qt_toolkit_texts.h"
 #include "adapters/qt/qt_translations.h"
 #include "autotests/desktop/desktop_fixture.h"
 
@@ -34,6 +43,54 @@ TEST(QtTranslationsTest, WithoutFilesNothingIsTranslated) {
   EXPECT_EQ(translations.Lookup(1, "Yes"), "");
   EXPECT_FALSE(translations.Open());
   EXPECT_EQ(translations.Lookup(1, "Yes"), "");
+}
+
+class ToolkitTextsTest : public testing::Test {
+ protected:
+  ~ToolkitTextsTest() override { texts.SetLanguage(0); }
+  static QString Cancel() {
+    return QDialogButtonBox(QDialogButtonBox::Cancel).buttons().front()->text().remove('&');
+  }
+  static QString NameLabel() {
+    QFileDialog dialog;
+    dialog.setOption(QFileDialog::DontUseNativeDialog);
+    return dialog.labelText(QFileDialog::FileName).remove('&');
+  }
+
+  QtToolkitTexts texts;
+};
+
+TEST_F(ToolkitTextsTest, StandardButtonsAndFileDialogSpeakTheChosenLanguage) {
+  EXPECT_EQ(Cancel(), "Cancel");
+  const QString english = NameLabel();
+  texts.SetLanguage(kFrench);
+  EXPECT_EQ(Cancel(), "Annuler");
+  const QString french = NameLabel();
+  texts.SetLanguage(kSpanish);
+  EXPECT_EQ(Cancel(), "Cancelar");
+  EXPECT_NE(NameLabel(), french);
+  EXPECT_NE(french, english);
+  texts.SetLanguage(0);
+  EXPECT_EQ(Cancel(), "Cancel");
+}
+
+TEST_F(ToolkitTextsTest, LanguageWithoutItsFileIsEnglish) {
+  const QTemporaryDir empty;
+  QtToolkitTexts nowhere({empty.path()});
+  nowhere.SetLanguage(kFrench);
+  EXPECT_EQ(Cancel(), "Cancel");
+}
+
+TEST(ProgramIconTest, WindowsHaveTheProgramsIconInAllItsSizes) {
+  const QIcon icon = QApplication::windowIcon();
+  for (const int size : {16, 32, 48, 256})
+    EXPECT_EQ(icon.actualSize(QSize(size, size)), QSize(size, size));
+  EXPECT_FALSE(icon.pixmap(32, 32).toImage().isNull());
+}
+
+TEST(TestsThemselves, LeaveTheUsersSettingsAlone) {
+  const QString file = QSettings(QSettings::UserScope, "QtProject").fileName();
+  EXPECT_TRUE(file.startsWith(QDir::tempPath())) << FromQString(file);
 }
 
 TEST(QtKeysTest, KeysHaveTheirVirtualCodes) {

@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QColor>
 #include <QFont>
+#include <QIcon>
 #include <QPalette>
 #include <QStringList>
 #include <QStyleFactory>
@@ -150,12 +151,21 @@ QFont WorkshopFont() {
   return font;
 }
 
+// The system's icons of all its sizes.
+QIcon ProgramIcon() {
+  QIcon icon;
+  for (const int size : {16, 20, 24, 32, 48, 64, 128, 256})
+    icon.addFile(QStringLiteral(":/pictures/lorimet_%1.png").arg(size), QSize(size, size));
+  return icon;
+}
+
 }  // namespace
 
 void ApplyStyle(QApplication& application) {
   QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
   QApplication::setPalette(WorkshopPalette());
   QApplication::setFont(WorkshopFont());
+  QApplication::setWindowIcon(ProgramIcon());
   application.setStyleSheet(QLatin1String(kSheet));
 }
 
