@@ -46,13 +46,16 @@ class DesktopProgram {
     });
 #if !defined(_WIN32)
     notifier_ = std::make_unique<QSocketNotifier>(hook.ReadDescriptor(), QSocketNotifier::Read);
-    QObject::connect(notifier_.get(), &QSocketNotifier::activated, notifier_.get(),
-                     [this] { desktop.RunEvent([this] { hook.Drain(); }); });
+    QObject::connect(notifier_.get(), &QSocketNotifier::activated, notifier_.get(), [this] {
+      // Statuses of a program that has failed stay in the pipe.
+      notifier_->setEnabled(!desktop.Failed());
+      desktop.RunEvent([this] { hook.Drain(); });
+    });
 #endif
   }
 
   QtDesktop desktop;
-  QtClock clock;
+  QtClock clock{[this](std::uint32_t milliseconds) { desktop.Wait(milliseconds); }};
   QtTranslations translations;
   QtToolkitTexts toolkit_texts;
 #if defined(_WIN32)

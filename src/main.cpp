@@ -10,7 +10,8 @@ int main(int argc, char** argv) {
   QApplication::setQuitOnLastWindowClosed(false);
   lorimet::ApplyStyle(application);
   lorimet::DesktopProgram desktop_program;
-  if (desktop_program.program.Start() == lorimet::EntryResult::kRunning)
-    desktop_program.desktop.Run();
+  auto started = lorimet::EntryResult::kEnded;
+  desktop_program.desktop.RunEvent([&] { started = desktop_program.program.Start(); });
+  if (started == lorimet::EntryResult::kRunning) desktop_program.desktop.Run();
   return desktop_program.program.ExitStatus();
 }

@@ -92,16 +92,9 @@ assert.h ctype.h errno.h float.h limits.h math.h stddef.h stdint.h stdio.h stdli
 
 # Modules that may include one another in a circle, and why.
 PERMITTED_CIRCLES = (
-    # A control knows its form, a form its desktop, and the desktop shows forms.
-    {"src/platform/controls", "src/platform/forms", "src/platform/desktop"},
     # Each page of the wizard leads to others, forth and back.
     {"src/parameters/frmGIOSelection", "src/parameters/frmOVGParm1",
      "src/parameters/frmOVGParm2", "src/parameters/frmOVGParm3"},
-    # One factory makes the bindings, which know how they are made.
-    {"src/adapters/qt/qt_binding", "src/adapters/qt/qt_grid_binding",
-     "src/adapters/qt/qt_text_binding", "src/adapters/qt/qt_widget_binding"},
-    # The desktop shows views, and a view's events run on the desktop.
-    {"src/adapters/qt/qt_desktop", "src/adapters/qt/qt_form_view"},
 )
 
 KINDS = ("TextBox", "Label", "Frame", "Button", "OptionButton", "CheckBox", "Picture",

@@ -263,13 +263,17 @@ TEST_F(FocusTest, CloseBoxMayHideTheForm) {
   EXPECT_FALSE(desktop.Window(form)->isVisible());
 }
 
-TEST_F(FocusTest, EscapeOnADialogIsItsCloseBox) {
-  dialog.Show();
-  Pump();
-  SwallowAllKeys(dialog);
-  dialog.txtName.SetFocus();
-  Press(Find<QLineEdit>(dialog, "txtName"), Qt::Key_Escape);
-  EXPECT_FALSE(dialog.Loaded());
+TEST_F(FocusTest, EscapeIsTheCloseBoxOfADialogThatSaysSo) {
+  for (const bool closes : {false, true}) {
+    dialog.escape_closes = closes;
+    dialog.Show();
+    Pump();
+    SwallowAllKeys(dialog);
+    dialog.txtName.SetFocus();
+    Press(Find<QLineEdit>(dialog, "txtName"), Qt::Key_Escape);
+    EXPECT_EQ(dialog.Visible(), !closes);
+    EXPECT_EQ(dialog.Loaded(), !closes);
+  }
 }
 
 TEST_F(FocusTest, EscapeOnAMainWindowIsNothing) {

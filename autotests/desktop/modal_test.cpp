@@ -31,7 +31,7 @@ TEST_F(ModalTest, ShowReturnsWhenTheFormIsHidden) {
   one.cmdOK.on_click = [this] { one.Hide(); };
   WhenModal([this](QWidget* modal) {
     EXPECT_EQ(modal->objectName(), "frmOne");
-    EXPECT_EQ(modal->windowModality(), Qt::ApplicationModal);
+    EXPECT_EQ(modal->windowModality(), Qt::WindowModal);
     EXPECT_EQ(modal->windowHandle()->transientParent(), desktop.Window(form)->windowHandle());
     Click(Find<QPushButton>(one, "cmdOK"));
   });

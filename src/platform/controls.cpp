@@ -2,15 +2,13 @@
 
 #include <algorithm>
 
-#include "platform/desktop.h"
-#include "platform/forms.h"
 #include "platform/runtime_error.h"
 
 namespace lorimet {
 
 void RaiseSubscriptOutOfRange() { throw RuntimeError(ErrorNumber::kSubscriptOutOfRange); }
 
-Control::Control(Form& form, ControlKind kind, std::string name, int index)
+Control::Control(ControlOwner& form, ControlKind kind, std::string name, int index)
     : form_(form), kind_(kind), name_(std::move(name)), index_(index) {
   if (index >= 0) name_ += "_" + std::to_string(index);
   form.AddControl(this);
@@ -51,6 +49,7 @@ bool Control::UserKeyDown(KeyEvent key) {
 void Control::Reset() {
   enabled_ = true;
   visible_ = true;
+  tab_stop_ = true;
   back_color_ = kColorDefault;
   tool_tip_.clear();
   changes_ = 0;
@@ -175,10 +174,21 @@ void ProgressBar::ApplyDesign(const ControlDesign& design) {
   if (design.maximum) maximum_ = *design.maximum;
 }
 
+void Timer::SetInterval(int milliseconds) {
+  if (Assign(&Timer::interval_, milliseconds, kInterval)) Owner().GetDesktop().ForgetTick(*this);
+}
+
+void Timer::SetEnabled(bool enabled) {
+  Control::SetEnabled(enabled);
+  if (!enabled) Owner().GetDesktop().ForgetTick(*this);
+}
+
 void Timer::Reset() {
   Control::Reset();
   interval_ = 0;
 }
+
+void Timer::ViewDropped() { Owner().GetDesktop().ForgetTick(*this); }
 
 void DataGrid::SetColumns(std::vector<GridColumn> columns) {
   Touch();

@@ -15,9 +15,9 @@
 #include <utility>
 #include <vector>
 
-namespace lorimet {
+#include "platform/desktop.h"
 
-class Form;
+namespace lorimet {
 
 using Color = std::uint32_t;  // 0x00BBGGRR
 constexpr Color kColorWhite = 0xFFFFFF;
@@ -83,6 +83,7 @@ class Control {
     kContent = 1u << 8,  // rows of a grid, tabs, picture
     kInterval = 1u << 9,
     kSelection = 1u << 10,
+    kTabStop = 1u << 11,
   };
 
   Control(const Control&) = delete;
@@ -93,7 +94,7 @@ class Control {
   // The name in the running program: item i of a control array is "name_i".
   const std::string& Name() const { return name_; }
   int Index() const { return index_; }  // -1 outside an array
-  Form& Owner() const { return form_; }
+  ControlOwner& Owner() const { return form_; }
 
   bool Enabled() const { return Touch().enabled_; }
   void SetEnabled(bool enabled) { Assign(&Control::enabled_, enabled, kEnabled); }
@@ -104,6 +105,16 @@ class Control {
   void SetBackColor(Color color) { Assign(&Control::back_color_, color, kBackColor); }
   const std::string& ToolTipText() const { return Touch().tool_tip_; }
   void SetToolTipText(const std::string& text) { Assign(&Control::tool_tip_, text, kToolTip); }
+
+  // Whether the Tab key stops here; the mouse and SetFocus reach the control all the same. False is
+  // for fields that show and are no part of the work, such as rows that are not in use. Loading the
+  // form sets it to true again.
+  bool TabStop() const { return Touch().tab_stop_; }
+  void SetTabStop(bool stop) { Assign(&Control::tab_stop_, stop, kTabStop); }
+  // False for what drops or keeps the page as it is, such as Close and Previous: a field that is
+  // left for it is not asked, its on_lost_focus comes when the focus goes on from here. Part of the
+  // form's build like the handlers, not of its state.
+  bool causes_validation = true;
 
   // Moves the keyboard focus here; raises on_lost_focus of the control that had it and on_got_focus
   // of this one.
@@ -123,7 +134,7 @@ class Control {
   bool UserKeyDown(KeyEvent key);
 
  protected:
-  Control(Form& form, ControlKind kind, std::string name, int index);
+  Control(ControlOwner& form, ControlKind kind, std::string name, int index);
 
   // Loads the form when it is not loaded.
   const Control& Touch() const;
@@ -140,16 +151,19 @@ class Control {
   void Raise(const std::function<void()>& handler);
   virtual void Reset();
   virtual void ApplyDesign(const ControlDesign& design);
+  // The window ends; not called when the form is destroyed with it.
+  virtual void ViewDropped() {}
 
  private:
   friend class Form;
 
-  Form& form_;
+  ControlOwner& form_;
   ControlKind kind_;
   std::string name_;
   int index_;
   bool enabled_ = true;
   bool visible_ = true;
+  bool tab_stop_ = true;
   Color back_color_ = kColorDefault;
   std::string tool_tip_;
   unsigned changes_ = 0;
@@ -178,19 +192,19 @@ class CaptionedControl : public Control {
 
 class Label : public CaptionedControl {
  public:
-  explicit Label(Form& form, std::string name, int index = -1)
+  explicit Label(ControlOwner& form, std::string name, int index = -1)
       : CaptionedControl(form, ControlKind::kLabel, std::move(name), index) {}
 };
 
 class Frame : public CaptionedControl {
  public:
-  explicit Frame(Form& form, std::string name, int index = -1)
+  explicit Frame(ControlOwner& form, std::string name, int index = -1)
       : CaptionedControl(form, ControlKind::kFrame, std::move(name), index) {}
 };
 
 class TextBox : public Control {
  public:
-  explicit TextBox(Form& form, std::string name, int index = -1)
+  explicit TextBox(ControlOwner& form, std::string name, int index = -1)
       : Control(form, ControlKind::kTextBox, std::move(name), index) {}
 
   const std::string& Text() const {
@@ -244,7 +258,7 @@ class TextBox : public Control {
 
 class Button : public CaptionedControl {
  public:
-  explicit Button(Form& form, std::string name, int index = -1)
+  explicit Button(ControlOwner& form, std::string name, int index = -1)
       : CaptionedControl(form, ControlKind::kButton, std::move(name), index) {}
 
   std::function<void()> on_click;
@@ -255,7 +269,7 @@ class Button : public CaptionedControl {
 // the one that loses its selection raises nothing.
 class OptionButton : public CaptionedControl {
  public:
-  explicit OptionButton(Form& form, std::string name, int index = -1)
+  explicit OptionButton(ControlOwner& form, std::string name, int index = -1)
       : CaptionedControl(form, ControlKind::kOptionButton, std::move(name), index) {}
 
   bool Value() const {
@@ -284,7 +298,7 @@ class OptionButton : public CaptionedControl {
 
 class CheckBox : public CaptionedControl {
  public:
-  explicit CheckBox(Form& form, std::string name, int index = -1)
+  explicit CheckBox(ControlOwner& form, std::string name, int index = -1)
       : CaptionedControl(form, ControlKind::kCheckBox, std::move(name), index) {}
 
   bool Value() const {
@@ -309,7 +323,7 @@ class CheckBox : public CaptionedControl {
 // Shows a picture by the name of its file without extension; empty shows what the designer chose.
 class Picture : public Control {
  public:
-  explicit Picture(Form& form, std::string name, int index = -1)
+  explicit Picture(ControlOwner& form, std::string name, int index = -1)
       : Control(form, ControlKind::kPicture, std::move(name), index) {}
 
   const std::string& Image() const {
@@ -328,7 +342,7 @@ class Picture : public Control {
 // A value beyond the range is kept as it is and shows as an empty or a full bar.
 class ProgressBar : public Control {
  public:
-  explicit ProgressBar(Form& form, std::string name, int index = -1)
+  explicit ProgressBar(ControlOwner& form, std::string name, int index = -1)
       : Control(form, ControlKind::kProgressBar, std::move(name), index) {}
 
   int Value() const {
@@ -358,23 +372,27 @@ class ProgressBar : public Control {
 
 // Ticks on the user-interface thread every Interval milliseconds while it is enabled; an interval
 // of 0 stops it.
-class Timer : public Control {
+class Timer : public Control, public Ticker {
  public:
-  explicit Timer(Form& form, std::string name, int index = -1)
+  explicit Timer(ControlOwner& form, std::string name, int index = -1)
       : Control(form, ControlKind::kTimer, std::move(name), index) {}
+  ~Timer() override { Timer::ViewDropped(); }
 
   int Interval() const {
     Touch();
     return interval_;
   }
-  void SetInterval(int milliseconds) { Assign(&Timer::interval_, milliseconds, kInterval); }
-  bool Running() const { return interval_ > 0 && Enabled(); }
+  // Another interval starts the timer anew.
+  void SetInterval(int milliseconds);
+  void SetEnabled(bool enabled);
+  bool Running() const override { return interval_ > 0 && Enabled(); }
 
   std::function<void()> on_tick;
-  void Tick() { Raise(on_tick); }
+  void Tick() override { Raise(on_tick); }
 
  protected:
   void Reset() override;
+  void ViewDropped() override;
 
  private:
   int interval_ = 0;
@@ -383,7 +401,7 @@ class Timer : public Control {
 // A top-level menu or an item of one.
 class MenuItem : public CaptionedControl {
  public:
-  explicit MenuItem(Form& form, std::string name, int index = -1)
+  explicit MenuItem(ControlOwner& form, std::string name, int index = -1)
       : CaptionedControl(form, ControlKind::kMenuItem, std::move(name), index) {}
 
   std::function<void()> on_click;
@@ -393,7 +411,7 @@ class MenuItem : public CaptionedControl {
 // A button of a toolbar; its name is the toolbar's with the button's key, "tbrABS_faults".
 class ToolButton : public Control {
  public:
-  ToolButton(Form& form, const std::string& toolbar, std::string key)
+  ToolButton(ControlOwner& form, const std::string& toolbar, std::string key)
       : Control(form, ControlKind::kToolButton, toolbar + "_" + key, -1), key_(std::move(key)) {}
 
   const std::string& Key() const { return key_; }
@@ -415,7 +433,7 @@ struct GridColumn {
 // Rows of text with one focused row.
 class DataGrid : public Control {
  public:
-  explicit DataGrid(Form& form, std::string name, int index = -1)
+  explicit DataGrid(ControlOwner& form, std::string name, int index = -1)
       : Control(form, ControlKind::kDataGrid, std::move(name), index) {}
 
   const std::vector<GridColumn>& Columns() const {
@@ -463,7 +481,7 @@ class DataGrid : public Control {
 
 class TabStrip : public Control {
  public:
-  explicit TabStrip(Form& form, std::string name, int index = -1)
+  explicit TabStrip(ControlOwner& form, std::string name, int index = -1)
       : Control(form, ControlKind::kTabStrip, std::move(name), index) {}
 
   const std::vector<std::string>& Tabs() const {
@@ -493,12 +511,12 @@ class TabStrip : public Control {
 template <typename T>
 class ControlArray {
  public:
-  ControlArray(Form& form, const std::string& name, int count) {
+  ControlArray(ControlOwner& form, const std::string& name, int count) {
     for (int i = 0; i < count; ++i) Add(form, name, i);
     Join();
   }
   // An array with gaps.
-  ControlArray(Form& form, const std::string& name, std::initializer_list<int> indices) {
+  ControlArray(ControlOwner& form, const std::string& name, std::initializer_list<int> indices) {
     for (const int i : indices) Add(form, name, i);
     Join();
   }
@@ -519,7 +537,7 @@ class ControlArray {
   }
 
  private:
-  void Add(Form& form, const std::string& name, int index) {
+  void Add(ControlOwner& form, const std::string& name, int index) {
     items_.push_back(std::make_unique<T>(form, name, index));
   }
   void Join() {

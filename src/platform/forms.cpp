@@ -3,8 +3,6 @@
 #include <algorithm>
 #include <utility>
 
-#include "platform/desktop.h"
-
 namespace lorimet {
 
 Form::Form(Desktop& desktop, std::string name) : desktop_(desktop), name_(std::move(name)) {}
@@ -20,9 +18,11 @@ void Form::Load() {
   minimized_ = false;
   key_preview_ = false;
   focused_ = entered_ = nullptr;
+  leaving_ = false;
   loaded_ = true;
   desktop_.loaded_forms_.push_back(this);
   view_ = desktop_.CreateView(*this);
+  desktop_.views_.push_back(view_.get());
   OnLoad();
 }
 
@@ -56,6 +56,7 @@ bool Form::UnloadBy(UnloadMode mode) {
   if (!loaded_ || unloading_) return true;
   unloading_ = true;
   OnUnload();
+  for (Control* control : controls_) control->ViewDropped();
   DropView();
   unloading_ = false;
   return true;
@@ -64,6 +65,7 @@ bool Form::UnloadBy(UnloadMode mode) {
 void Form::DropView() {
   if (!loaded_) return;
   Hide();
+  std::erase(desktop_.views_, view_.get());
   view_.reset();
   loaded_ = false;
   focused_ = entered_ = nullptr;
@@ -124,20 +126,33 @@ void Form::MarkChanged() {
 void Form::UserFocus(Control* control) {
   if (!loaded_ || control == focused_) return;
   focused_ = control;
-  // A control that the focus was taken from before it could enter has nothing to lose; two fields
-  // that refuse to be left would else pass the focus between them without end.
-  Control* const previous = std::exchange(entered_, nullptr);
-  if (previous != nullptr && previous->on_lost_focus) previous->Raise(previous->on_lost_focus);
-  // The handler may have moved the focus on, or have ended the form.
-  if (!loaded_ || focused_ != control) return;
-  entered_ = control;
+  // The field that is left for this one has not been left for good.
+  const bool asks = control == nullptr || control->causes_validation;
+  if (asks && !leaving_ && entered_ != control) {
+    Control* const previous = std::exchange(entered_, nullptr);
+    if (previous != nullptr && previous->on_lost_focus) {
+      leaving_ = true;
+      const struct Left {
+        bool& leaving;
+        ~Left() { leaving = false; }
+      } left{leaving_};
+      previous->Raise(previous->on_lost_focus);
+    }
+    // The handler may have moved the focus on, or have ended the form.
+    if (!loaded_ || focused_ != control) return;
+  }
+  if (asks) entered_ = control;
   if (control != nullptr && control->on_got_focus) control->Raise(control->on_got_focus);
 }
 
 bool Form::UserKeyDown(Control* target, KeyEvent key) {
   if (key_preview_) desktop_.RunEvent([&] { OnKeyDown(key); });
   if (key.code == 0) return false;
-  return target == nullptr || target->UserKeyDown(key);
+  const bool passed = target == nullptr || target->UserKeyDown(key);
+  // A field that keeps all keys does not keep the help away.
+  if (key.code == kKeyF1 && key.shift == 0 && desktop_.on_help)
+    desktop_.RunEvent([this] { desktop_.on_help(*this); });
+  return passed;
 }
 
 bool Form::UserKeyPress(int character) {

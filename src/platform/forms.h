@@ -10,9 +10,6 @@
 
 namespace lorimet {
 
-class Desktop;
-class FormView;
-
 enum class Modality { kModeless, kModal };
 enum class MousePointer { kDefault = 0, kArrow = 1, kHourglass = 11 };
 // Why a form is asked to unload.
@@ -23,7 +20,7 @@ constexpr int kTwipsPerPixel = 15;
 
 // A form object stands for the whole run; loading it builds its window with the controls as the
 // designer drew them, hiding it keeps their state, and unloading it discards them.
-class Form {
+class Form : public ControlOwner {
  public:
   Form(Desktop& desktop, std::string name);
   Form(const Form&) = delete;
@@ -31,11 +28,11 @@ class Form {
   virtual ~Form();
 
   const std::string& Name() const { return name_; }
-  Desktop& GetDesktop() const { return desktop_; }
+  Desktop& GetDesktop() const override { return desktop_; }
 
   // Does nothing when the form is loaded already.
-  void Load();
-  bool Loaded() const { return loaded_; }
+  void Load() override;
+  bool Loaded() const override { return loaded_; }
   bool Visible() const { return visible_; }
   // Loads the form if need be. A modal show returns when the form is hidden or unloaded, and with
   // it every form that took its place by ContinueWith.
@@ -64,6 +61,12 @@ class Form {
   void CenterOnScreen();
   bool Minimized() const { return minimized_; }
 
+  // Set by the form's constructor. A screen that only shows is closed by Escape, as by its close
+  // box; one that would lose edits or a run that way is not.
+  bool escape_closes = false;
+  // The page of the help that F1 opens, a file of help/<language>/; empty is the contents.
+  std::string help_page;
+
   bool KeyPreview() const { return key_preview_; }
   void SetKeyPreview(bool on) { key_preview_ = on; }
 
@@ -73,13 +76,15 @@ class Form {
   Control* FocusedControl() const { return focused_; }
 
   // For views.
-  FormView* View() const { return view_.get(); }
+  FormView* View() const override { return view_.get(); }
   void ImportDesign(const std::string& caption, int width, int height);
   const std::string& DesignCaption() const { return design_caption_; }
   bool TakeChanged() { return std::exchange(changed_, false); }
   void UserClose() { UnloadBy(UnloadMode::kControlMenu); }
-  // The focus moved by the user's hand or by the toolkit; raises the two focus events.
-  void UserFocus(Control* control);
+  // The focus moved by the user's hand, by the toolkit or by SetFocus. Raises on_lost_focus of the
+  // control that was left and on_got_focus of this one; but what such a handler moves itself, to
+  // refuse that its field is left, asks no other field.
+  void UserFocus(Control* control) override;
   // A key before it reaches `target`; false when the form or the control swallowed it.
   bool UserKeyDown(Control* target, KeyEvent key);
   bool UserKeyPress(int character);
@@ -103,9 +108,7 @@ class Form {
   virtual void OnKeyPress(int& character) { static_cast<void>(character); }
 
  private:
-  friend class Control;
-
-  void AddControl(Control* control) { controls_.push_back(control); }
+  void AddControl(Control* control) override { controls_.push_back(control); }
   void MarkChanged();
   void DropView();
 
@@ -118,6 +121,7 @@ class Form {
   Form* next_ = nullptr;
   Control* focused_ = nullptr;
   Control* entered_ = nullptr;  // has been told that it got the focus, and not yet that it lost it
+  bool leaving_ = false;        // a handler of on_lost_focus is running
   MousePointer pointer_ = MousePointer::kDefault;
   int left_ = 0;
   int top_ = 0;

@@ -102,9 +102,8 @@ void HeadlessDesktop::ForgetTimers(const Form& form) {
   });
 }
 
-// Runs what is due, each timer once; true when anything ran.
-bool HeadlessDesktop::RunDue() {
-  bool ran = false;
+// Runs what is due, each timer once.
+void HeadlessDesktop::RunDue() {
   const std::uint64_t now = clock_.Milliseconds();
   std::vector<Scheduled> due;
   std::erase_if(scheduled_, [&](Scheduled& entry) {
@@ -113,20 +112,13 @@ bool HeadlessDesktop::RunDue() {
     return true;
   });
   std::ranges::stable_sort(due, {}, &Scheduled::due);
-  for (const Scheduled& entry : due) {
-    ran = true;
-    RunEvent(entry.action);
+  for (const Scheduled& entry : due) RunEvent(entry.action);
+  for (RunningTimer& entry : timers_) {
+    if (entry.due > now) continue;
+    entry.due = now + static_cast<unsigned>(entry.interval);
+    PostTick(*entry.timer);
   }
-  for (const RunningTimer& ticking : std::vector(timers_)) {
-    if (ticking.due > now) continue;
-    // Another handler may have stopped or restarted it.
-    const auto entry = std::ranges::find(timers_, ticking.timer, &RunningTimer::timer);
-    if (entry == timers_.end() || entry->due > now) continue;
-    entry->due = now + static_cast<unsigned>(entry->interval);
-    ran = true;
-    ticking.timer->Tick();
-  }
-  return ran;
+  RunTicks();
 }
 
 std::optional<std::uint64_t> HeadlessDesktop::NextDue() const {
@@ -149,7 +141,10 @@ void HeadlessDesktop::Run(std::uint32_t milliseconds) {
 }
 
 void HeadlessDesktop::DoEvents() {
-  Flush();
+  RunLoop(Loop::kPassing, [this] { RunPending(); });
+}
+
+void HeadlessDesktop::RunPending() {
   if (on_do_events) on_do_events();
   RunDue();
 }
@@ -163,25 +158,32 @@ void HeadlessDesktop::Repaint() {
 void HeadlessDesktop::RunModal(Form& form) {
   modal_forms_.push_back(form.Name());
   deepest_modal_ = std::max(deepest_modal_, ++modal_depth_);
+  const struct Left {
+    int& depth;
+    ~Left() { --depth; }
+  } left{modal_depth_};
+  RunLoop(Loop::kStanding, [&] { StandModally(form); });
+}
+
+void HeadlessDesktop::StandModally(Form& form) {
   if (auto action = TakeFirst(on_modal_[form.Name()])) RunEvent([&] { (*action)(form); });
   const std::uint64_t patience = clock_.Milliseconds() + kPatience;
-  while (form.Visible()) {
+  while (form.Visible() && !Failed()) {
     const auto next = NextDue();
-    if (!next || clock_.Milliseconds() > patience) {
-      --modal_depth_;
+    if (!next || clock_.Milliseconds() > patience)
       throw std::logic_error("the modal form " + form.Name() + " stays open: nobody acts on it");
-    }
     if (*next > clock_.Milliseconds())
       clock_.Advance(static_cast<std::uint32_t>(*next - clock_.Milliseconds()));
-    DoEvents();
+    Flush();
+    RunPending();
   }
-  --modal_depth_;
 }
 
 BoxButton HeadlessDesktop::ShowMessageBox(const MessageBox& box) {
-  Flush();
-  boxes_.push_back(box);
-  if (auto action = TakeFirst(on_box_)) (*action)(box);
+  RunLoop(Loop::kStanding, [&] {
+    boxes_.push_back(box);
+    if (auto action = TakeFirst(on_box_)) (*action)(box);
+  });
   if (const auto answer = TakeFirst(answers_)) return *answer;
   for (const BoxButton button : {kBoxOk, kBoxYes, kBoxNo, kBoxCancel})
     if (box.buttons & button) return button;

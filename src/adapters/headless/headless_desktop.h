@@ -111,7 +111,9 @@ class HeadlessDesktop : public Desktop {
     std::uint64_t due = 0;
   };
 
-  bool RunDue();
+  void RunPending();
+  void RunDue();
+  void StandModally(Form& form);
   std::optional<std::uint64_t> NextDue() const;
 
   VirtualClock& clock_;

@@ -1,14 +1,12 @@
-// The tie between one control and the widget, action, menu or timer that shows it.
+// The tie between one control and what shows it.
 #pragma once
 
 #include <functional>
-#include <memory>
 
 #include "platform/controls.h"
 
 class QKeyEvent;
 class QObject;
-class QString;
 class QWidget;
 
 namespace lorimet {
@@ -53,9 +51,5 @@ class Binding {
  private:
   Control& control_;
 };
-
-// Ties the control to what bears its name in the window. Null when nothing of the right kind does;
-// `wanted` then says what was looked for.
-std::unique_ptr<Binding> Bind(Control& control, const BindingSite& site, QString& wanted);
 
 }  // namespace lorimet

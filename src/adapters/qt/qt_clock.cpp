@@ -5,6 +5,7 @@
 namespace lorimet {
 
 void QtClock::Sleep(std::uint32_t milliseconds) {
+  if (wait_) return wait_(milliseconds);
   std::this_thread::sleep_for(std::chrono::milliseconds(milliseconds));
 }
 

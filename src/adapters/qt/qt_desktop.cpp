@@ -2,6 +2,7 @@
 
 #include <QApplication>
 #include <QCursor>
+#include <QDialog>
 #include <QEvent>
 #include <QEventLoop>
 #include <QObject>
@@ -16,12 +17,14 @@
 #include "adapters/qt/qt_form_view.h"
 #include "adapters/qt/qt_text.h"
 #include "platform/forms.h"
+#include "platform/runtime_error.h"
 
 namespace lorimet {
 namespace {
 
 constexpr int kDoEventsMilliseconds = 50;
-constexpr std::int32_t kInternalError = 51;
+constexpr std::uint32_t kShortestWait = 100;  // ms, for which nobody's hand is quick enough
+constexpr std::chrono::milliseconds kRepaintEvery{10};
 
 std::int64_t Microseconds() {
   return std::chrono::duration_cast<std::chrono::microseconds>(
@@ -29,12 +32,62 @@ std::int64_t Microseconds() {
       .count();
 }
 
+// While one stands, what the user does reaches no window and is gone; what stands in a pipe stays.
+class InputGate : public QObject {
+ public:
+  InputGate() { qApp->installEventFilter(this); }
+
+ protected:
+  bool eventFilter(QObject*, QEvent* event) override {
+    if (!IsKeptOut(*event)) return false;
+    event->ignore();
+    return true;
+  }
+
+ private:
+  static bool IsKeptOut(const QEvent& event) {
+    switch (event.type()) {
+      case QEvent::KeyPress:
+      case QEvent::KeyRelease:
+      case QEvent::ShortcutOverride:
+      case QEvent::Shortcut:
+      case QEvent::InputMethod:
+      case QEvent::MouseButtonPress:
+      case QEvent::MouseButtonRelease:
+      case QEvent::MouseButtonDblClick:
+      case QEvent::MouseMove:
+      case QEvent::Wheel:
+      case QEvent::TabletPress:
+      case QEvent::TabletRelease:
+      case QEvent::TabletMove:
+      case QEvent::TouchBegin:
+      case QEvent::TouchUpdate:
+      case QEvent::TouchEnd:
+      case QEvent::TouchCancel:
+      case QEvent::ContextMenu:
+      case QEvent::DragEnter:
+      case QEvent::Drop:
+        return true;
+      // Not every event loop can leave these out by itself.
+      case QEvent::SockAct:
+        return true;
+      case QEvent::Close:
+        return event.spontaneous();
+      default:
+        return false;
+    }
+  }
+};
+
 }  // namespace
 
 QtDesktop::QtDesktop(const std::map<std::string, ViewFactory>& factories)
     : factories_(factories), lifetime_(std::make_unique<QObject>()) {
   // The program ends when its forms do, whatever windows come and go.
   QApplication::setQuitOnLastWindowClosed(false);
+  on_unhandled_error = [](const RuntimeError& error) {
+    qFatal("Run-time error '%d': %s", static_cast<int>(error.Number()), error.what());
+  };
   QObject::connect(qApp, &QApplication::focusChanged, lifetime_.get(),
                    [this](QWidget*, QWidget* now) { FocusChanged(now); });
 }
@@ -46,7 +99,8 @@ QtDesktop::~QtDesktop() = default;
 std::unique_ptr<FormView> QtDesktop::CreateView(Form& form) {
   const auto factory = factories_.find(form.Name());
   if (factory == factories_.end()) qFatal("There is no window for form %s.", form.Name().c_str());
-  auto view = std::make_unique<QtFormView>(*this, form, factory->second(nullptr));
+  ViewHost& host = *this;
+  auto view = std::make_unique<QtFormView>(host, form, factory->second(nullptr));
   views_.push_back(view.get());
   return view;
 }
@@ -74,10 +128,9 @@ QWidget* QtDesktop::Window(const Form& form) const {
 }
 
 QWidget* QtDesktop::TopWindow(const QWidget* except) const {
-  for (auto loop = modal_loops_.rbegin(); loop != modal_loops_.rend(); ++loop) {
-    QWidget* window = Window(*loop->form);
-    if (window != nullptr && window != except && window->isVisible()) return window;
-  }
+  // Whatever stands modally already, a box among them: the new one blocks it.
+  QWidget* modal = QApplication::activeModalWidget();
+  if (modal != nullptr && modal != except && modal->isVisible()) return modal;
   for (const QtFormView* view : views_)
     if (view->Window() != except && view->Window() != nullptr && view->Window()->isVisible())
       return view->Window();
@@ -94,20 +147,22 @@ std::uintptr_t QtDesktop::NativeWindow(Form& form) {
 
 void QtDesktop::Run() {
   if (LoadedForms().empty()) return;
-  const LoopScope scope(*this);
-  running_ = true;
-  QCoreApplication::exec();
-  running_ = false;
+  RunLoop(Loop::kStanding, [this] {
+    running_ = true;
+    QCoreApplication::exec();
+    running_ = false;
+  });
 }
 
 void QtDesktop::RunModal(Form& form) {
-  const LoopScope scope(*this);
-  QEventLoop loop;
-  modal_loops_.push_back({&form, &loop});
-  // A form that is hidden and shown again goes on; an application that quits ends all loops.
-  while (form.Visible() && loop.exec() != -1) {
-  }
-  modal_loops_.pop_back();
+  RunLoop(Loop::kStanding, [&] {
+    QEventLoop loop;
+    modal_loops_.push_back({&form, &loop});
+    // A form that is hidden and shown again goes on; an application that quits ends all loops.
+    while (form.Visible() && !Failed() && loop.exec() != -1) {
+    }
+    modal_loops_.pop_back();
+  });
 }
 
 void QtDesktop::FormHidden(const Form& form) {
@@ -115,16 +170,43 @@ void QtDesktop::FormHidden(const Form& form) {
     if (modal.form == &form) modal.loop->quit();
 }
 
+void QtDesktop::EndLoops() {
+  for (const ModalLoop& modal : modal_loops_) modal.loop->quit();
+  for (QWidget* window : QApplication::topLevelWidgets())
+    if (auto* dialog = qobject_cast<QDialog*>(window);
+        dialog != nullptr && ViewOf(window) == nullptr)
+      dialog->reject();
+}
+
 void QtDesktop::DoEvents() {
-  const LoopScope scope(*this);
-  const std::int64_t start = Microseconds();
-  QCoreApplication::processEvents(QEventLoop::AllEvents, kDoEventsMilliseconds);
-  const std::int64_t end = Microseconds();
-  // A loop that waits by calling this again and again leaves the processor to others meanwhile.
-  constexpr std::int64_t kAtOnce = 200;
-  if (end - start < kAtOnce && start - last_idle_ < kAtOnce)
-    std::this_thread::sleep_for(std::chrono::milliseconds(1));
-  last_idle_ = Microseconds();
+  RunLoop(Loop::kPassing, [this] {
+    const std::int64_t start = Microseconds();
+    QCoreApplication::processEvents(QEventLoop::AllEvents, kDoEventsMilliseconds);
+    const std::int64_t end = Microseconds();
+    // A loop that waits by calling this again and again leaves the processor to others meanwhile.
+    constexpr std::int64_t kAtOnce = 200;
+    if (end - start < kAtOnce && start - last_idle_ < kAtOnce)
+      std::this_thread::sleep_for(std::chrono::milliseconds(1));
+    last_idle_ = Microseconds();
+  });
+}
+
+void QtDesktop::Wait(std::uint32_t milliseconds) {
+  const std::chrono::milliseconds whole(milliseconds);
+  if (milliseconds < kShortestWait) return std::this_thread::sleep_for(whole);
+  const auto end = std::chrono::steady_clock::now() + whole;
+  {
+    const CountScope waiting(waiting_);
+    const InputGate gate;
+    auto left = whole;
+    do {
+      std::this_thread::sleep_for(std::min(left, kRepaintEvery));
+      QCoreApplication::processEvents();
+      left = std::chrono::duration_cast<std::chrono::milliseconds>(
+          end - std::chrono::steady_clock::now());
+    } while (left.count() > 0);
+  }
+  TellHeldBack();
 }
 
 void QtDesktop::Repaint() {
@@ -149,65 +231,81 @@ int QtDesktop::ScreenHeight() const {
 
 // --- Events ------------------------------------------------------------------------------------
 
-void QtDesktop::RunEvent(const std::function<void()>& handler) {
-  // An event that code raises within another one is part of it.
-  const CountScope depth(event_depth_);
+void QtDesktop::Dispatch(const std::function<void()>& event) {
+  if (mirroring_ > 0 || waiting_ > 0) return;
+  // Nothing is thrown through the toolkit.
   try {
-    handler();
-    if (event_depth_ == 1) Flush();
-  } catch (const RuntimeError& error) {
-    Fail(error);
-  } catch (const std::exception& error) {
-    Fail(RuntimeError(kInternalError, error.what()));
+    RunEvent(event);
+  } catch (...) {
+    carried_ = std::current_exception();
   }
 }
 
-void QtDesktop::Fail(const RuntimeError& error) {
-  if (failed_) return;
-  failed_ = true;
-  if (!on_unhandled_error)
-    qFatal("Run-time error '%d': %s", static_cast<int>(error.Number()), error.what());
-  on_unhandled_error(error);
+void QtDesktop::RethrowCarried() {
+  if (carried_ != nullptr) std::rethrow_exception(std::exchange(carried_, nullptr));
 }
 
-void QtDesktop::Dispatch(const std::function<void()>& event) {
-  if (mirroring_ > 0 || failed_) return;
-  RunEvent(event);
+void QtDesktop::TickPosted() {
+  if (std::exchange(tick_event_posted_, true)) return;
+  QMetaObject::invokeMethod(
+      lifetime_.get(),
+      [this] {
+        tick_event_posted_ = false;
+        if (waiting_ == 0) RunTicks();
+      },
+      Qt::QueuedConnection);
 }
 
 void QtDesktop::FocusChanged(QWidget* now) {
   // A focus that has left the program's forms comes back to where it was; that is no event.
   if (now == nullptr) return;
-  if (quiet_ == 0) {
-    if (QtFormView* view = ViewOf(now->window())) view->FocusMoved(now);
-    return;
+  if (waiting_ > 0) {
+    focus_pending_ = true;
+  } else if (quiet_ > 0) {
+    if (!std::exchange(focus_pending_, true)) TellFocusLater();
+  } else if (QtFormView* view = ViewOf(now->window())) {
+    view->FocusMoved(now);
   }
-  if (std::exchange(focus_pending_, true)) return;
-  QMetaObject::invokeMethod(
-      lifetime_.get(), [this] { TellFocus(); }, Qt::QueuedConnection);
 }
 
-void QtDesktop::TellFocus() {
-  focus_pending_ = false;
-  if (QWidget* now = QApplication::focusWidget()) FocusChanged(now);
+void QtDesktop::TellFocusLater() {
+  QMetaObject::invokeMethod(
+      lifetime_.get(),
+      [this] {
+        if (waiting_ > 0) return;
+        focus_pending_ = false;
+        if (QWidget* now = QApplication::focusWidget()) FocusChanged(now);
+      },
+      Qt::QueuedConnection);
+}
+
+void QtDesktop::TellHeldBack() {
+  if (waiting_ > 0) return;
+  if (focus_pending_) TellFocusLater();
+  for (QtFormView* view : views_) view->ReportHeldBack();
+  TickPosted();
 }
 
 // --- Dialogs -----------------------------------------------------------------------------------
 
 BoxButton QtDesktop::ShowMessageBox(const MessageBox& box) {
-  const LoopScope scope(*this);
-  return RunMessageBox(box, TopWindow());
+  BoxButton answer = kBoxCancel;
+  RunLoop(Loop::kStanding, [&] { answer = RunMessageBox(box, TopWindow(nullptr)); });
+  return answer;
 }
 
 std::optional<std::string> QtDesktop::ShowFileDialog(const FileDialog& dialog) {
-  const LoopScope scope(*this);
-  return RunFileDialog(dialog, TopWindow());
+  std::optional<std::string> path;
+  RunLoop(Loop::kStanding, [&] { path = RunFileDialog(dialog, TopWindow(nullptr)); });
+  return path;
 }
 
 std::optional<int> QtDesktop::ChooseFromList(const std::string& title,
                                              const std::vector<std::string>& items, int selected) {
-  const LoopScope scope(*this);
-  return RunListDialog(title, items, selected, TopWindow());
+  std::optional<int> choice;
+  RunLoop(Loop::kStanding,
+          [&] { choice = RunListDialog(title, items, selected, TopWindow(nullptr)); });
+  return choice;
 }
 
 }  // namespace lorimet

@@ -113,6 +113,7 @@ class FileChooser : public QFileDialog {
 void SetUp(const FileDialog& dialog, QFileDialog& chooser) {
   const bool is_save = dialog.kind == FileDialog::Kind::kSave;
   chooser.setObjectName(QStringLiteral("dlgFile"));
+  chooser.setWindowModality(Qt::WindowModal);
   chooser.setOption(QFileDialog::DontUseNativeDialog, !NativeDialogsAllowed());
   chooser.setOption(QFileDialog::DontConfirmOverwrite, true);
   chooser.setAcceptMode(is_save ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
@@ -132,7 +133,7 @@ BoxButton RunMessageBox(const MessageBox& box, QWidget* parent) {
   // On the heap: the parent may end while the box stands, and takes the box with it.
   QPointer<QMessageBox> dialog = new QMessageBox(parent);
   dialog->setObjectName(QStringLiteral("msgBox"));
-  dialog->setWindowModality(Qt::ApplicationModal);
+  dialog->setWindowModality(Qt::WindowModal);
   dialog->setTextFormat(Qt::PlainText);
   dialog->setIcon(ToIcon(box.icon));
   dialog->setWindowTitle(ToWidgetText(box.title));
@@ -161,7 +162,7 @@ std::optional<int> RunListDialog(const std::string& title, const std::vector<std
                                  int selected, QWidget* parent) {
   QPointer<QDialog> dialog = new QDialog(parent);
   dialog->setObjectName(QStringLiteral("dlgChoose"));
-  dialog->setWindowModality(Qt::ApplicationModal);
+  dialog->setWindowModality(Qt::WindowModal);
   dialog->setWindowTitle(ToWidgetText(title));
   auto* list = new QListWidget(dialog);
   list->setObjectName(QStringLiteral("lstChoose"));

@@ -1,5 +1,6 @@
 #include "adapters/qt/qt_form_view.h"
 
+#include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
 #include <QDialog>
@@ -9,12 +10,14 @@
 #include <QMenuBar>
 #include <QMouseEvent>
 #include <QPixmap>
+#include <QPushButton>
 #include <QScreen>
+#include <QShortcutEvent>
 #include <QStringList>
 #include <QWindow>
 #include <algorithm>
 
-#include "adapters/qt/qt_desktop.h"
+#include "adapters/qt/qt_binder.h"
 #include "adapters/qt/qt_keys.h"
 #include "adapters/qt/qt_text.h"
 #include "platform/forms.h"
@@ -24,14 +27,25 @@ namespace {
 
 QRect AvailableScreen() { return QGuiApplication::primaryScreen()->availableGeometry(); }
 
+// Menus are the platform's: no form sees a key on its way to one.
+bool IsOfMenus(const QWidget* widget) {
+  for (; widget != nullptr; widget = widget->parentWidget())
+    if (widget->inherits("QMenuBar") || widget->inherits("QMenu")) return true;
+  return false;
+}
+
+bool IsEnter(const QKeyEvent& key) {
+  return key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
+}
+
 bool HasManyLines(const Control& control, const QWidget* widget) {
   return control.Kind() == ControlKind::kTextBox && !widget->inherits("QLineEdit");
 }
 
 }  // namespace
 
-QtFormView::QtFormView(QtDesktop& desktop, Form& form, QWidget* window)
-    : desktop_(desktop), form_(form), window_(window), field_names_(*window) {
+QtFormView::QtFormView(ViewHost& host, Form& form, QWidget* window)
+    : host_(host), form_(form), window_(window), field_names_(*window) {
   window_->setObjectName(ToQString(form.Name()));
   // The window's life is the form's; only the form ends it.
   window_->setAttribute(Qt::WA_DeleteOnClose, false);
@@ -42,7 +56,7 @@ QtFormView::QtFormView(QtDesktop& desktop, Form& form, QWidget* window)
 }
 
 QtFormView::~QtFormView() {
-  desktop_.ViewDropped(*this);
+  host_.ViewDropped(*this);
   if (window_ == nullptr) return;
   window_->removeEventFilter(this);
   window_->hide();
@@ -97,7 +111,8 @@ void QtFormView::ImportForm() {
 
 void QtFormView::WatchWidgets() {
   window_->installEventFilter(this);
-  for (QWidget* widget : window_->findChildren<QWidget*>()) widget->installEventFilter(this);
+  for (QWidget* widget : window_->findChildren<QWidget*>())
+    if (!IsOfMenus(widget)) widget->installEventFilter(this);
 }
 
 Binding* QtFormView::BindingOf(const QWidget* widget) const {
@@ -124,8 +139,8 @@ void QtFormView::Changed(Control* control) {
 
 void QtFormView::Flush() {
   if (window_ == nullptr || (changed_.empty() && !form_changed_)) return;
-  const QtDesktop::CountScope mirroring(desktop_.mirroring_);
-  const QtDesktop::CountScope quiet(desktop_.quiet_);
+  const CountScope mirroring(host_.mirroring_);
+  const CountScope quiet(host_.quiet_);
   const std::vector<Control*> controls = std::exchange(changed_, {});
   bool words_changed = false;
   for (Control* control : controls) {
@@ -186,8 +201,8 @@ void QtFormView::MoveWindow() {
 }
 
 bool QtFormView::IsCentred() const {
-  return form_.Left() == (desktop_.ScreenWidth() - form_.Width()) / 2 &&
-         form_.Top() == (desktop_.ScreenHeight() - form_.Height()) / 2;
+  return form_.Left() == (form_.GetDesktop().ScreenWidth() - form_.Width()) / 2 &&
+         form_.Top() == (form_.GetDesktop().ScreenHeight() - form_.Height()) / 2;
 }
 
 // Translated words may need more room than the designer's.
@@ -209,14 +224,15 @@ void QtFormView::FitToContents() {
 
 void QtFormView::Show(bool modal, Form* owner) {
   if (window_ == nullptr) return;
-  const QtDesktop::CountScope quiet(desktop_.quiet_);
+  const CountScope quiet(host_.quiet_);
   const QPointer<QtFormView> alive(this);
   const bool was_visible = window_->isVisible();
   if (!was_visible) {
-    window_->setWindowModality(modal ? Qt::ApplicationModal : Qt::NonModal);
+    // Not modal to the application: the help can be read and closed whatever stands.
+    window_->setWindowModality(modal ? Qt::WindowModal : Qt::NonModal);
     FitToContents();
-    QWidget* parent = owner != nullptr ? desktop_.Window(*owner) : nullptr;
-    if (parent == nullptr && modal) parent = desktop_.TopWindow(window_);
+    QWidget* parent = owner != nullptr ? host_.Window(*owner) : nullptr;
+    if (modal) parent = host_.TopWindow(window_);
     // In front of its owner, but not owned by it: each window ends with its own form.
     window_->winId();
     window_->windowHandle()->setTransientParent(
@@ -231,12 +247,13 @@ void QtFormView::Show(bool modal, Form* owner) {
   window_->activateWindow();
   Measure();
   told_size_ = window_->size();
+  host_.RethrowCarried();
 }
 
 void QtFormView::Hide() {
-  const QtDesktop::CountScope quiet(desktop_.quiet_);
+  const CountScope quiet(host_.quiet_);
   if (window_ != nullptr) window_->hide();
-  desktop_.FormHidden(form_);
+  host_.FormHidden(form_);
 }
 
 void QtFormView::SetFocus(Control& control) {
@@ -244,14 +261,24 @@ void QtFormView::SetFocus(Control& control) {
   if (widget == nullptr || window_ == nullptr) return;
   // A field that has just been enabled or shown takes the focus only when its widget is, too.
   if (!widget->isEnabled() || !widget->isVisible()) Flush();
+  const QPointer<QtFormView> alive(this);
+  ViewHost& host = host_;
   widget->setFocus(Qt::OtherFocusReason);
+  host.RethrowCarried();
+  if (!alive) return;
+  // A window that is not active, as right behind a box, gives the focus on when it is; the form has
+  // it from now on.
+  if (window_ == nullptr || window_->isActiveWindow()) return;
+  const QWidget* taken = window_->focusWidget();
+  if (taken != nullptr && (taken == widget || widget->isAncestorOf(taken)))
+    form_.UserFocus(&control);
 }
 
 // --- From the window to the form ---------------------------------------------------------------
 
 bool QtFormView::Dispatch(const std::function<void()>& event) {
   const QPointer<QtFormView> alive(this);
-  desktop_.Dispatch(event);
+  host_.Dispatch(event);
   return alive != nullptr;
 }
 
@@ -283,7 +310,9 @@ bool QtFormView::WindowEvent(QEvent& event) {
       return false;
     case QEvent::WindowStateChange:
       form_.ViewMinimized(window_->isMinimized());
-      return !Dispatch([&form = form_] { form.UserResize(); });
+      told_size_ = {};
+      ReportSizeLater();
+      return false;
     default:
       return false;
   }
@@ -291,8 +320,17 @@ bool QtFormView::WindowEvent(QEvent& event) {
 
 bool QtFormView::WidgetEvent(QWidget& widget, QEvent& event) {
   switch (event.type()) {
-    case QEvent::KeyPress:
-      return KeyPressed(widget, static_cast<QKeyEvent&>(event));
+    case QEvent::KeyPress: {
+      const auto& key = static_cast<QKeyEvent&>(event);
+      return KeyPressed(widget, static_cast<QKeyEvent&>(event)) ||
+             (&widget == window_ && PressDefaultButton(key));
+    }
+    case QEvent::Shortcut: {
+      auto* button = qobject_cast<QAbstractButton*>(&widget);
+      if (button == nullptr || static_cast<QShortcutEvent&>(event).isAmbiguous()) return false;
+      PressButton(*button);
+      return true;
+    }
     case QEvent::MouseButtonPress:
       return event.spontaneous() && FocusRefused(widget);
     case QEvent::MouseButtonRelease: {
@@ -339,8 +377,7 @@ bool QtFormView::KeyPressed(QWidget& widget, QKeyEvent& key) {
   if (!alive) return true;
   // These two close and confirm a dialog, wherever in it the focus is.
   const bool is_dialog_key =
-      window_->inherits("QDialog") &&
-      (key.key() == Qt::Key_Escape || key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter);
+      window_->inherits("QDialog") && (key.key() == Qt::Key_Escape || IsEnter(key));
   if (!passed && !is_dialog_key && !IsSystemKey(key)) {
     key.accept();
     return true;
@@ -355,21 +392,46 @@ bool QtFormView::ActOnKey(QWidget& widget, const QKeyEvent& key) {
     return true;
   }
   if (key.key() == Qt::Key_Escape && is_plain && window_->inherits("QDialog")) {
-    Dispatch([&form = form_] { form.UserClose(); });
+    // Never the dialog by itself: it would vanish without its form.
+    if (form_.escape_closes) Dispatch([&form = form_] { form.UserClose(); });
     return true;
   }
   Binding* binding = BindingOf(&widget);
   return binding != nullptr && binding->HandleKey(key);
 }
 
+// As the Alt key alone, so that the menu bar gives the focus back when it is left; and the first
+// menu opens.
 void QtFormView::OpenMenuBar() {
   QMenuBar* bar = static_cast<QMainWindow*>(window_.data())->menuBar();
+  QKeyEvent question(QEvent::ShortcutOverride, Qt::Key_Alt, Qt::AltModifier);
+  QCoreApplication::sendEvent(window_, &question);
+  QKeyEvent release(QEvent::KeyRelease, Qt::Key_Alt, Qt::NoModifier);
+  QCoreApplication::sendEvent(window_, &release);
   for (QAction* action : bar->actions()) {
     if (!action->isVisible() || !action->isEnabled() || action->isSeparator()) continue;
-    bar->setFocus(Qt::MenuBarFocusReason);
     bar->setActiveAction(action);
     return;
   }
+}
+
+// By its letter or as the default one. As with the mouse the focus goes there first, and where a
+// field refuses to be left nothing is pressed.
+void QtFormView::PressButton(QAbstractButton& button) {
+  const QPointer<QtFormView> alive(this);
+  const QPointer<QAbstractButton> pressed(&button);
+  button.setFocus(Qt::ShortcutFocusReason);
+  if (alive && pressed && window_ != nullptr && window_->focusWidget() == pressed) pressed->click();
+}
+
+bool QtFormView::PressDefaultButton(const QKeyEvent& key) {
+  if (!IsEnter(key) || !window_->inherits("QDialog")) return false;
+  for (QPushButton* button : window_->findChildren<QPushButton*>()) {
+    if (!button->isDefault() || !button->isVisible()) continue;
+    if (button->isEnabled() && !key.isAutoRepeat()) PressButton(*button);
+    break;
+  }
+  return true;
 }
 
 // The press of the mouse has moved the focus here, and a handler has put it elsewhere: a field that
@@ -407,14 +469,22 @@ void QtFormView::ReportSizeLater() {
   QMetaObject::invokeMethod(
       this,
       [this] {
-        report_pending_ = false;
-        if (window_ == nullptr || !window_->isVisible()) return;
-        Measure();
-        ReportSize();
-        if (std::exchange(told_size_, window_->size()) != window_->size())
-          Dispatch([&form = form_] { form.UserResize(); });
+        if (!host_.Waiting()) TellSize();
       },
       Qt::QueuedConnection);
+}
+
+void QtFormView::ReportHeldBack() {
+  if (std::exchange(report_pending_, false)) ReportSizeLater();
+}
+
+void QtFormView::TellSize() {
+  report_pending_ = false;
+  if (window_ == nullptr || !window_->isVisible()) return;
+  Measure();
+  ReportSize();
+  if (std::exchange(told_size_, window_->size()) != window_->size())
+    Dispatch([&form = form_] { form.UserResize(); });
 }
 
 void QtFormView::ReportPlace() {

@@ -12,20 +12,20 @@
 
 #include "adapters/qt/qt_binding.h"
 #include "adapters/qt/qt_field_names.h"
+#include "adapters/qt/qt_view_host.h"
 #include "platform/desktop.h"
 
+class QAbstractButton;
 class QKeyEvent;
 class QMouseEvent;
 
 namespace lorimet {
 
-class QtDesktop;
-
 class QtFormView : public QObject, public FormView {
  public:
   // Takes the window over, and imports into form and controls what the designer drew. Ends the
   // process with a message when the window lacks a control's widget.
-  QtFormView(QtDesktop& desktop, Form& form, QWidget* window);
+  QtFormView(ViewHost& host, Form& form, QWidget* window);
   ~QtFormView() override;
 
   Form& GetForm() const { return form_; }
@@ -39,6 +39,8 @@ class QtFormView : public QObject, public FormView {
 
   // The keyboard focus is now on this widget of the window.
   void FocusMoved(QWidget* widget);
+  // Reports what the window did during a blocking wait.
+  void ReportHeldBack();
 
  protected:
   bool eventFilter(QObject* object, QEvent* event) override;
@@ -58,6 +60,8 @@ class QtFormView : public QObject, public FormView {
   bool IsFirstReceiver(QWidget& widget, const QKeyEvent& key);
   bool ActOnKey(QWidget& widget, const QKeyEvent& key);
   void OpenMenuBar();
+  void PressButton(QAbstractButton& button);
+  bool PressDefaultButton(const QKeyEvent& key);
   bool FocusRefused(QWidget& widget) const;
   void MouseReleased(QWidget& widget, const QMouseEvent& mouse);
 
@@ -69,10 +73,11 @@ class QtFormView : public QObject, public FormView {
   void Measure();
   void ReportSize();
   void ReportSizeLater();
+  void TellSize();
   void ReportPlace();
   bool IsCentred() const;
 
-  QtDesktop& desktop_;
+  ViewHost& host_;
   Form& form_;
   QPointer<QWidget> window_;
   std::vector<std::unique_ptr<Binding>> bindings_;

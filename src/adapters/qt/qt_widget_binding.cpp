@@ -7,6 +7,9 @@
 
 namespace lorimet {
 
+WidgetBinding::WidgetBinding(Control& control, QWidget* widget)
+    : Binding(control), widget_(widget), focus_policy_(widget->focusPolicy()) {}
+
 ControlDesign WidgetBinding::Design() const {
   ControlDesign design;
   design.tool_tip = FromWidgetText(widget_->toolTip());
@@ -20,6 +23,10 @@ void WidgetBinding::Mirror(unsigned changes) {
   const Control& control = GetControl();
   if (changes & Control::kEnabled) widget_->setEnabled(control.Enabled());
   if (changes & Control::kVisible) widget_->setVisible(control.Visible());
+  if (changes & Control::kTabStop) {
+    const int policy = control.TabStop() ? focus_policy_ : focus_policy_ & ~Qt::TabFocus;
+    widget_->setFocusPolicy(static_cast<Qt::FocusPolicy>(policy));
+  }
   if (changes & Control::kToolTip) widget_->setToolTip(ToWidgetText(control.ToolTipText()));
   if (changes & Control::kBackColor) {
     const QString rule = BackColorRule(control.BackColor(), widget_->objectName());

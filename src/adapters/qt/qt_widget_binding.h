@@ -9,7 +9,7 @@ namespace lorimet {
 
 class WidgetBinding : public Binding {
  public:
-  WidgetBinding(Control& control, QWidget* widget) : Binding(control), widget_(widget) {}
+  WidgetBinding(Control& control, QWidget* widget);
 
   QWidget* Widget() const override { return widget_; }
   ControlDesign Design() const override;
@@ -17,6 +17,7 @@ class WidgetBinding : public Binding {
 
  private:
   QWidget* widget_;
+  int focus_policy_;  // the designer's
 };
 
 }  // namespace lorimet

@@ -1,4 +1,4 @@
-#include "adapters/qt/qt_binding.h"
+#include "adapters/qt/qt_binder.h"
 
 #include <QAction>
 #include <QButtonGroup>
@@ -141,6 +141,7 @@ class OptionBinding : public AbstractButtonBinding {
   OptionBinding(OptionButton& option, QRadioButton* widget, const BindingSite& site)
       : AbstractButtonBinding(option, widget), option_(option), widget_(widget) {
     JoinGroup(site.window);
+    SetEntry();
     QObject::connect(widget, &QRadioButton::toggled, site.lifetime,
                      [&option, dispatch = site.dispatch](bool checked) {
                        if (checked) dispatch([&option] { option.UserClick(); });
@@ -148,7 +149,13 @@ class OptionBinding : public AbstractButtonBinding {
   }
   void Mirror(unsigned changes) override {
     AbstractButtonBinding::Mirror(changes);
-    if (!(changes & Control::kValue) || widget_->isChecked() == option_.Value()) return;
+    if (changes & Control::kValue) MirrorValue();
+    if (changes & (Control::kValue | Control::kEnabled)) SetEntry();
+  }
+
+ private:
+  void MirrorValue() {
+    if (widget_->isChecked() == option_.Value()) return;
     // An exclusive group would not let its last selected button go.
     QButtonGroup* group = widget_->group();
     group->setExclusive(false);
@@ -156,9 +163,19 @@ class OptionBinding : public AbstractButtonBinding {
     group->setExclusive(true);
   }
 
- private:
+  // The Tab key enters a group at its selected button, and anywhere while none is selected.
+  void SetEntry() {
+    const QAbstractButton* selected = widget_->group()->checkedButton();
+    if (selected != nullptr && !selected->isEnabled()) selected = nullptr;
+    for (QAbstractButton* button : widget_->group()->buttons()) {
+      const bool is_entry = selected == nullptr || button == selected;
+      button->setFocusPolicy(is_entry ? Qt::StrongFocus : Qt::ClickFocus);
+    }
+  }
+
+  // Within a group the toolkit asks the group what excludes what; a screen reader asks the button.
   void JoinGroup(QWidget* window) {
-    widget_->setAutoExclusive(false);
+    widget_->setAutoExclusive(true);
     if (widget_->group() != nullptr) widget_->group()->removeButton(widget_);
     QString name = ToQString(option_.Name());
     if (option_.Index() >= 0) name.truncate(name.lastIndexOf(QLatin1Char('_')));
@@ -266,7 +283,7 @@ class TimerBinding : public Binding {
       : Binding(timer), timer_(timer), ticker_(new QTimer(site.window)) {
     ticker_->setObjectName(ToQString(timer.Name()));
     QObject::connect(ticker_, &QTimer::timeout, site.lifetime,
-                     [&timer, dispatch = site.dispatch] { dispatch([&timer] { timer.Tick(); }); });
+                     [&timer] { timer.Owner().GetDesktop().PostTick(timer); });
   }
   void Mirror(unsigned changes) override {
     if (!(changes & (Control::kInterval | Control::kEnabled))) return;
