@@ -2,6 +2,7 @@
 #include <QApplication>
 #include <QDir>
 #include <QFile>
+#include <QImage>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMainWindow>
@@ -59,6 +60,24 @@ class HelpTest : public testing::Test {
   static Widget* Find(const char* name) {
     return Window()->findChild<Widget*>(QLatin1String(name));
   }
+
+  // A form, and a dialog that stands modally on it while something happens.
+  struct SampleStage {
+    QtDesktop desktop{{{"frmSample", BuildSampleWindow}, {"frmOne", BuildSampleDialog}}};
+    SampleForm form{desktop};
+    SampleForm dialog{desktop, "frmOne"};
+
+    void ShowModally(const std::function<void()>& action) {
+      form.Show();
+      DesktopTest::WhenModal([&](QWidget*) {
+        action();
+        dialog.Unload();
+      });
+      dialog.Show(Modality::kModal, &form);
+      form.Unload();
+      DesktopTest::Pump();
+    }
+  };
 
   QTemporaryDir folder;
   bool french = false;
@@ -137,6 +156,75 @@ TEST_F(HelpTest, SearchCommandOpensAtTheSearch) {
   ASSERT_EQ(results->count(), 2);
   results->setCurrentRow(1);
   EXPECT_TRUE(Find<QTextBrowser>("txtHelpPage")->toPlainText().contains("active ones"));
+}
+
+TEST_F(HelpTest, PageCommandOpensAtThatPageAndAtTheContentsWithoutIt) {
+  viewer.Show("", HelpCommand::kPage, "faults.html");
+  EXPECT_EQ(Find<QTextBrowser>("txtHelpPage")->toPlainText(), "The ECU keeps faults.");
+  EXPECT_EQ(Window()->focusWidget(), Find<QTextBrowser>("txtHelpPage"));
+  viewer.Show("", HelpCommand::kPage, "nowhere.html");
+  EXPECT_TRUE(Find<QTextBrowser>("txtHelpPage")->toPlainText().startsWith("Help"));
+}
+
+// The lightest and the darkest colour in a picture.
+std::pair<int, int> Range(const QImage& picture) {
+  std::pair<int, int> range{255, 0};
+  for (int y = 0; y < picture.height(); ++y)
+    for (int x = 0; x < picture.width(); ++x) {
+      const int grey = qGray(picture.pixel(x, y));
+      range = {std::min(range.first, grey), std::max(range.second, grey)};
+    }
+  return range;
+}
+
+TEST_F(HelpTest, SelectedResultIsLightOnDarkAndTheOthersDarkOnLight) {
+  viewer.Show("", HelpCommand::kPartialKey, "faults");
+  DesktopTest::Pump();
+  auto* results = Find<QListWidget>("lstHelpResults");
+  ASSERT_EQ(results->count(), 2);
+  for (const int selected : {1, 0}) {
+    results->setCurrentRow(selected);
+    results->setFocus();
+    DesktopTest::Pump();
+    const QImage picture = results->viewport()->grab().toImage();
+    for (int row = 0; row < 2; ++row) {
+      const QRect place = results->visualItemRect(results->item(row)).adjusted(6, 6, -6, -6);
+      const QImage words = picture.copy(place);
+      const int ground = qGray(words.pixel(0, 0));
+      const auto [darkest, lightest] = Range(words);
+      if (row == selected) {
+        EXPECT_LT(ground, 110);
+        EXPECT_GT(lightest, 220);
+      } else {
+        EXPECT_GT(ground, 220);
+        EXPECT_LT(darkest, 60);
+      }
+    }
+  }
+}
+
+TEST_F(HelpTest, OpenHelpTakesClicksAndClosesWhateverStandsModally) {
+  SampleStage stage;
+  viewer.Show("", HelpCommand::kContents, "");
+  stage.ShowModally([&] {
+    ASSERT_NE(QApplication::activeModalWidget(), nullptr);
+    auto* page = Find<QTextBrowser>("txtHelpPage");
+    auto* contents = Find<QTreeWidget>("lstHelpContents");
+    const QRect second = contents->visualItemRect(contents->topLevelItem(1));
+    road::Click(contents->viewport(), second.center());
+    EXPECT_TRUE(page->toPlainText().startsWith("Pression")) << FromQString(page->toPlainText());
+    // The window behind the modal one takes nothing.
+    const auto clicks = stage.form.log.size();
+    road::Click(stage.desktop.Window(stage.form)->findChild<QWidget*>("cmdOK"));
+    EXPECT_EQ(stage.form.log.size(), clicks);
+    Window()->activateWindow();
+    DesktopTest::Pump();
+    road::Key(Window(), Qt::Key_Escape);
+    EXPECT_FALSE(Window()->isVisible());
+    viewer.Show("", HelpCommand::kContents, "");
+    EXPECT_TRUE(Window()->isVisible());
+    EXPECT_TRUE(Window()->close());
+  });
 }
 
 TEST_F(HelpTest, HelpFilesFolderComesFirst) {

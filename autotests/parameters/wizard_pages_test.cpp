@@ -189,22 +189,36 @@ TEST_F(WizardTest, PathOfMechanicalSuspensionHasItsOwnRange) {
   }
 }
 
-TEST_F(WizardTest, ButtonDoesNothingWhileAFieldIsOutOfRange) {
+TEST_F(WizardTest, NextDoesNothingWhileAFieldIsOutOfRange) {
   OpenPage();
   TextBox& field = Page().txtAxleLoadLaden[0];
-  for (Button* button : {&Page().cmdNext, &Page().cmdPrev, &Page().cmdClose}) {
+  field.SetFocus();
+  field.UserType("25001");
+  Press(Page().cmdNext);
+  EXPECT_EQ(desktop.TakeBoxes().size(), 1u);
+  EXPECT_EQ(Page().FocusedControl(), &field);
+  EXPECT_TRUE(Page().Loaded());
+  // The same without the focus.
+  field.UserType("25002");
+  Page().cmdNext.UserClick();
+  EXPECT_EQ(desktop.TakeBoxes().size(), 1u);
+  EXPECT_TRUE(Page().Loaded());
+}
+
+TEST_F(WizardTest, PreviousAndCloseDropAFieldThatIsOutOfRangeUnasked) {
+  for (Button* button : {&Page().cmdPrev, &Page().cmdClose, &Last().cmdPrev, &Last().cmdClose}) {
+    OpenPage();
+    Last().Load();
+    const bool on_last = &button->Owner() == &Last();
+    Form& page = on_last ? static_cast<Form&>(Last()) : Page();
+    TextBox& field = on_last ? Last().txtNumTeeth[0] : Page().txtAxleLoadLaden[0];
     field.SetFocus();
     field.UserType("25001");
     Press(*button);
-    EXPECT_EQ(desktop.TakeBoxes().size(), 1u) << button->Name();
-    EXPECT_EQ(Page().FocusedControl(), &field) << button->Name();
-    EXPECT_TRUE(Page().Loaded()) << button->Name();
-    // The same by a key, which moves no focus.
-    field.UserType("25002");
-    button->UserClick();
-    EXPECT_EQ(desktop.TakeBoxes().size(), 1u) << button->Name();
-    EXPECT_TRUE(Page().Loaded()) << button->Name();
+    EXPECT_FALSE(page.Loaded()) << page.Name() << "." << button->Name();
+    EXPECT_EQ(desktop.TakeBoxes(), Boxes{}) << page.Name() << "." << button->Name();
   }
+  EXPECT_TRUE(link.TakeCalls().empty());
 }
 
 TEST_F(WizardTest, NextEncodesTheScreen) {
@@ -618,14 +632,13 @@ TEST_F(WizardTest, LastPageRefusesWhatIsOutOfRange) {
   EXPECT_TRUE(link.TakeCalls().empty());
 }
 
-TEST_F(WizardTest, EveryButtonOfTheLastPageIsHeldByAFieldOutOfRange) {
+TEST_F(WizardTest, BothSavesOfTheLastPageAreHeldByAFieldOutOfRange) {
   OpenPage();
   Last().Load();
   Last().txtTireSize[0].UserType("3250");
   for (TextBox* field : {&Last().txtNumTeeth[0], &Last().txtNumTeeth[1], &Last().txtTireSize[0],
                          &Last().txtTireSize[1]})
-    for (Button* button :
-         {&Last().cmdSaveToECU, &Last().cmdSaveToFile, &Last().cmdPrev, &Last().cmdClose}) {
+    for (Button* button : {&Last().cmdSaveToECU, &Last().cmdSaveToFile}) {
       const ParmBlock before = Vehicle();
       field->SetFocus();
       EXPECT_EQ(field->AllSelected(), button == &Last().cmdSaveToECU);  // on the first visit
@@ -649,8 +662,8 @@ TEST_F(WizardTest, LimitsOfTheLastPagePass) {
     for (const char* text : texts) {
       field->SetFocus();
       field->UserType(text);
-      Last().cmdClose.SetFocus();
-      EXPECT_EQ(Last().FocusedControl(), &Last().cmdClose) << text;
+      Last().cmdSaveToFile.SetFocus();
+      EXPECT_EQ(Last().FocusedControl(), &Last().cmdSaveToFile) << text;
     }
 }
 

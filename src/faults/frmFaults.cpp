@@ -31,6 +31,8 @@ std::string PadNumber(const std::string& text) {
 
 frmFaults::frmFaults(const FaultListParts& parts)
     : Form(parts.desktop, "frmFaults"), parts_(parts) {
+  escape_closes = true;
+  help_page = "faults.html";
   grdFaults.on_focused_row_change = [this] { OnRowFocused(); };
   grdFaults.on_hyperlink_click = [this](int row) { OnHyperlink(row); };
   // The box can be read and selected, but not edited.
@@ -115,6 +117,9 @@ void frmFaults::OpenManual(int row) {
 }
 
 void frmFaults::ClearAll() {
+  // A second click while the events run would start a second clearing.
+  const bool had_focus = FocusedControl() == &cmdClearAll;
+  cmdClearAll.SetEnabled(false);
   SetMousePointer(MousePointer::kHourglass);
   parts_.faults.ClearFaultGrid(grdFaults, txtRepair);
   parts_.faults.ClearFaults();
@@ -124,6 +129,8 @@ void frmFaults::ClearAll() {
   // The user can have closed the list while the events ran.
   if (!Loaded()) return;
   SetMousePointer(MousePointer::kDefault);
+  cmdClearAll.SetEnabled(true);
+  if (had_focus) cmdClearAll.SetFocus();
   parts_.faults.FillFaultGrid(grdFaults, txtRepair);
 }
 

@@ -18,6 +18,7 @@ constexpr FieldWrite kAtLoad[] = {
 
 frmGIOSelection::frmGIOSelection(const WizardParts& parts)
     : Form(parts.desktop, "frmGIOSelection"), parts_(parts) {
+  help_page = "gio_selection.html";
   chkGIO.OnClick([this](int index) { OnFunction(index); });
   cmdNext.on_click = [this] { OnNext(); };
   cmdPrev.on_click = [this] {

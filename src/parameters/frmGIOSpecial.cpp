@@ -89,6 +89,7 @@ bool IsMarked(int box, const ParameterImage& image) {
 frmGIOSpecial::frmGIOSpecial(const WizardParts& parts)
     : Form(parts.desktop, "frmGIOSpecial"), parts_(parts) {
   chkPerkins.OnClick([this](int index) { OnFunction(index); });
+  help_page = "gio_selection.html";
   cmdClose.on_click = [this] { OnClose(); };
 }
 

@@ -35,6 +35,7 @@ frmLiftAxlePressures::frmLiftAxlePressures(const WizardParts& parts)
                 "Lifting Pressure out of range.  Valid range : 0 - 100 psi");
   checks_.Watch(txtLoweringPress, 1, 100,
                 "Lowering Pressure out of range.  Valid range : 0 - 100 psi");
+  help_page = "lift_axle_pressures.html";
   Command1.on_click = [this] {
     if (checks_.Accept()) OnAccept();
   };

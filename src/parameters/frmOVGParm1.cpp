@@ -57,6 +57,7 @@ frmOVGParm1::frmOVGParm1(const WizardParts& parts)
     OnModularMounting();
     TellChoices();
   };
+  help_page = "system_page.html";
   cmdNext.on_click = [this] { OnNext(); };
   cmdClose.on_click = [this] { Unload(); };
 }

@@ -38,16 +38,15 @@ std::string FieldOf(const std::string& text, const TextField& field) {
 
 frmOVGParm2::frmOVGParm2(const WizardParts& parts)
     : Form(parts.desktop, "frmOVGParm2"), parts_(parts), checks_(*this, parts.dictionary) {
+  help_page = "load_sensing_page.html";
   WatchFields();
   cmdNext.on_click = [this] {
     if (checks_.Accept()) Next();
   };
-  cmdPrev.on_click = [this] {
-    if (checks_.Accept()) Previous();
-  };
-  cmdClose.on_click = [this] {
-    if (checks_.Accept()) Close();
-  };
+  // Both drop what stands in the field that is left.
+  cmdPrev.causes_validation = cmdClose.causes_validation = false;
+  cmdPrev.on_click = [this] { Previous(); };
+  cmdClose.on_click = [this] { Close(); };
 }
 
 void frmOVGParm2::WatchColumn(const ControlArray<TextBox>& column, double high,

@@ -30,6 +30,7 @@ frmOVGParm3::frmOVGParm3(const WizardParts& parts, Clock& clock, Faults& faults,
       faults_(faults),
       file_(file),
       checks_(*this, parts.dictionary) {
+  help_page = "overturn_guard.html";
   for (auto& field : txtNumTeeth)
     checks_.Watch(*field, 50, 130, "Number of Teeth out of range.  Valid range : 50 - 130");
   for (auto& field : txtTireSize)
@@ -41,8 +42,10 @@ frmOVGParm3::frmOVGParm3(const WizardParts& parts, Clock& clock, Faults& faults,
   };
   bind(cmdSaveToECU, &frmOVGParm3::SaveToEcu);
   bind(cmdSaveToFile, &frmOVGParm3::SaveToFile);
-  bind(cmdPrev, &frmOVGParm3::Previous);
-  bind(cmdClose, &frmOVGParm3::Close);
+  // Both drop what stands in the field that is left.
+  cmdPrev.causes_validation = cmdClose.causes_validation = false;
+  cmdPrev.on_click = [this] { Previous(); };
+  cmdClose.on_click = [this] { Close(); };
 }
 
 void frmOVGParm3::OnLoad() {

@@ -27,6 +27,7 @@ frmSpeedSwitchThresh::frmSpeedSwitchThresh(const WizardParts& parts)
   checks_.Watch(txtTurnOnThresh, 2, 100, "Turn On Thresh out of range.  Valid range : 2 - 100 kph");
   checks_.Watch(txtTurnOffThresh, 0, 100,
                 "Turn Off Thresh out of range.  Valid range : 0 - 100 kph");
+  help_page = "speed_switch.html";
   Command1.on_click = [this] {
     if (checks_.Accept()) OnAccept();
   };

@@ -18,8 +18,9 @@ class Process {
   virtual std::string ProgramFolder() = 0;
 };
 
-// The help viewer: the three calls that the program makes of it.
-enum class HelpCommand { kContents = 3, kPartialKey = 0x105 };
+// The help viewer: the three calls that the program makes of it. The key is the words to search
+// for, or the page, a file of help/<language>/.
+enum class HelpCommand { kContents = 3, kPartialKey = 0x105, kPage = 1 };
 class HelpViewer {
  public:
   virtual ~HelpViewer() = default;

@@ -1,5 +1,6 @@
 #include "session/session_part.h"
 
+#include "platform/desktop.h"
 #include "session/ports.h"
 #include "support/support_part.h"
 
@@ -14,6 +15,9 @@ SessionPart::SessionPart(const Ports& ports, SupportPart& support)
                  support.help,
                  ports.process,
                  support.err}) {
+  ports.desktop.on_help = [this, &support](const Form& form) {
+    if (!main_form.Restarting()) support.help.ShowPage(form);
+  };
   main_form.actions.show_about = [this, &support] {
     support.about.Show(Modality::kModal, &main_form);
   };

@@ -7,6 +7,7 @@ namespace lorimet {
 
 frmAbout::frmAbout(Desktop& desktop, Dictionary& dictionary)
     : Form(desktop, "frmAbout"), dictionary_(dictionary) {
+  escape_closes = true;
   cmdOK.on_click = [this] { Unload(); };
 }
 

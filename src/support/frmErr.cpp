@@ -7,6 +7,8 @@ namespace lorimet {
 
 frmErr::frmErr(Desktop& desktop, Dictionary& dictionary)
     : Form(desktop, "frmErr"), dictionary_(dictionary) {
+  escape_closes = true;
+  help_page = "connection.html";
   cmdOK.on_click = [this] { Hide(); };
 }
 

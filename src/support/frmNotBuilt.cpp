@@ -8,6 +8,7 @@ namespace lorimet {
 
 frmNotBuilt::frmNotBuilt(Desktop& desktop, Dictionary& dictionary)
     : Form(desktop, "frmNotBuilt"), dictionary_(dictionary) {
+  escape_closes = true;
   cmdClose.on_click = [this] { Unload(); };
 }
 

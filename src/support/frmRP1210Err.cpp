@@ -13,6 +13,8 @@ constexpr int kHeightWithDetails = 3732;
 
 frmRP1210Err::frmRP1210Err(Desktop& desktop, Dictionary& dictionary)
     : Form(desktop, "frmRP1210Err"), dictionary_(dictionary) {
+  escape_closes = true;
+  help_page = "connection.html";
   cmdOK.on_click = [this] { Unload(); };
   cmdDetails.on_click = [this] { HideDetails(!details_hidden_); };
 }

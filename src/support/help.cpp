@@ -1,7 +1,7 @@
 #include "support/help.h"
 
 #include "platform/desktop.h"
-#include "platform/process.h"
+#include "platform/forms.h"
 #include "platform/runtime_error.h"
 #include "support/dictionary.h"
 #include "support/settings.h"
@@ -17,7 +17,12 @@ void Help::BuildPath() {
   HelpFile_ += "Trailer.hlp";
 }
 
-void Help::Show(const std::string& title, bool search) {
+void Help::ShowPage(const Form& form) {
+  if (form.help_page.empty()) return ShowContents(form.Caption());
+  Show(form.Caption(), HelpCommand::kPage, form.help_page);
+}
+
+void Help::Show(const std::string& title, HelpCommand command, const std::string& key) {
   if (HelpFile_.empty()) {
     dictionary_.ShowMessageBox(
         dictionary_.Translate("Unable to display Help Contents. There is no Help associated with "
@@ -26,7 +31,7 @@ void Help::Show(const std::string& title, bool search) {
     return;
   }
   try {
-    viewer_.Show(HelpFile_, search ? HelpCommand::kPartialKey : HelpCommand::kContents, "");
+    viewer_.Show(HelpFile_, command, key);
   } catch (const RuntimeError& error) {
     MessageBox box;
     box.text = error.Description();

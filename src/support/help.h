@@ -3,12 +3,13 @@
 
 #include <string>
 
+#include "platform/process.h"
+
 namespace lorimet {
 
 class Desktop;
 class Dictionary;
-class HelpViewer;
-class Process;
+class Form;
 class Settings;
 
 class Help {
@@ -27,11 +28,13 @@ class Help {
   const std::string& HelpFile() const { return HelpFile_; }
 
   // `title` heads the box that says that there is no help. A run-time error of the viewer is shown.
-  void ShowContents(const std::string& title) { Show(title, false); }
-  void ShowSearch(const std::string& title) { Show(title, true); }
+  void ShowContents(const std::string& title) { Show(title, HelpCommand::kContents); }
+  void ShowSearch(const std::string& title) { Show(title, HelpCommand::kPartialKey); }
+  // The page of a screen; the contents for a screen that has none.
+  void ShowPage(const Form& form);
 
  private:
-  void Show(const std::string& title, bool search);
+  void Show(const std::string& title, HelpCommand command, const std::string& key = {});
 
   Settings& settings_;
   Process& process_;

@@ -4,7 +4,6 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QStringList>
-#include <QWindow>
 #include <utility>
 
 #include "adapters/qt/qt_help_window.h"
@@ -72,16 +71,14 @@ void QtHelpViewer::Show(const std::string& help_file, HelpCommand command, const
   QStringList folders;
   for (const std::string& folder : Folders(help_file)) folders << ToQString(folder);
   window_->Open(folders);
-  // In front of a modal window the help can be read while that one stands.
-  if (QWidget* modal = QApplication::activeModalWidget()) {
-    window_->winId();
-    window_->windowHandle()->setTransientParent(modal->windowHandle());
-  }
+  // It belongs to no window, so that none that stands modally keeps the user from it.
   if (window_->isVisible()) window_->raise();
   window_->show();
   window_->activateWindow();
   if (command == HelpCommand::kPartialKey)
     window_->ShowSearch(ToQString(key));
+  else if (command == HelpCommand::kPage)
+    window_->ShowPage(ToQString(key));
   else
     window_->ShowContents();
 }

@@ -2,10 +2,12 @@
 
 #include <QAction>
 #include <QDir>
+#include <QFileInfo>
 #include <QKeySequence>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QPalette>
 #include <QSplitter>
 #include <QStyle>
 #include <QTabWidget>
@@ -102,8 +104,14 @@ void HelpWindow::BuildSides() {
   });
   results_->setWordWrap(true);
   results_->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
-  connect(results_, &QListWidget::currentItemChanged, this, [this](QListWidgetItem* item) {
-    if (item != nullptr) page_->setSource(QUrl(item->data(kTargetRole).toString()));
+  connect(results_, &QListWidget::currentItemChanged, this, &HelpWindow::Choose);
+  // What is selected has another ground, also while it is not current.
+  connect(results_, &QListWidget::itemSelectionChanged, this, [this] {
+    for (int row = 0; row < results_->count(); ++row) {
+      QListWidgetItem* item = results_->item(row);
+      if (QWidget* words = results_->itemWidget(item))
+        words->setForegroundRole(item->isSelected() ? QPalette::HighlightedText : QPalette::Text);
+    }
   });
   words_->setClearButtonEnabled(true);
   connect(words_, &QLineEdit::textChanged, this, &HelpWindow::Search);
@@ -179,11 +187,22 @@ void HelpWindow::ShowContents() {
   contents_->setFocus();
 }
 
+void HelpWindow::ShowPage(const QString& page) {
+  ShowContents();
+  if (!has_pages_ || !QFileInfo::exists(pages_.Folder() + QLatin1Char('/') + page)) return;
+  page_->setSource(QUrl(page));
+  page_->setFocus();
+}
+
 void HelpWindow::ShowSearch(const QString& words) {
   sides_->setCurrentIndex(1);
   if (!words.isEmpty()) words_->setText(words);
   words_->selectAll();
   words_->setFocus();
+}
+
+void HelpWindow::Choose(QListWidgetItem* item) {
+  if (item != nullptr) page_->setSource(QUrl(item->data(kTargetRole).toString()));
 }
 
 void HelpWindow::Search() {

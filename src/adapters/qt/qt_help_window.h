@@ -12,6 +12,7 @@ class QAction;
 class QLabel;
 class QLineEdit;
 class QListWidget;
+class QListWidgetItem;
 class QTabWidget;
 class QTextBrowser;
 class QTreeWidget;
@@ -27,6 +28,8 @@ class HelpWindow : public QMainWindow {
   // Shows the pages of the first folder that has some.
   void Open(const QStringList& folders);
   void ShowContents();
+  // Shows one page, a file of the folder; the contents where there is no such page.
+  void ShowPage(const QString& page);
   // Shows the search with these words in it.
   void ShowSearch(const QString& words);
 
@@ -38,6 +41,7 @@ class HelpWindow : public QMainWindow {
   void FillContents();
   void ShowMissing(const QStringList& folders);
   void Search();
+  void Choose(QListWidgetItem* item);
 
   Translator translate_;
   HelpPages pages_;
