@@ -51,7 +51,8 @@ struct Step {
 
 class Tour {
  public:
-  Tour(QString folder, QString control) : folder_(std::move(folder)), control_(std::move(control)) {
+  Tour(const lorimet::QtDesktop& desktop, QString folder, QString control)
+      : desktop_(desktop), folder_(std::move(folder)), control_(std::move(control)) {
     QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] { Look(); });
   }
 
@@ -244,6 +245,11 @@ class Tour {
   // What a step does may run an event loop of its own, in which the steps behind it go on; so it is
   // done from a fresh event and not from the timer's.
   void Look() {
+    // What a hand does while the program waits for the ECU is gone, and this one's too.
+    if (desktop_.Waiting()) {
+      waited_.restart();
+      return;
+    }
     if (steps_.empty()) {
       timer_.stop();
       return;
@@ -260,6 +266,7 @@ class Tour {
     QTimer::singleShot(0, &timer_, step.act);
   }
 
+  const lorimet::QtDesktop& desktop_;
   QString folder_;
   QString control_;
   QTimer timer_;
@@ -310,7 +317,7 @@ int main(int argc, char** argv) {
   QApplication::setQuitOnLastWindowClosed(false);
   lorimet::ApplyStyle(application);
   lorimet::DesktopProgram desktop_program;
-  Tour tour(folder, folder + "/operator.txt");
+  Tour tour(desktop_program.desktop, folder, folder + "/operator.txt");
   tour.Begin();
   if (desktop_program.program.Start() == lorimet::EntryResult::kRunning)
     desktop_program.desktop.Run();

@@ -35,6 +35,7 @@ class QtDesktop : public Desktop, private ViewHost {
   // is dropped, ticks and messages come behind it. A pause of less than a tenth of a second, as
   // between two looks of a waiting loop, drops nothing.
   void Wait(std::uint32_t milliseconds);
+  using ViewHost::Waiting;
   // The window of a form as the window system knows it; loads the form.
   std::uintptr_t NativeWindow(Form& form);
   QWidget* Window(const Form& form) const override;
