@@ -682,6 +682,50 @@
         <translation>Recorrido suspensión (mm)</translation>
     </message>
     <message>
+        <source>The file was not read: a count is not from 0 to 200.</source>
+        <translation>El archivo no se ha leído: un número de bytes no está entre 0 y 200.</translation>
+    </message>
+    <message>
+        <source>The file was not read: a byte is not from 0 to 255.</source>
+        <translation>El archivo no se ha leído: un byte no está entre 0 y 255.</translation>
+    </message>
+    <message>
+        <source>The file was not read: the production date is not a date.</source>
+        <translation>El archivo no se ha leído: la fecha de producción no es una fecha.</translation>
+    </message>
+    <message>
+        <source>The file was not read: the vehicle id has fewer than 18 characters.</source>
+        <translation>El archivo no se ha leído: el ID del vehículo tiene menos de 18 caracteres.</translation>
+    </message>
+    <message>
+        <source>The file was not read: the manufacturer has fewer than 20 characters.</source>
+        <translation>El archivo no se ha leído: el fabricante tiene menos de 20 caracteres.</translation>
+    </message>
+    <message>
+        <source>The file was not read: the trailer type has fewer than 20 characters.</source>
+        <translation>El archivo no se ha leído: el tipo de remolque tiene menos de 20 caracteres.</translation>
+    </message>
+    <message>
+        <source>The file was not saved: it cannot be written.</source>
+        <translation>El archivo no se ha guardado: no se puede escribir.</translation>
+    </message>
+    <message>
+        <source>The file was not saved: a block that it needs is missing.</source>
+        <translation>El archivo no se ha guardado: falta un bloque necesario.</translation>
+    </message>
+    <message>
+        <source>The file was not saved: a block is longer than 200 bytes.</source>
+        <translation>El archivo no se ha guardado: un bloque supera 200 bytes.</translation>
+    </message>
+    <message>
+        <source>The file was not saved: the sum of a block is above 32767.</source>
+        <translation>El archivo no se ha guardado: la suma de un bloque supera 32767.</translation>
+    </message>
+    <message>
+        <source>psi</source>
+        <translation>psi</translation>
+    </message>
+    <message>
         <source>Braking &#13;
 pressure&#13;
 </source>

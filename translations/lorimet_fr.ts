@@ -682,6 +682,50 @@
         <translation>Course suspension (mm)</translation>
     </message>
     <message>
+        <source>The file was not read: a count is not from 0 to 200.</source>
+        <translation>Le fichier n&apos;a pas été lu : un nombre d&apos;octets n&apos;est pas compris entre 0 et 200.</translation>
+    </message>
+    <message>
+        <source>The file was not read: a byte is not from 0 to 255.</source>
+        <translation>Le fichier n&apos;a pas été lu : un octet n&apos;est pas compris entre 0 et 255.</translation>
+    </message>
+    <message>
+        <source>The file was not read: the production date is not a date.</source>
+        <translation>Le fichier n&apos;a pas été lu : la date de production n&apos;est pas une date.</translation>
+    </message>
+    <message>
+        <source>The file was not read: the vehicle id has fewer than 18 characters.</source>
+        <translation>Le fichier n&apos;a pas été lu : l&apos;ID véhicule a moins de 18 caractères.</translation>
+    </message>
+    <message>
+        <source>The file was not read: the manufacturer has fewer than 20 characters.</source>
+        <translation>Le fichier n&apos;a pas été lu : le constructeur a moins de 20 caractères.</translation>
+    </message>
+    <message>
+        <source>The file was not read: the trailer type has fewer than 20 characters.</source>
+        <translation>Le fichier n&apos;a pas été lu : le type de remorque a moins de 20 caractères.</translation>
+    </message>
+    <message>
+        <source>The file was not saved: it cannot be written.</source>
+        <translation>Le fichier n&apos;a pas été enregistré : il est impossible de l&apos;écrire.</translation>
+    </message>
+    <message>
+        <source>The file was not saved: a block that it needs is missing.</source>
+        <translation>Le fichier n&apos;a pas été enregistré : il manque un bloc nécessaire.</translation>
+    </message>
+    <message>
+        <source>The file was not saved: a block is longer than 200 bytes.</source>
+        <translation>Le fichier n&apos;a pas été enregistré : un bloc dépasse 200 octets.</translation>
+    </message>
+    <message>
+        <source>The file was not saved: the sum of a block is above 32767.</source>
+        <translation>Le fichier n&apos;a pas été enregistré : la somme d&apos;un bloc dépasse 32767.</translation>
+    </message>
+    <message>
+        <source>psi</source>
+        <translation>psi</translation>
+    </message>
+    <message>
         <source>Braking &#13;
 pressure&#13;
 </source>

@@ -123,13 +123,28 @@ TEST(Conversions, WhatDoesNotFitIsAnOverflow) {
   EXPECT_EQ(ErrorOf([] { AxleLoadPair(std::string(400, '9')); }), 6);
 }
 
-TEST(Conversions, WhatIsNoNumberIsAMismatch) {
+TEST(Conversions, WhatIsNoNumberIsAMismatchWhereAStrictOneIsAskedFor) {
   for (const char* text : {"", " ", "abc", "12psi", "1,5", "1.2.3", "0x10", "1e2"}) {
-    EXPECT_EQ(ErrorOf([&] { UnladenSuspensionByte(text); }), 13) << text;
     EXPECT_EQ(ErrorOf([&] { PressureByte(text); }), 13) << text;
     EXPECT_EQ(ErrorOf([&] { LengthPair(text); }), 13) << text;
-    EXPECT_EQ(ErrorOf([&] { TyreByte(text); }), 13) << text;
-    EXPECT_EQ(ErrorOf([&] { TeethByte(text); }), 13) << text;
+  }
+}
+
+TEST(Conversions, OtherTextsCountByTheirLeadingNumber) {
+  const std::vector<std::tuple<std::string, int, int, int>> rows = {
+      {"", 0, 0, 0},       {"abc", 0, 0, 0},    {"100 psi", 69, 4, 100},
+      {"75mm", 52, 3, 75}, {"75,9", 52, 3, 75}, {"1e2", 1, 0, 1},
+  };
+  for (const auto& [text, suspension, tyre, teeth] : rows) {
+    EXPECT_EQ(UnladenSuspensionByte(text), suspension) << text;
+    EXPECT_EQ(TyreByte(text), tyre) << text;
+    EXPECT_EQ(TeethByte(text), teeth) << text;
+  }
+  EXPECT_EQ(TyreByte("3250 mm"), 130);
+  for (const std::string& text : {std::string("-40"), std::string(400, '9')}) {
+    EXPECT_EQ(ErrorOf([&] { UnladenSuspensionByte(text); }), 6) << text;
+    EXPECT_EQ(ErrorOf([&] { TyreByte(text); }), 6) << text;
+    EXPECT_EQ(ErrorOf([&] { TeethByte(text); }), 6) << text;
   }
 }
 

@@ -48,11 +48,12 @@ class GioSelectionTest : public WizardFormTest {
  protected:
   GioSelectionTest() { Ecu().bNumModulators.Store(2); }
   frmGIOSelection& Page() { return program.parameters->gio_page; }
-  // Ticks a box; a dialog that comes with it is closed by its close box.
+  // Ticks a box; a dialog that comes with it is confirmed.
   void Tick(int item) {
-    const auto close = [](Form& form) { form.UserClose(); };
-    if (item == kGioLiftAxle) desktop.OnModal("frmLiftAxlePressures", close);
-    if (item == kGioSpecial) desktop.OnModal("frmGIOSpecial", close);
+    if (item == kGioLiftAxle)
+      desktop.OnModal("frmLiftAxlePressures", [&](Form&) { Press(LiftAxle().Command1); });
+    if (item == kGioSpecial)
+      desktop.OnModal("frmGIOSpecial", [&](Form&) { Press(Special().cmdClose); });
     Page().chkGIO[item].UserClick();
   }
   // Shows the page; presses Next, and closes the page that follows.
@@ -118,6 +119,7 @@ TEST_F(GioSelectionTest, CaptionsAndToolTipsAreTranslated) {
   EXPECT_EQ(Page().Caption(), "Sélection GIO");
   EXPECT_EQ(Page().chkGIO[6].Caption(), "Essieu relevable");
   EXPECT_EQ(Page().chkGIO[6].ToolTipText(), "GIO1, câble en Y à un port, réf. 310 662 517 0");
+  EXPECT_EQ(Page().chkGIO[1].ToolTipText(), "GIO3, câble en Y à un port, réf. 310 662 517 0");
 }
 
 TEST_F(GioSelectionTest, EveryChoiceWritesWhatIsListedInOrder) {
@@ -135,6 +137,8 @@ TEST_F(GioSelectionTest, EveryChoiceWritesWhatIsListedInOrder) {
       for (const ListedWrite& row : listing)
         if (row.item == item && chosen[static_cast<std::size_t>(item)] != (item == 8))
           Write(row, expected);
+    if (chosen[6])
+      for (int i = 16; i <= 19; ++i) expected.FCF1(i) = start.FCF1(i);
     if (chosen[1])
       for (std::size_t i = 0; i < 5; ++i) (expected.*kFunctionBlocks[i]).bNumBytes = 111;
     ParameterImage image = start;
@@ -202,14 +206,49 @@ TEST_F(GioSelectionTest, LiftAxleBoxOpensItsDialogWhenChecked) {
   EXPECT_EQ(Image().FCF1(16) * 256 + Image().FCF1(17), 18286);
   Page().chkGIO[6].UserClick();
   EXPECT_EQ(desktop.ModalForms().size(), 1u) << "unchecking opens nothing";
-  // The recipe leaves the dialog's bytes alone, and the tag axle's overwrites them.
+  // The recipe leaves the dialog's bytes alone, and the tag axle's gives way to them.
   GioChoice chosen{};
   chosen[6] = true;
   ApplyGioFunctions(chosen, Image());
   EXPECT_EQ(Image().FCF1(16) * 256 + Image().FCF1(17), 18286);
   chosen[1] = true;
   ApplyGioFunctions(chosen, Image());
+  EXPECT_EQ(Image().FCF1(16) * 256 + Image().FCF1(17), 18286);
+  EXPECT_EQ(Image().FCF1(18) * 256 + Image().FCF1(19), 10606);
+  EXPECT_EQ(Image().FCF1(12), 10) << "the rest of the tag axle's recipe stands";
+  chosen[6] = false;
+  ApplyGioFunctions(chosen, Image());
   EXPECT_EQ(Image().FCF1(16) * 256 + Image().FCF1(17), 5 * 256 + 220);
+}
+
+TEST_F(GioSelectionTest, DialogLeftByItsCloseBoxTakesItsTickWithIt) {
+  const auto close = [](Form& form) { form.UserClose(); };
+  Page().Load();
+  const ParameterImage before = Image();
+  for (const auto& [item, dialog] :
+       {std::pair(6, "frmLiftAxlePressures"), std::pair(8, "frmGIOSpecial")}) {
+    desktop.OnModal(dialog, close);
+    Page().chkGIO[item].UserClick();
+    EXPECT_FALSE(Page().chkGIO[item].Value()) << dialog;
+    Tick(item);
+    EXPECT_TRUE(Page().chkGIO[item].Value()) << dialog;
+    Page().chkGIO[item].UserClick();
+    // Not what an earlier visit confirmed.
+    desktop.OnModal(dialog, close);
+    Page().chkGIO[item].UserClick();
+    EXPECT_FALSE(Page().chkGIO[item].Value()) << dialog;
+  }
+}
+
+// The program's own close unloads a page while its dialog stands.
+TEST_F(GioSelectionTest, PageThatIsGoneBehindItsDialogIsNotLoadedAgain) {
+  Page().Load();
+  desktop.OnModal("frmLiftAxlePressures", [&](Form& form) {
+    Page().Unload();
+    form.Unload();
+  });
+  Page().chkGIO[6].UserClick();
+  EXPECT_FALSE(Page().Loaded());
 }
 
 TEST_F(GioSelectionTest, SpecialBoxOpensItsDialogWhenChecked) {

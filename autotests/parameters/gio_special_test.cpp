@@ -22,6 +22,11 @@ class GioSpecialTest : public WizardFormTest {
     Image().EOL3(3) = 1;
     Image().EOL3(5) = 7;
   }
+  void ConfirmSpeeds() {
+    SpeedSwitch().txtTurnOnThresh.UserType("40");
+    SpeedSwitch().txtTurnOffThresh.UserType("30");
+    Press(SpeedSwitch().Command1);
+  }
   std::vector<bool> Boxes3() {
     return {Dialog().chkPerkins[0].Value(), Dialog().chkPerkins[1].Value(),
             Dialog().chkPerkins[2].Value()};
@@ -68,18 +73,24 @@ TEST_F(GioSpecialTest, EachMarkIsNeeded) {
 
 TEST_F(GioSpecialTest, CheckingTheSpeedSwitchOpensItsDialog) {
   Dialog().Load();
-  const auto close = [](Form& form) { form.UserClose(); };
-  desktop.OnModal("frmSpeedSwitchThresh", close);
+  desktop.OnModal("frmSpeedSwitchThresh", [&](Form&) { ConfirmSpeeds(); });
   Dialog().chkPerkins[2].UserClick();
   EXPECT_EQ(desktop.ModalForms(), Lines{"frmSpeedSwitchThresh"});
+  EXPECT_TRUE(Dialog().chkPerkins[2].Value());
   Dialog().chkPerkins[2].UserClick();
   Dialog().chkPerkins[0].UserClick();
   Dialog().chkPerkins[1].UserClick();
   EXPECT_EQ(desktop.ModalForms().size(), 1u);
   // Not only the first time.
-  desktop.OnModal("frmSpeedSwitchThresh", close);
+  desktop.OnModal("frmSpeedSwitchThresh", [](Form& form) { form.UserClose(); });
   Dialog().chkPerkins[2].UserClick();
   EXPECT_EQ(desktop.ModalForms().size(), 2u);
+  // The close box asks for no speed switch, so no thresholds of 0 go out.
+  EXPECT_FALSE(Dialog().chkPerkins[2].Value());
+  Press(Dialog().cmdClose);
+  EXPECT_EQ(Image().EOL3(1), 15);
+  EXPECT_EQ(Image().EOL3(2), 10);
+  EXPECT_EQ(Image().EOL5(1), 0);
 }
 
 // The bytes that the closed dialog leaves, by the boxes that are checked, from a filled image.
@@ -89,7 +100,7 @@ TEST_F(GioSpecialTest, CloseWritesByTheBoxes) {
     Dialog().Load();
     for (int box = 0; box < 3; ++box) {
       if ((checked >> box & 1u) == 0) continue;
-      if (box == 2) desktop.OnModal("frmSpeedSwitchThresh", [](Form& form) { form.UserClose(); });
+      if (box == 2) desktop.OnModal("frmSpeedSwitchThresh", [&](Form&) { ConfirmSpeeds(); });
       Dialog().chkPerkins[box].UserClick();
     }
     ParameterImage expected = Image();
@@ -129,11 +140,7 @@ TEST_F(GioSpecialTest, CloseWritesByTheBoxes) {
 
 TEST_F(GioSpecialTest, ThresholdsOfTheSpeedSwitchDialogStand) {
   Dialog().Load();
-  desktop.OnModal("frmSpeedSwitchThresh", [&](Form&) {
-    SpeedSwitch().txtTurnOnThresh.UserType("40");
-    SpeedSwitch().txtTurnOffThresh.UserType("30");
-    Press(SpeedSwitch().Command1);
-  });
+  desktop.OnModal("frmSpeedSwitchThresh", [&](Form&) { ConfirmSpeeds(); });
   Dialog().chkPerkins[2].UserClick();
   Press(Dialog().cmdClose);
   EXPECT_EQ(Image().EOL3(1), 40);

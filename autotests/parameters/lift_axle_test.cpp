@@ -202,10 +202,12 @@ TEST_F(LiftAxleTest, EightyNinePsiAreTheMostThatFit) {
   EXPECT_EQ(Differences(before, Image()), Lines{});
 }
 
-TEST_F(LiftAxleTest, TextThatIsNoNumberEndsInAMismatch) {
+TEST_F(LiftAxleTest, TextsCountByTheirLeadingNumber) {
   Dialog().Load();
-  Enter("43 psi", "29");  // its leading number is in range
-  EXPECT_EQ(ErrorOf([&] { Press(Dialog().Command1); }), 13);
+  Enter("43 psi", "29,5");
+  EXPECT_EQ(ErrorOf([&] { Press(Dialog().Command1); }), 0);
+  EXPECT_EQ(Fcf1()(16) * 256 + Fcf1()(17), 15726);
+  EXPECT_EQ(Fcf1()(18) * 256 + Fcf1()(19), 10606);
 }
 
 TEST_F(LiftAxleTest, CloseBoxStoresNothing) {

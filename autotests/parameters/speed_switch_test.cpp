@@ -142,10 +142,12 @@ TEST_F(SpeedSwitchTest, SpeedsAreRoundedToTheEvenNeighbour) {
   EXPECT_EQ(Image().EOL3(2), 20);
 }
 
-TEST_F(SpeedSwitchTest, EmptyTextEndsInAMismatch) {
+TEST_F(SpeedSwitchTest, TextsCountByTheirLeadingNumber) {
   Dialog().Load();
-  Enter("22", "");
-  EXPECT_EQ(ErrorOf([&] { Press(Dialog().Command1); }), 13);
+  Enter("40 kph", "");
+  EXPECT_EQ(ErrorOf([&] { Dialog().Command1.UserClick(); }), 0);
+  EXPECT_EQ(Image().EOL3(1), 40);
+  EXPECT_EQ(Image().EOL3(2), 0);
 }
 
 TEST_F(SpeedSwitchTest, ValueBeyondAByteIsAnOverflow) {

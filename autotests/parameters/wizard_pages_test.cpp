@@ -3,6 +3,7 @@
 
 #include <functional>
 #include <string>
+#include <tuple>
 #include <utility>
 #include <vector>
 
@@ -169,6 +170,43 @@ TEST_F(WizardTest, PageRefusesWhatIsOutOfRange) {
   }
 }
 
+TEST_F(WizardTest, EmptyCellsOfAxlesThatAreNotThereCanBeLeft) {
+  MakeMechanical();
+  Ecu().nNumAxles.Store(2);
+  OpenPage();
+  const auto leave = [&](TextBox& field, const char* text) {
+    field.SetFocus();
+    field.UserType(text);
+    Page().txtManufacturer.SetFocus();
+    const bool left = Page().FocusedControl() == &Page().txtManufacturer;
+    EXPECT_EQ(desktop.TakeBoxes().size(), left ? 0u : 1u) << field.Name();
+    field.UserType("100");
+    return left;
+  };
+  for (const auto* column : {&Page().txtSuspensionPressLaden, &Page().txtLeverLength})
+    for (int row = 0; row < 5; ++row) {
+      EXPECT_EQ(leave((*column)[row], ""), row >= 2) << row;
+      EXPECT_FALSE(leave((*column)[row], "9")) << row;
+    }
+}
+
+TEST_F(WizardTest, FieldsInPsiSaySo) {
+  Speak(kFrench);
+  OpenPage();
+  for (const auto* column : {&Page().txtBrakingPressUnladen, &Page().txtBrakingPressLadenPm_AN,
+                             &Page().txtBrakingPressLadenPm_K1, &Page().txtBrakingPressLadenPm_Max,
+                             &Page().txtSuspensionPressUnladen, &Page().txtSuspensionPressLaden,
+                             &Page().txtControlPressureUnladen, &Page().txtControlPressureLaden})
+    for (auto& field : *column) EXPECT_EQ(field->ToolTipText(), "psi") << field->Name();
+  EXPECT_EQ(Page().txtAxleLoadLaden[0].ToolTipText(), "");
+  MakeMechanical();
+  System().Unload();
+  Page().Unload();
+  OpenPage();
+  EXPECT_EQ(Page().txtSuspensionPressLaden[0].ToolTipText(), "");
+  EXPECT_EQ(Page().txtBrakingPressUnladen[0].ToolTipText(), "psi");
+}
+
 TEST_F(WizardTest, PathOfMechanicalSuspensionHasItsOwnRange) {
   MakeMechanical();
   OpenPage();
@@ -328,7 +366,7 @@ std::vector<TextBox*> StrictFields(frmOVGParm2& page, bool air) {
       &page.txtBrakingPressLadenPm_AN[0], &page.txtBrakingPressLadenPm_K1[0],
       &page.txtBrakingPressLadenPm_Max[0], &page.txtBrakingPressUnladen[0],
       &page.txtSuspensionPressLaden[0]};
-  fields.push_back(air ? &page.txtSuspensionPressUnladen[0] : &page.txtLeverLength[0]);
+  if (!air) fields.push_back(&page.txtLeverLength[0]);
   return fields;
 }
 
@@ -350,6 +388,16 @@ TEST_F(WizardTest, WhatIsNoNumberEndsInAMismatchAndWhatDoesNotFitInAnOverflow) {
       }
       field->UserType(good);
     }
+  }
+}
+
+TEST_F(WizardTest, UnladenSuspensionTakesAnyText) {
+  OpenPage();
+  for (const auto& [text, count] : std::vector<std::pair<std::string, int>>{
+           {"", 0}, {"abc", 0}, {"37 psi", 26}, {"37,9", 26}}) {
+    Page().txtSuspensionPressUnladen[0].UserType(text);
+    Press(Page().cmdNext);
+    EXPECT_EQ(Vehicle()(33), count) << text;
   }
 }
 
@@ -696,21 +744,38 @@ TEST_F(WizardTest, CloseOfTheLastPageUnloadsAllAndWritesNothing) {
   EXPECT_EQ(Image().EOL2, before.EOL2);
 }
 
-TEST_F(WizardTest, WhatIsNoNumberOnTheLastPageEndsTheSave) {
+TEST_F(WizardTest, NumberBeyondAByteOnTheLastPageEndsTheSave) {
   System().Load();
   Last().Load();
   for (TextBox* field : {&Last().txtNumTeeth[0], &Last().txtNumTeeth[1], &Last().txtTireSize[0],
                          &Last().txtTireSize[1]}) {
     const std::string good = field->Text();
-    for (const auto& [text, error] : std::vector<std::pair<std::string, int>>{
-             {"", 13}, {"abc", 13}, {"1,5", 13}, {"-13", 6}, {std::string(400, '9'), 6}}) {
+    for (const std::string& text : {std::string("-13"), std::string(400, '9')}) {
       field->UserType(text);
-      EXPECT_EQ(ErrorOf([&] { Press(Last().cmdSaveToECU); }), error)
-          << field->Name() << " " << text;
+      EXPECT_EQ(ErrorOf([&] { Press(Last().cmdSaveToECU); }), 6) << field->Name() << " " << text;
     }
     field->UserType(good);
   }
   EXPECT_TRUE(link.TakeCalls().empty());
+}
+
+TEST_F(WizardTest, TextsOfTheLastPageCountByTheirLeadingNumber) {
+  System().Load();
+  Last().Load();
+  for (const auto& [tyre, teeth, tyre_byte, teeth_byte] :
+       std::vector<std::tuple<const char*, const char*, int, int>>{
+           {"3250 mm", "100x", 130, 100}, {"", "", 0, 0}, {"2500,5", "80,5", 100, 80}}) {
+    for (int i = 0; i < 2; ++i) {
+      Last().txtTireSize[i].UserType(tyre);
+      Last().txtNumTeeth[i].UserType(teeth);
+    }
+    // A dialog that is cancelled: the screen has been taken over by then.
+    EXPECT_EQ(ErrorOf([&] { Press(Last().cmdSaveToFile); }), 0) << tyre;
+    for (int i = 0; i < 2; ++i) {
+      EXPECT_EQ(Vehicle()(55 + i), tyre_byte) << tyre;
+      EXPECT_EQ(Vehicle()(58 + i), teeth_byte) << teeth;
+    }
+  }
 }
 
 class SavingTest : public WizardTest {

@@ -70,7 +70,7 @@ std::string BlockText(const ParameterImage& image, const TextField& field) {
 }
 
 std::uint8_t UnladenSuspensionByte(std::string_view psi) {
-  return ToByte(StrictNumber(psi) * kUnladenCountsPerPsi);
+  return ToByte(NumericValue(psi) * kUnladenCountsPerPsi);
 }
 
 std::uint8_t PressureByte(std::string_view psi) {
@@ -78,10 +78,10 @@ std::uint8_t PressureByte(std::string_view psi) {
 }
 
 std::uint8_t TyreByte(std::string_view mm) {
-  return ToByte(StrictNumber(mm) / kMillimetresPerTyreCount);
+  return ToByte(NumericValue(mm) / kMillimetresPerTyreCount);
 }
 
-std::uint8_t TeethByte(std::string_view teeth) { return ToByte(StrictNumber(teeth)); }
+std::uint8_t TeethByte(std::string_view teeth) { return ToByte(NumericValue(teeth)); }
 
 BytePair LengthPair(std::string_view mm) { return PairOf(Rendered(StrictNumber(mm) * 10)); }
 

@@ -39,13 +39,14 @@ std::string BlockText(const ParameterImage& image, const TextField& field);
 // --- From the screen. Error 13 for a text that is no number where a strict one is asked for,
 // error 6 for what does not fit the byte; all rounded with ties to even.
 
-// The unladen suspension pressure from psi (strict): times 0.69, which is not the inverse of the
-// way there.
+// The unladen suspension pressure from psi by the text's numeric value: times 0.69, which is not
+// the inverse of the way there.
 std::uint8_t UnladenSuspensionByte(std::string_view psi);
 // Every other pressure from psi (strict): tenfold, rendered to text, read back, divided by 14.51.
 std::uint8_t PressureByte(std::string_view psi);
-std::uint8_t TyreByte(std::string_view mm);      // strict
-std::uint8_t TeethByte(std::string_view teeth);  // strict
+// By the text's numeric value, both.
+std::uint8_t TyreByte(std::string_view mm);
+std::uint8_t TeethByte(std::string_view teeth);
 
 // From mm (strict): tenfold, rendered to text and read back.
 BytePair LengthPair(std::string_view mm);

@@ -3,6 +3,7 @@
 #include "parameters/function_blocks.h"
 #include "parameters/gio_functions.h"
 #include "parameters/parameter_map.h"
+#include "parameters/side_dialog.h"
 #include "support/dictionary.h"
 
 namespace lorimet {
@@ -42,8 +43,12 @@ void frmGIOSelection::OnLoad() {
 
 void frmGIOSelection::OnFunction(int index) {
   if (!chkGIO[index].Value()) return;
-  if (index == kGioLiftAxle) parts_.pages.lift_axle->Show(Modality::kModal, this);
-  if (index == kGioSpecial) parts_.pages.special_gio->Show(Modality::kModal, this);
+  SideDialog* const dialog = index == kGioLiftAxle  ? parts_.pages.lift_axle
+                             : index == kGioSpecial ? parts_.pages.special_gio
+                                                    : nullptr;
+  if (dialog == nullptr) return;
+  // Left by its close box it has asked for nothing.
+  if (!dialog->Ask(*this) && Loaded()) chkGIO[index].SetValue(false);
 }
 
 void frmGIOSelection::OnNext() {

@@ -87,7 +87,7 @@ bool IsMarked(int box, const ParameterImage& image) {
 }  // namespace
 
 frmGIOSpecial::frmGIOSpecial(const WizardParts& parts)
-    : Form(parts.desktop, "frmGIOSpecial"), parts_(parts) {
+    : SideDialog(parts.desktop, "frmGIOSpecial"), parts_(parts) {
   chkPerkins.OnClick([this](int index) { OnFunction(index); });
   help_page = "gio_selection.html";
   cmdClose.on_click = [this] { OnClose(); };
@@ -105,14 +105,15 @@ void frmGIOSpecial::OnLoad() {
 
 void frmGIOSpecial::OnFunction(int index) {
   if (loading_ || index != kSpeedSwitchBox || !chkPerkins[index].Value()) return;
-  parts_.pages.speed_switch->Show(Modality::kModal, this);
+  // Left by its close box it has asked for nothing.
+  if (!parts_.pages.speed_switch->Ask(*this) && Loaded()) chkPerkins[index].SetValue(false);
 }
 
 void frmGIOSpecial::OnClose() {
   for (const SpecialWrite& row : kSpecialWrites)
     if (chkPerkins[row.box].Value() == row.checked) ApplyWrites(row.write, parts_.image);
   ApplyWrites(kAlways, parts_.image);
-  Unload();
+  Confirm();
 }
 
 }  // namespace lorimet

@@ -1,12 +1,12 @@
 // The dialog of the special GIO functions, opened from the GIO page.
 #pragma once
 
+#include "parameters/side_dialog.h"
 #include "parameters/wizard.h"
-#include "platform/forms.h"
 
 namespace lorimet {
 
-class frmGIOSpecial : public Form {
+class frmGIOSpecial : public SideDialog {
  public:
   explicit frmGIOSpecial(const WizardParts& parts);
 

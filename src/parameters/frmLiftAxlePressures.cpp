@@ -25,12 +25,14 @@ BytePair CountsOf(std::int16_t psi) {
   return {ToByte(counts / 256), ToByte(counts % 256)};
 }
 
-std::int16_t WholePsi(const TextBox& field) { return ToInteger(StrictNumber(field.Text())); }
+std::int16_t WholePsi(const TextBox& field) { return ToInteger(NumericValue(field.Text())); }
 
 }  // namespace
 
 frmLiftAxlePressures::frmLiftAxlePressures(const WizardParts& parts)
-    : Form(parts.desktop, "frmLiftAxlePressures"), parts_(parts), checks_(*this, parts.dictionary) {
+    : SideDialog(parts.desktop, "frmLiftAxlePressures"),
+      parts_(parts),
+      checks_(*this, parts.dictionary) {
   checks_.Watch(txtLiftingPress, 1, 100,
                 "Lifting Pressure out of range.  Valid range : 0 - 100 psi");
   checks_.Watch(txtLoweringPress, 1, 100,
@@ -59,13 +61,14 @@ void frmLiftAxlePressures::OnAccept() {
   }
   if (lowering - lifting < kLeastDifference) {
     ShowPlainMessage(*this, parts_.dictionary,
-                     "Lifting Pressure and Lowering Pressure must differ by more than 5 psi.",
+                     "Lifting Pressure and Lowering Pressure must differ by "
+                     "more than 5 psi.",
                      "Invalid Values");
     return;
   }
   parameter::kLoweringPressure.Put(parts_.image, CountsOf(lowering));
   parameter::kLiftingPressure.Put(parts_.image, CountsOf(lifting));
-  Unload();
+  Confirm();
 }
 
 }  // namespace lorimet

@@ -2,12 +2,12 @@
 #pragma once
 
 #include "parameters/range_check.h"
+#include "parameters/side_dialog.h"
 #include "parameters/wizard.h"
-#include "platform/forms.h"
 
 namespace lorimet {
 
-class frmLiftAxlePressures : public Form {
+class frmLiftAxlePressures : public SideDialog {
  public:
   explicit frmLiftAxlePressures(const WizardParts& parts);
 

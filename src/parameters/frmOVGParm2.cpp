@@ -64,8 +64,12 @@ void frmOVGParm2::WatchFields() {
     WatchColumn(*column, 145, "Braking Pressure Laden out of range.  Valid range : 0 - 145 psi");
   WatchColumn(txtBrakingPressUnladen, 145,
               "Braking Pressure Unladen out of range.  Valid range : 0 - 145 psi");
-  for (auto& field : txtLeverLength)
-    checks_.Watch(*field, 50, 200, "Lever Length out of range.  Valid range : 50 - 200 mm");
+  for (int row = 0; row < kRows; ++row)
+    checks_.Watch(txtLeverLength[row], [this, row](double value) -> const char* {
+      if (IsUnused(txtLeverLength, row)) return nullptr;
+      return value < 50 || value > 200 ? "Lever Length out of range.  Valid range : 50 - 200 mm"
+                                       : nullptr;
+    });
   // 53 passes although the message says 52.
   checks_.Watch(txtProdWeek, -kAnything, 53, "Production Week out of range.  Valid range : 0 - 52");
   WatchColumn(txtSuspensionPressUnladen, 181,
@@ -78,15 +82,22 @@ void frmOVGParm2::WatchFields() {
 }
 
 void frmOVGParm2::WatchSuspensionLaden() {
-  for (auto& field : txtSuspensionPressLaden)
-    checks_.Watch(*field, [this](double value) -> const char* {
+  for (int row = 0; row < kRows; ++row)
+    checks_.Watch(txtSuspensionPressLaden[row], [this, row](double value) -> const char* {
+      if (IsUnused(txtSuspensionPressLaden, row)) return nullptr;
       if (bAirSuspension_)
-        return value > 181 ? "Suspension Pressure Laden out of range.  Valid range : 0 - 181 psi"
+        return value > 181 ? "Suspension Pressure Laden out of "
+                             "range.  Valid range : 0 - 181 psi"
                            : nullptr;
-      return value < 10 || value > 400
-                 ? "Suspension Path Laden out of range.  Valid range : 10 - 400 mm"
-                 : nullptr;
+      return value < 10 || value > 400 ? "Suspension Path Laden out of range.  Valid "
+                                         "range : 10 - 400 mm"
+                                       : nullptr;
     });
+}
+
+// An empty cell of an axle that is not there may stay so.
+bool frmOVGParm2::IsUnused(const ControlArray<TextBox>& column, int row) const {
+  return row >= parts_.image.nNumAxlesSelected && column[row].Text().empty();
 }
 
 void frmOVGParm2::OnLoad() {
@@ -127,6 +138,9 @@ void frmOVGParm2::ShowIdentity() {
 
 void frmOVGParm2::ShowSuspensionKind() {
   LeverLengthFrame.SetVisible(!bAirSuspension_);
+  for (const auto* column : {&txtSuspensionPressUnladen, &txtSuspensionPressLaden})
+    for (auto& field : *column)
+      field->SetToolTipText(bAirSuspension_ ? parts_.dictionary.Translate("psi") : "");
   if (bAirSuspension_) return;
   const std::string header = parts_.dictionary.Translate("Suspension path (mm)");
   txtColHdrUnladen.SetText(header);

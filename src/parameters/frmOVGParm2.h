@@ -69,6 +69,7 @@ class frmOVGParm2 : public Form {
   void WatchFields();
   void WatchColumn(const ControlArray<TextBox>& column, double high, const char* complaint);
   void WatchSuspensionLaden();
+  bool IsUnused(const ControlArray<TextBox>& column, int row) const;
 
   void ShowDiagram();
   void ShowIdentity();

@@ -18,12 +18,14 @@ std::string SpeedOf(std::uint8_t byte, const char* unknown) {
   return byte == 0 ? unknown : std::to_string(byte);
 }
 
-std::int16_t WholeKph(const TextBox& field) { return ToInteger(StrictNumber(field.Text())); }
+std::int16_t WholeKph(const TextBox& field) { return ToInteger(NumericValue(field.Text())); }
 
 }  // namespace
 
 frmSpeedSwitchThresh::frmSpeedSwitchThresh(const WizardParts& parts)
-    : Form(parts.desktop, "frmSpeedSwitchThresh"), parts_(parts), checks_(*this, parts.dictionary) {
+    : SideDialog(parts.desktop, "frmSpeedSwitchThresh"),
+      parts_(parts),
+      checks_(*this, parts.dictionary) {
   checks_.Watch(txtTurnOnThresh, 2, 100, "Turn On Thresh out of range.  Valid range : 2 - 100 kph");
   checks_.Watch(txtTurnOffThresh, 0, 100,
                 "Turn Off Thresh out of range.  Valid range : 0 - 100 kph");
@@ -53,13 +55,14 @@ void frmSpeedSwitchThresh::OnAccept() {
   if (turn_on - turn_off < kLeastDifference) {
     // The words are those of the lift axle's dialog.
     ShowPlainMessage(*this, parts_.dictionary,
-                     "Lifting Pressure and Lowering Pressure must differ by more than 2 kph.",
+                     "Lifting Pressure and Lowering Pressure must differ by "
+                     "more than 2 kph.",
                      "Invalid Values");
     return;
   }
   parameter::kTurnOnSpeed.Put(parts_.image, ToByte(turn_on));
   parameter::kTurnOffSpeed.Put(parts_.image, ToByte(turn_off));
-  Unload();
+  Confirm();
 }
 
 }  // namespace lorimet

@@ -2,12 +2,12 @@
 #pragma once
 
 #include "parameters/range_check.h"
+#include "parameters/side_dialog.h"
 #include "parameters/wizard.h"
-#include "platform/forms.h"
 
 namespace lorimet {
 
-class frmSpeedSwitchThresh : public Form {
+class frmSpeedSwitchThresh : public SideDialog {
  public:
   explicit frmSpeedSwitchThresh(const WizardParts& parts);
 

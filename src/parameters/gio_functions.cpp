@@ -174,12 +174,19 @@ void ApplyFunction(int item, ParameterImage& image) {
 }  // namespace
 
 void ApplyGioFunctions(const GioChoice& chosen, ParameterImage& image) {
+  // The lift axle's dialog has stored what the user confirmed; the tag axle's recipe, which comes
+  // first, has values of its own in the same place.
+  const BytePair lowering = kLoweringPressure.In(image);
+  const BytePair lifting = kLiftingPressure.In(image);
   for (int i = kFirstGioConnector; i <= kLastGioConnector; ++i)
     Connector(i).Put(image, kNoConnector);
   kGioMask1.Put(image, 0);
   kGioMask2.Put(image, 0);
   for (int item = 0; item < kGioFunctionCount; ++item)
     if (chosen[static_cast<std::size_t>(item)] != (item == kGioSpecial)) ApplyFunction(item, image);
+  if (!chosen[kGioLiftAxle]) return;
+  kLoweringPressure.Put(image, lowering);
+  kLiftingPressure.Put(image, lifting);
 }
 
 }  // namespace lorimet

@@ -10,6 +10,7 @@ class Desktop;
 class Dictionary;
 class Form;
 class LinkLibrary;
+class SideDialog;
 struct ECUData;
 struct ParameterImage;
 
@@ -19,9 +20,9 @@ struct ParameterImage;
 struct WizardPages {
   Form* system = nullptr;
   Form* gio = nullptr;
-  Form* special_gio = nullptr;
-  Form* lift_axle = nullptr;
-  Form* speed_switch = nullptr;
+  SideDialog* special_gio = nullptr;
+  SideDialog* lift_axle = nullptr;
+  SideDialog* speed_switch = nullptr;
   Form* load_sensing = nullptr;
   Form* overturn_guard = nullptr;
 };
