@@ -54,7 +54,8 @@ bool Transfer(HeadlessProgram& headless, const std::string& path, bool writes) {
   SimulatedProgram& simulated = headless.simulated;
   PosixProfileFile profile_file;
   ParameterFile file(profile_file, headless.desktop, simulated.process, headless.clock,
-                     simulated.Ecu(), simulated.program.parameters->image);
+                     simulated.Ecu(), simulated.program.parameters->image,
+                     simulated.program.parameters->found);
   headless.desktop.AnswerFileDialog(path);
   const bool done = writes ? file.WriteParmsToFile() : file.ReadParmsFromFile();
   headless.desktop.TakeFileDialogs();
@@ -91,8 +92,8 @@ void ReadImage(HeadlessProgram& headless) {
   SimulatedProgram& simulated = headless.simulated;
   Program& program = simulated.program;
   ReadParmsFromECU({simulated.link, headless.desktop, program.support->dictionary, simulated.Ecu(),
-                    program.parameters->image, program.session->main_form,
-                    program.session->main_form.txtError});
+                    program.parameters->image, program.parameters->found,
+                    program.session->main_form, program.session->main_form.txtError});
 }
 
 // Each page decodes the image when it loads and encodes it when it is left; the last one's encoding
@@ -134,7 +135,8 @@ void WriteToEcu(benchmark::State& state) {
   const std::uint64_t start = headless.clock.Milliseconds();
   for (auto _ : state) {
     WriteParmsToECU({simulated.link, headless.desktop, program.support->dictionary, headless.clock,
-                     program.faults, program.parameters->image, page, page.txtStatus});
+                     program.faults, program.parameters->image, program.parameters->found, page,
+                     page.txtStatus});
     if (headless.desktop.TakeBoxes().size() != 1) state.SkipWithError("the ECU complains");
     headless.clock.sleeps.clear();
   }

@@ -6,6 +6,7 @@
 #include "adapters/posix/posix_profile_file.h"
 #include "fuzz/profile_file_model.h"
 #include "parameters/block_table.h"
+#include "parameters/found_configuration.h"
 #include "parameters/parameter_file.h"
 #include "parameters/parm_block.h"
 #include "session/ecu_data.h"
@@ -77,7 +78,7 @@ std::string OnDisk() {
 class Side {
  public:
   explicit Side(lorimet::ProfileFile& file)
-      : parameters(file, desktop_, process_, clock_, ecu_data, image) {}
+      : parameters(file, desktop_, process_, clock_, ecu_data, image, found) {}
 
   bool Read() {
     desktop_.AnswerFileDialog(Path());
@@ -97,6 +98,7 @@ class Side {
 
   lorimet::ECUData ecu_data{};
   lorimet::ParameterImage image;
+  lorimet::FoundConfiguration found{ecu_data};
 
  private:
   lorimet::VirtualClock clock_;

@@ -8,12 +8,14 @@
 #include <csignal>
 #include <filesystem>
 #include <fstream>
+#include <functional>
 #include <sstream>
 
 #include "autotests/common/program_fixture.h"
 #include "parameters/block_table.h"
 #include "parameters/parameters_part.h"
 #include "session/session_part.h"
+#include "support/support_part.h"
 
 namespace lorimet::testing_support {
 namespace {
@@ -71,6 +73,9 @@ class ParameterFileTest : public ProgramTest {
   bool ReadFile() {
     desktop.AnswerFileDialog(Path());
     return program.parameters->parameter_file.ReadParmsFromFile();
+  }
+  std::string Told() const {
+    return program.parameters->parameter_file.FailureText(program.support->dictionary);
   }
   bool ReadText(const std::string& text) {
     std::ofstream(Path(), std::ios::binary) << text;
@@ -163,6 +168,8 @@ TEST_F(ParameterFileTest, DialogsAskAsTheyShould) {
   EXPECT_EQ(dialogs[0].filter, "ECU (*.ecu)|*.ecu|Text (*.txt)|*.txt|All Files (*.*)|*.*");
   EXPECT_TRUE(dialogs[0].path_must_exist);
   EXPECT_EQ(dialogs[1].kind, FileDialog::Kind::kOpen);
+  EXPECT_EQ(dialogs[1].default_extension, ".ecu");
+  EXPECT_EQ(dialogs[1].initial_directory, "/program");
   EXPECT_EQ(dialogs[1].file_name, "default");
   EXPECT_EQ(dialogs[1].filter, "ECU (*.ecu)|*.ecu");
   EXPECT_TRUE(dialogs[1].file_must_exist);
@@ -180,11 +187,38 @@ TEST_F(ParameterFileTest, ProposesTheVehicleThenTheSerialNumberThenAPlainName) {
   EXPECT_EQ(proposed(), "VIN 7");
 }
 
-TEST_F(ParameterFileTest, SerialNumberOfBlanksProposesNoName) {
+TEST_F(ParameterFileTest, ProposalThatIsNoFileNameFallsBack) {
+  const auto proposed = [&] {
+    EXPECT_FALSE(program.parameters->parameter_file.WriteParmsToFile());
+    return desktop.TakeFileDialogs().at(0).file_name;
+  };
+  Ecu().SerialNum.Store("1234");
+  for (const char* name : {"AB/12345", "..\\x", "C:x", "CON", "nul.txt", "a\tb", ".."}) {
+    Image().strTrailerVIN = name;
+    EXPECT_EQ(proposed(), "1234") << name;
+  }
+  for (const char* serial : {"                ", "12/34", "LPT1"}) {
+    Ecu().SerialNum.Store(serial);
+    EXPECT_EQ(proposed(), "OVG Parameters") << serial;
+  }
+  Image().strTrailerVIN = "AB-12345";
+  EXPECT_EQ(proposed(), "AB-12345");
+}
+
+TEST_F(ParameterFileTest, NameWithoutASuffixOfTheDialogGetsOne) {
+  const std::vector<std::pair<const char*, const char*>> rows = {
+      {"AB.1234", "AB.1234.ecu"}, {"AB", "AB.ecu"},     {"AB.ecu", "AB.ecu"},
+      {"AB.ECU", "AB.ECU"},       {"AB.txt", "AB.txt"}, {"AB.ecu.bak", "AB.ecu.bak.ecu"},
+      {"ecu", "ecu.ecu"},         {"a", "a.ecu"},
+  };
   FillImage();
-  Ecu().SerialNum.Store("                ");
-  EXPECT_TRUE(WriteFile());
-  EXPECT_EQ(desktop.TakeFileDialogs().at(0).file_name, "");
+  for (const auto& [chosen, written] : rows) {
+    desktop.AnswerFileDialog(folder_ / chosen);
+    EXPECT_TRUE(program.parameters->parameter_file.WriteParmsToFile()) << chosen;
+    EXPECT_TRUE(fs::exists(folder_ / written)) << chosen;
+    EXPECT_EQ(FilesInFolder(), 1u) << chosen;
+    fs::remove(folder_ / written);
+  }
 }
 
 TEST_F(ParameterFileTest, ProposalEndsAtANulAndIsInTheProgramsOwnCharacters) {
@@ -196,14 +230,6 @@ TEST_F(ParameterFileTest, ProposalEndsAtANulAndIsInTheProgramsOwnCharacters) {
   EXPECT_EQ(proposed(), "Sé");
   Image().strTrailerVIN = " Ä7 ";
   EXPECT_EQ(proposed(), "Ä7");
-}
-
-TEST_F(ParameterFileTest, NameThatWouldLeaveTheFolderEndsInSilence) {
-  for (const char* name : {"AB/12", "..\\x", "C:x", "CON", "nul.txt", "a\tb", ".."}) {
-    Image().strTrailerVIN = name;
-    EXPECT_FALSE(WriteFile()) << name;
-    EXPECT_TRUE(desktop.TakeFileDialogs().empty()) << name;
-  }
 }
 
 TEST_F(ParameterFileTest, CancelDoesNothing) {
@@ -595,6 +621,97 @@ TEST_F(ParameterFileTest, StrangeFilesNeverHurt) {
       ReadText(Whole("[EOL1_System_Parameter]\nCount=1\nP_001=7\n"
                      "[EOL1_System_Parameter]\nCount=1\nP_001=8\n")));
   EXPECT_EQ(Image().EOL1(1), 7);  // of two sections the first counts
+}
+
+// Why a file was not read or not saved, in the user's words.
+TEST_F(ParameterFileTest, FailedReadIsToldInWords) {
+  struct Row {
+    const char* from;
+    const char* to;
+    const char* told;
+  };
+  const std::string whole = Whole("[EOL1_System_Parameter]\nCount=2\nP_001=5\nP_002=6\n");
+  for (const Row& row : std::vector<Row>{
+           {"VIN=ABCDEFGHIJKLMNOPQR", "VIN=ABCDEFGHIJKLMNOPQ",
+            "The file was not read: the vehicle id has fewer than 18 characters. "
+            "(EOL7_Vehicle_Data, VIN)"},
+           {"Manufacturer=ABC", "Manufacturer=C",
+            "The file was not read: the manufacturer has fewer than 20 characters. "
+            "(EOL7_Vehicle_Data, Manufacturer)"},
+           {"TypeOfVehicle=123", "TypeOfVehicle=",
+            "The file was not read: the trailer type has fewer than 20 characters. "
+            "(EOL7_Vehicle_Data, TypeOfVehicle)"},
+           {"Count=2", "Count=256",
+            "The file was not read: a count is not from 0 to 200. "
+            "(EOL1_System_Parameter, Count)"},
+           {"Count=2", "Count=201",
+            "The file was not read: a count is not from 0 to 200. "
+            "(EOL1_System_Parameter, Count)"},
+           {"P_002=6", "P_002=256",
+            "The file was not read: a byte is not from 0 to 255. "
+            "(EOL1_System_Parameter, P_002)"},
+           {"2006-17", "2006-1999",
+            "The file was not read: the production date is not a date. "
+            "(EOL7_Vehicle_Data, TrailerDateOfProduction)"},
+       }) {
+    std::string text = whole;
+    text.replace(text.find(row.from), std::string(row.from).size(), row.to);
+    EXPECT_FALSE(ReadText(text)) << row.to;
+    EXPECT_EQ(Told(), row.told);
+    EXPECT_TRUE(ReadText(whole));
+    EXPECT_EQ(Told(), "");
+  }
+  EXPECT_FALSE(ReadText(""));
+  EXPECT_NE(Told(), "");
+  desktop.AnswerFileDialog(std::nullopt);
+  EXPECT_FALSE(program.parameters->parameter_file.ReadParmsFromFile());
+  EXPECT_EQ(Told(), "") << "a cancel is no failure";
+}
+
+TEST_F(ParameterFileTest, FailedSaveIsToldInWords) {
+  const auto told = [&](const std::function<void()>& spoil) {
+    FillImage();
+    spoil();
+    EXPECT_FALSE(WriteFile());
+    return Told();
+  };
+  EXPECT_EQ(told([&] { Image().EOL5.bNumBytes = 0; }),
+            "The file was not saved: a block that it needs is missing. (EOL5_GIO_Connectors)");
+  EXPECT_EQ(told([&] { Image().EOL2.bNumBytes = 202; }),
+            "The file was not saved: a block is longer than 200 bytes. (EOL2_GIO_Functions)");
+  EXPECT_EQ(told([&] {
+              Image().EOL1.bNumBytes = 201;
+              Image().EOL1.DataArr.fill(255);
+            }),
+            "The file was not saved: the sum of a block is above 32767. (EOL1_System_Parameter)");
+  FillImage();
+  desktop.AnswerFileDialog(folder_ / "missing" / "x.ecu");
+  EXPECT_FALSE(program.parameters->parameter_file.WriteParmsToFile());
+  EXPECT_EQ(Told(), "The file was not saved: it cannot be written. (" +
+                        (folder_ / "missing" / "x.ecu").string() + ")");
+  EXPECT_TRUE(WriteFile());
+  EXPECT_EQ(Told(), "");
+}
+
+TEST_F(ParameterFileTest, MessageCenterTellsWhyAFileWasNotRead) {
+  Start();
+  Main().txtError.SetText("link");
+  desktop.AnswerFileDialog(std::nullopt);
+  Main().mnuSystem[1].UserClick();
+  EXPECT_EQ(Main().txtError.Text(), "link");
+  std::ofstream(Path(), std::ios::binary) << "[EOL7_Vehicle_Data]\r\nVIN=ABC\r\n";
+  desktop.AnswerFileDialog(Path());
+  Main().mnuSystem[1].UserClick();
+  EXPECT_EQ(Main().txtError.Text(),
+            "The file was not read: the vehicle id has fewer than 18 characters. "
+            "(EOL7_Vehicle_Data, VIN)");
+  EXPECT_TRUE(desktop.ModalForms().empty());
+  // A file that reads takes the text away.
+  std::ofstream(Path(), std::ios::binary) << Whole("");
+  desktop.AnswerFileDialog(Path());
+  desktop.OnModal("frmOVGParm1", [](Form& form) { form.UserClose(); });
+  Main().mnuSystem[1].UserClick();
+  EXPECT_EQ(Main().txtError.Text(), " ");
 }
 
 TEST_F(ParameterFileTest, MenuOpensTheWizardOnlyForAFileThatReads) {

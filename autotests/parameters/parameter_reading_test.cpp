@@ -23,8 +23,8 @@ class ParameterReadingTest : public ProgramTest {
  protected:
   ParameterImage& Image() { return program.parameters->image; }
   std::int32_t Read() {
-    return ReadParmsFromECU(
-        {link, desktop, program.support->dictionary, Ecu(), Image(), Main(), Main().txtError});
+    return ReadParmsFromECU({link, desktop, program.support->dictionary, Ecu(), Image(),
+                             program.parameters->found, Main(), Main().txtError});
   }
   // Answers each block with its id as echo and its index plus an offset in each byte.
   void Answer(std::uint8_t count) {
@@ -134,6 +134,15 @@ TEST_F(ParameterReadingTest, UserSeesTheWorkBeforeTheBlockingReads) {
   EXPECT_EQ(pointers,
             (std::vector<MousePointer>{MousePointer::kHourglass, MousePointer::kHourglass}));
   EXPECT_EQ(Main().Pointer(), MousePointer::kArrow);
+}
+
+TEST_F(ParameterReadingTest, ProgressIsInTheUsersLanguage) {
+  Start();
+  program.support->dictionary.SetLanguage(kFrench);
+  std::vector<std::string> shown;
+  desktop.on_repaint = [&] { shown.push_back(Main().txtError.Text()); };
+  Read();
+  EXPECT_EQ(shown, (Calls{"Lecture des données de paramètres...", " "}));
 }
 
 TEST_F(ParameterReadingTest, GoodBlocksRefreshTheFieldsThatNobodyElseFills) {

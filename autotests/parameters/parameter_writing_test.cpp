@@ -29,14 +29,14 @@ class ParameterWritingTest : public ProgramTest {
   frmOVGParm3& Page() { return program.parameters->overturn_guard_page; }
   void Write() {
     WriteParmsToECU({link, desktop, program.support->dictionary, clock, program.faults->faults,
-                     Image(), Page(), Page().txtStatus});
+                     Image(), program.parameters->found, Page(), Page().txtStatus});
   }
   // Lets the page that shows the progress stand.
   void Open() {
     Start();
     Page().Load();
-    clock.sleeps.clear();
     link.TakeCalls();
+    link.TakeSequence();
   }
   void FillAll() {
     ParameterImage& image = Image();
@@ -63,30 +63,35 @@ TEST_F(ParameterWritingTest, SendsEveryBlockInOrderThenChecksClearsResetsAndAsks
   desktop.on_repaint = [&] { shown.push_back(Page().txtStatus.Text()); };
   AnswerErrors({});
   Write();
-  EXPECT_EQ(link.TakeCalls(), (Calls{"StartSession 83",
-                                     "Password",
-                                     "StartRoutine 42:00000100",
-                                     "WriteMemory 28:14",
-                                     "WriteMemory 3D:11",
-                                     "WriteMemory 03:10",
-                                     "WriteMemory 06:16",
-                                     "WriteMemory 27:12",
-                                     "WriteMemory 17:13",
-                                     "WriteMemory 05:15",
-                                     "WriteMemory 42:17",
-                                     "WriteMemory 37:110",
-                                     "WriteMemory 38:110",
-                                     "WriteMemory 39:110",
-                                     "WriteMemory 3A:110",
-                                     "WriteMemory 3B:110",
-                                     "WriteMemory 3C:110",
-                                     "WriteMemory 44:110",
-                                     "WriteMemory 45:110",
-                                     "StartRoutine 42:00000000",
-                                     "StartRoutine 05:",
-                                     "ClearAllFaults",
-                                     "ResetECU",
-                                     "ReadData 29"}));
+  // Each wait has its place behind the step that it is for.
+  EXPECT_EQ(link.TakeSequence(), (Calls{"StartSession 83",
+                                        "Password",
+                                        "StartRoutine 42:00000100",
+                                        "WriteMemory 28:14",
+                                        "WriteMemory 3D:11",
+                                        "WriteMemory 03:10",
+                                        "WriteMemory 06:16",
+                                        "WriteMemory 27:12",
+                                        "WriteMemory 17:13",
+                                        "WriteMemory 05:15",
+                                        "WriteMemory 42:17",
+                                        "WriteMemory 37:110",
+                                        "WriteMemory 38:110",
+                                        "WriteMemory 39:110",
+                                        "WriteMemory 3A:110",
+                                        "WriteMemory 3B:110",
+                                        "WriteMemory 3C:110",
+                                        "WriteMemory 44:110",
+                                        "WriteMemory 45:110",
+                                        "StartRoutine 42:00000000",
+                                        "sleep 100",
+                                        "StartRoutine 05:",
+                                        "sleep 2000",
+                                        "ClearAllFaults",
+                                        "sleep 2000",
+                                        "ResetECU",
+                                        "sleep 3000",
+                                        "ReadData 29"}));
   EXPECT_EQ(shown, (Calls{"Writing EOL5 Data to ECU",    "Writing OVG Data to ECU ",
                           "Writing Vehicle Data to ECU", "Writing Trailer Data to ECU",
                           "Writing EOL3 Data to ECU",    "Writing EOL4 Data to ECU",
@@ -97,10 +102,26 @@ TEST_F(ParameterWritingTest, SendsEveryBlockInOrderThenChecksClearsResetsAndAsks
                           "Writing FCF 7 Data to ECU",   "Writing FCF 8 Data to ECU",
                           "Updating Checksums",          "Clearing Faults",
                           "Performing Reset of ECU",     "Checking for Parameter Errors"}));
-  EXPECT_EQ(clock.sleeps, (std::vector<std::uint32_t>{100, 2000, 2000, 3000}));
   EXPECT_EQ(desktop.TakeBoxes(), Boxes{kSaved});
   EXPECT_EQ(Page().txtStatus.Text(), " ");
   EXPECT_EQ(Page().Pointer(), MousePointer::kDefault);
+}
+
+TEST_F(ParameterWritingTest, StatusIsInTheUsersLanguageAndTheBoxesAreNot) {
+  Open();
+  program.support->dictionary.Open();
+  program.support->dictionary.SetLanguage(kFrench);
+  Image().EOL1.bNumBytes = 3;
+  Image().FCF8.bNumBytes = 3;
+  std::vector<std::string> shown;
+  desktop.on_repaint = [&] { shown.push_back(Page().txtStatus.Text()); };
+  AnswerErrors({});
+  Write();
+  EXPECT_EQ(shown, (Calls{"Écriture des données véhicule dans l'ECU",
+                          "Écriture des données FCF 8 dans l'ECU",
+                          "Mise à jour des sommes de contrôle", "Effacement des défauts",
+                          "Redémarrage de l'ECU en cours", "Recherche d'erreurs de paramètres"}));
+  EXPECT_EQ(desktop.TakeBoxes(), Boxes{kSaved});
 }
 
 TEST_F(ParameterWritingTest, IndexZeroNeverTravels) {

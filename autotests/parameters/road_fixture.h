@@ -41,6 +41,7 @@ class RoadFixture : public Base {
     program = std::make_unique<Program>(Ports{desktop, clock, registry, hook, process, *link,
                                               help_viewer, translations, profile_file});
     ASSERT_EQ(program->Start(), EntryResult::kRunning);
+    one_modulator_ = Ecu().bNumModulators.Load() == 1;
   }
   static std::string Scenario(const std::string& configuration,
                               const std::string& suspension = "air") {
@@ -56,7 +57,7 @@ class RoadFixture : public Base {
       });
     };
     next("frmOVGParm1", [](Form& f) -> Button& { return static_cast<frmOVGParm1&>(f).cmdNext; });
-    if (Ecu().bNumModulators.Load() != 1)
+    if (!one_modulator_)
       next("frmGIOSelection",
            [](Form& f) -> Button& { return static_cast<frmGIOSelection&>(f).cmdNext; });
     next("frmOVGParm2", [](Form& f) -> Button& { return static_cast<frmOVGParm2&>(f).cmdNext; });
@@ -103,6 +104,9 @@ class RoadFixture : public Base {
   PosixProfileFile profile_file;
   std::unique_ptr<SimulatedLink> link;
   std::unique_ptr<Program> program;
+
+ private:
+  bool one_modulator_ = false;  // the trailer has, which skips the page of the functions
 };
 
 const auto kNoEdit = [](Form&) {};

@@ -7,6 +7,7 @@
 #include <filesystem>
 #include <fstream>
 #include <sstream>
+#include <tuple>
 
 #include "autotests/parameters/road_fixture.h"
 #include "parameters/parameters_part.h"
@@ -41,8 +42,14 @@ const Sample kTrailers[] = {
      "LOW LOADER GOOSENECK"},
 };
 
-class SampleFiles : public RoadFixture<testing::TestWithParam<Sample>> {
+std::string PathOf(const Sample& sample) { return kSamples / (std::string(sample.name) + ".ecu"); }
+
+template <typename Parameter>
+class SampleFixture : public RoadFixture<testing::TestWithParam<Parameter>> {
  protected:
+  using Road = RoadFixture<testing::TestWithParam<Parameter>>;
+  using Road::clock;
+
   static std::string TextOf(const std::filesystem::path& path) {
     std::stringstream text;
     text << std::ifstream(path, std::ios::binary).rdbuf();
@@ -62,12 +69,14 @@ class SampleFiles : public RoadFixture<testing::TestWithParam<Sample>> {
     date.tm_mday = 2;
     date.tm_hour = 8;
     clock.SetDate(date);
-    Begin(Scenario(sample.configuration, sample.suspension) + "axles " +
-          std::to_string(sample.axles) + "\nidentity vehicle_id \"" + sample.vehicle_id +
-          "\"\nidentity manufacturer \"" + sample.manufacturer + "\"\nidentity trailer_type \"" +
-          sample.type + "\"\n");
+    Road::Begin(Road::Scenario(sample.configuration, sample.suspension) + "axles " +
+                std::to_string(sample.axles) + "\nidentity vehicle_id \"" + sample.vehicle_id +
+                "\"\nidentity manufacturer \"" + sample.manufacturer +
+                "\"\nidentity trailer_type \"" + sample.type + "\"\n");
   }
 };
+
+class SampleFiles : public SampleFixture<Sample> {};
 
 TEST_P(SampleFiles, AreWhatTheProgramWrites) {
   const Sample& sample = GetParam();
@@ -97,6 +106,89 @@ TEST_P(SampleFiles, ReadBackIntoTheImage) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Trailers, SampleFiles, testing::ValuesIn(kTrailers),
+                         [](const auto& info) { return std::string(info.param.name); });
+
+// A file is opened and closed on the way to another trailer's ECU: nothing of it gets there.
+class FileBetweenTrailers : public SampleFixture<std::tuple<Sample, Sample>> {
+ protected:
+  // Opens the file and closes its wizard.
+  void OpenAndClose(const Sample& sample) {
+    desktop.AnswerFileDialog(PathOf(sample));
+    desktop.OnModal("frmOVGParm1",
+                    [](Form& form) { Press(static_cast<frmOVGParm1&>(form).cmdClose); });
+    program->session->main_form.mnuSystem[1].UserClick();
+  }
+};
+
+TEST_P(FileBetweenTrailers, OnlyEditedBytesMove) {
+  const auto& [file, trailer] = GetParam();
+  BeginSample(trailer);
+  Walk(kNoEdit, &frmOVGParm3::cmdSaveToECU);  // once the conversions have settled
+  const auto before = Stored();
+  OpenAndClose(file);
+  Walk(
+      [](Form& page) {
+        if (page.Name() == "frmOVGParm2")
+          static_cast<frmOVGParm2&>(page).txtAxleLoadLaden[0].UserType("8500");
+      },
+      &frmOVGParm3::cmdSaveToECU);
+  auto expected = before;
+  expected[0x03][5] = 8500 / 256;
+  expected[0x03][6] = 8500 % 256;
+  EXPECT_EQ(Stored(), expected);
+  // And once more, from a file that has been opened in vain.
+  OpenAndClose(file);
+  Walk(kNoEdit, &frmOVGParm3::cmdSaveToECU);
+  EXPECT_EQ(Stored(), expected);
+  desktop.TakeBoxes();
+}
+
+INSTANTIATE_TEST_SUITE_P(Pairs, FileBetweenTrailers,
+                         testing::Combine(testing::ValuesIn(kTrailers),
+                                          testing::ValuesIn(kTrailers)),
+                         [](const auto& info) {
+                           return std::string(std::get<0>(info.param).name) + "_" +
+                                  std::get<1>(info.param).name;
+                         });
+
+// What was saved is what the next read shows, and a further save changes nothing.
+class SavedAndReadAgain : public SampleFixture<Sample> {};
+
+TEST_P(SavedAndReadAgain, AxlesStandAsTheyWereMoved) {
+  BeginSample(GetParam());
+  const int axles = GetParam().axles;
+  Walk(kNoEdit, &frmOVGParm3::cmdSaveToECU);
+  int sensed = 0;
+  while (Ecu().nAxleSensors[static_cast<std::size_t>(sensed)].Load() != 1) ++sensed;
+  const int moved = (sensed + 1) % axles;
+  Walk(
+      [&](Form& page) {
+        if (page.Name() == "frmOVGParm1")
+          static_cast<frmOVGParm1&>(page).optSensorCD[moved].UserClick();
+        // A low byte of 0, which a file would not count as an axle.
+        if (page.Name() == "frmOVGParm2")
+          static_cast<frmOVGParm2&>(page).txtAxleLoadLaden[axles - 1].UserType("4096");
+      },
+      &frmOVGParm3::cmdSaveToECU);
+  const auto saved = Stored();
+  EXPECT_EQ(saved.at(0x03)[static_cast<std::size_t>(7 + 6 * moved)] & 0x10, 0x10);
+  EXPECT_EQ(saved.at(0x03)[static_cast<std::size_t>(7 + 6 * sensed)] & 0x10, 0);
+  int seen = 0;
+  Walk(
+      [&](Form& page) {
+        if (page.Name() != "frmOVGParm1") return;
+        const auto& system = static_cast<frmOVGParm1&>(page);
+        for (int i = 0; i < 3; ++i) EXPECT_EQ(system.optSensorCD[i].Value(), i == moved) << i;
+        EXPECT_TRUE(system.optNumAxles[axles - 1].Value());
+        ++seen;
+      },
+      &frmOVGParm3::cmdSaveToECU);
+  EXPECT_EQ(seen, 1);
+  EXPECT_EQ(Stored(), saved);
+  desktop.TakeBoxes();
+}
+
+INSTANTIATE_TEST_SUITE_P(Trailers, SavedAndReadAgain, testing::ValuesIn(kTrailers),
                          [](const auto& info) { return std::string(info.param.name); });
 
 }  // namespace

@@ -882,13 +882,24 @@ TEST_F(SavingTest, DisabledFieldsOfATwoSensorSystemAreWrittenAllTheSame) {
   EXPECT_EQ(Vehicle()(59), 90);
 }
 
-TEST_F(SavingTest, FailedSaveToFileIsSilentAndKeepsThePage) {
+TEST_F(SavingTest, FailedSaveToFileSaysWhyAndKeepsThePage) {
   System().Load();
   Last().Load();
+  for (ParmBlock* block : {&Image().EOL1, &Image().EOL2, &Image().EOL5}) block->bNumBytes = 5;
   desktop.AnswerFileDialog("/no/such/folder/x.ecu");
   Press(Last().cmdSaveToFile);
   EXPECT_TRUE(Last().Loaded());
+  EXPECT_EQ(Last().txtStatus.Text(),
+            "The file was not saved: it cannot be written. (/no/such/folder/x.ecu)");
+  Press(Last().cmdSaveToFile);  // cancelled
   EXPECT_EQ(Last().txtStatus.Text(), "");
+  Speak(kFrench);
+  Image().EOL2.bNumBytes = 0;
+  desktop.AnswerFileDialog("/no/such/folder/x.ecu");
+  Image().EOL1.bNumBytes = 0;
+  Press(Last().cmdSaveToFile);
+  EXPECT_TRUE(Last().txtStatus.Text().starts_with("Le fichier n'a pas été enregistré : "))
+      << Last().txtStatus.Text();
 }
 
 TEST_F(SavingTest, CancelledSaveToFileKeepsThePage) {

@@ -23,12 +23,13 @@ constexpr int kTwinTires = 3;
 }  // namespace
 
 frmOVGParm3::frmOVGParm3(const WizardParts& parts, Clock& clock, Faults& faults,
-                         ParameterFile& file)
+                         ParameterFile& file, FoundConfiguration& found)
     : Form(parts.desktop, "frmOVGParm3"),
       parts_(parts),
       clock_(clock),
       faults_(faults),
       file_(file),
+      found_(found),
       checks_(*this, parts.dictionary) {
   help_page = "overturn_guard.html";
   for (auto& field : txtNumTeeth)
@@ -106,13 +107,16 @@ void frmOVGParm3::SaveToEcu() {
   GetSettingsFromGUI();
   RefreshTestFields(parts_.image, parts_.ecu_data);
   WriteParmsToECU({parts_.link, parts_.desktop, parts_.dictionary, clock_, faults_, parts_.image,
-                   *this, txtStatus});
+                   found_, *this, txtStatus});
   Close();
 }
 
 void frmOVGParm3::SaveToFile() {
   GetSettingsFromGUI();
-  if (!file_.WriteParmsToFile()) return;
+  if (!file_.WriteParmsToFile()) {
+    txtStatus.SetText(file_.FailureText(parts_.dictionary));
+    return;
+  }
   txtStatus.SetText(" ");
   MessageBox box;
   box.text = "Write to file complete.";

@@ -9,11 +9,13 @@ namespace lorimet {
 
 class Clock;
 class Faults;
+class FoundConfiguration;
 class ParameterFile;
 
 class frmOVGParm3 : public Form {
  public:
-  frmOVGParm3(const WizardParts& parts, Clock& clock, Faults& faults, ParameterFile& file);
+  frmOVGParm3(const WizardParts& parts, Clock& clock, Faults& faults, ParameterFile& file,
+              FoundConfiguration& found);
 
   Frame fraOVG{*this, "fraOVG"};
   ControlArray<OptionButton> optOVGStatus{*this, "optOVGStatus", 4};
@@ -47,6 +49,7 @@ class frmOVGParm3 : public Form {
   Clock& clock_;
   Faults& faults_;
   ParameterFile& file_;
+  FoundConfiguration& found_;
   RangeChecks checks_;
 };
 

@@ -4,6 +4,7 @@
 #include <array>
 
 #include "parameters/block_table.h"
+#include "parameters/found_configuration.h"
 #include "parameters/function_blocks.h"
 #include "parameters/record_refresh.h"
 #include "platform/desktop.h"
@@ -45,6 +46,7 @@ std::int32_t ReadBlock(LinkLibrary& link, std::uint8_t local_id, ParmBlock& bloc
 std::int32_t ReadParmsFromECU(const ReadingParts& parts) {
   ParameterImage& image = parts.image;
   LinkLibrary& link = parts.link;
+  parts.found.Restore();
   parts.main_form.SetMousePointer(MousePointer::kHourglass);
   StartEcuSession(link);
   SetParameterAccess(link, 1);

@@ -10,6 +10,7 @@ namespace lorimet {
 class Desktop;
 class Dictionary;
 class Form;
+class FoundConfiguration;
 class LinkLibrary;
 class TextBox;
 struct ECUData;
@@ -27,6 +28,7 @@ struct ReadingParts {
   const Dictionary& dictionary;
   ECUData& ecu_data;
   ParameterImage& image;
+  FoundConfiguration& found;
   Form& main_form;
   TextBox& error_text;
 };

@@ -6,6 +6,7 @@
 
 #include "faults/faults.h"
 #include "parameters/block_table.h"
+#include "parameters/found_configuration.h"
 #include "parameters/parameter_errors.h"
 #include "platform/clock.h"
 #include "platform/desktop.h"
@@ -50,7 +51,10 @@ void WriteBlock(const WritingParts& parts, const BlockRow& row) {
   const std::int32_t result = TryLinkCall([&] {
     return parts.link.Trailer_ABS_KWP_WriteMemoryByLocId(row.local_id, count, data.data());
   });
-  if (result != 0) ShowPlainBox(parts.desktop, row.error, "Write Error");
+  if (result != 0)
+    ShowPlainBox(parts.desktop, row.error, "Write Error");
+  else if (row.block == &ParameterImage::EOL1)
+    parts.found.TakeWritten(parts.image);
 }
 
 void ShowVerdict(const WritingParts& parts) {

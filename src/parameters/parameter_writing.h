@@ -10,6 +10,7 @@ class Desktop;
 class Dictionary;
 class Faults;
 class Form;
+class FoundConfiguration;
 class LinkLibrary;
 class TextBox;
 
@@ -20,6 +21,7 @@ struct WritingParts {
   Clock& clock;
   Faults& faults;
   ParameterImage& image;
+  FoundConfiguration& found;
   Form& page;       // whose pointer shows the work
   TextBox& status;  // takes the progress texts
 };

@@ -1,6 +1,7 @@
 // The parameters put together: the image, its file, and the wizard that edits it.
 #pragma once
 
+#include "parameters/found_configuration.h"
 #include "parameters/frmGIOSelection.h"
 #include "parameters/frmGIOSpecial.h"
 #include "parameters/frmLiftAxlePressures.h"
@@ -12,8 +13,11 @@
 #include "parameters/parm_block.h"
 #include "parameters/wizard.h"
 
+#include <string>
+
 namespace lorimet {
 
+class frmZeltMain;
 struct FaultsPart;
 struct Ports;
 struct SessionPart;
@@ -24,6 +28,7 @@ struct ParametersPart {
                  FaultsPart& faults);
 
   ParameterImage image;
+  FoundConfiguration found;
   ParameterFile parameter_file;
   SystemChoices choices;
   WizardPages pages;
@@ -37,7 +42,10 @@ struct ParametersPart {
   frmOVGParm3 overturn_guard_page;
 
  private:
+  void EditFromFile(frmZeltMain& main_form);
   void ShowWizard(Form& owner);
+
+  std::string told_;  // why the last file was not read, as the Message Center says it
 };
 
 }  // namespace lorimet

@@ -59,6 +59,11 @@ void RefreshVehicleFields(const ParameterImage& image, ECUData& ecu_data) {
   }
 }
 
+void RefreshAxleSensors(const ParameterImage& image, ECUData& ecu_data) {
+  for (int a = 0; a < parameter::kAxles; ++a)
+    ecu_data.nAxleSensors[static_cast<std::size_t>(a)].Store(parameter::AxleSensors(a).In(image));
+}
+
 void RefreshIdentityFields(const ParameterImage& image, ECUData& ecu_data) {
   ecu_data.VehicleId.Store(Bytes(image, parameter::kVehicleId), ' ');
   ecu_data.Manufacturer.Store(Bytes(image, parameter::kManufacturer));
@@ -72,11 +77,10 @@ void RefreshConfiguration(const ParameterImage& image, ECUData& ecu_data) {
   const AbsSystem system = SystemOf(parameter::kAbsSystem.In(image));
   ecu_data.bNumSensors.Store(system.sensors);
   ecu_data.bNumModulators.Store(system.modulators);
+  RefreshAxleSensors(image, ecu_data);
   std::int16_t axles = 0;
-  for (int a = 0; a < parameter::kAxles; ++a) {
-    ecu_data.nAxleSensors[static_cast<std::size_t>(a)].Store(parameter::AxleSensors(a).In(image));
+  for (int a = 0; a < parameter::kAxles; ++a)
     if (IsLoaded(image, a)) ++axles;
-  }
   ecu_data.nNumAxles.Store(axles);
 }
 

@@ -11,6 +11,9 @@ struct ParameterImage;
 void RefreshVehicleFields(const ParameterImage& image, ECUData& ecu_data);
 void RefreshIdentityFields(const ParameterImage& image, ECUData& ecu_data);
 
+// The sensors of each axle from EOL1.
+void RefreshAxleSensors(const ParameterImage& image, ECUData& ecu_data);
+
 // All that a connection would have filled, from EOL1 and EOL7 of a file.
 void RefreshConfiguration(const ParameterImage& image, ECUData& ecu_data);
 

@@ -126,6 +126,7 @@ void frmZeltMain::RestartECU() {
   SetMousePointer(MousePointer::kHourglass);
   GetDesktop().DoEvents();
   if (closed_) return;
+  for (const auto& prepare : before_static_read) prepare();
   parts_.connection.link.Trailer_ABS_QOR_ReadStaticData();
   StartEcuSession(parts_.connection.link);
   WaitForStaticData();

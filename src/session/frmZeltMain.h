@@ -60,6 +60,8 @@ class frmZeltMain : public Form {
   CommandActions actions;
   // Clear the records of the higher floors at the form's load.
   std::vector<std::function<void()>> reset_results;
+  // Run before the library fills the record of a new connection.
+  std::vector<std::function<void()>> before_static_read;
 
   // Menus.
   ControlArray<MenuItem> mnuABS{*this, "mnuABS", {0, 1, 2, 3, 4, 6, 7, 8}};

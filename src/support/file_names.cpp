@@ -27,14 +27,17 @@ bool IsDevice(const std::string& name) {
 
 }  // namespace
 
-void CheckFileName(const std::string& name) {
+bool IsFileName(const std::string& name) {
   const bool bad_character = std::ranges::any_of(name, [](char c) {
     const auto code = static_cast<unsigned char>(c);
     return code < 0x20 || code == 0x7F || c == '/' || c == '\\' || c == ':';
   });
   const bool nothing = name.find_first_not_of(". ") == std::string::npos;
-  if (bad_character || nothing || IsDevice(name))
-    throw RuntimeError(ErrorNumber::kBadFileNameOrNumber);
+  return !bad_character && !nothing && !IsDevice(name);
+}
+
+void CheckFileName(const std::string& name) {
+  if (!IsFileName(name)) throw RuntimeError(ErrorNumber::kBadFileNameOrNumber);
 }
 
 }  // namespace lorimet
