@@ -525,6 +525,26 @@ TEST_F(WizardTest, PagesBearTheirWords) {
   EXPECT_EQ(Last().cmdClose.Caption(), "&Close");
 }
 
+TEST_F(WizardTest, LastTwoPagesSpeakTheUsersLanguage) {
+  Speak(kFrench);
+  MakeMechanical();
+  OpenPage();
+  Last().Load();
+  EXPECT_EQ(Page().Caption(), "Paramètres LSV OVG");
+  EXPECT_EQ(Page().lblControlPressure.Caption(), "Pression de commande PM (psi)");
+  EXPECT_EQ(Page().lblTrailerVIN.Caption(), "ID véhicule");
+  EXPECT_EQ(Page().txtColHdrUnladen.Text(), "Course suspension (mm)");
+  EXPECT_EQ(Page().txtColHdrLaden.Text(), "Course suspension (mm)");
+  EXPECT_EQ(Page().cmdPrev.Caption(), "&Précédent");
+  EXPECT_EQ(Last().Caption(), "Paramètres OVG/ABS");
+  EXPECT_EQ(Last().fraOVG.Caption(), "Antirenversement (OVG)");
+  EXPECT_EQ(Last().optOVGStatus[1].Caption(), "OVG désactivé");
+  EXPECT_EQ(Last().lblTireSize.Caption(), "Circonférence du pneu (mm)");
+  EXPECT_EQ(Last().lblNumTeeth.Caption(), "Nombre de dents");
+  EXPECT_EQ(Last().cmdSaveToECU.Caption(), "&Enregistrer dans l'ECU");
+  EXPECT_EQ(Last().cmdSaveToFile.Caption(), "Enregistrer dans un f&ichier");
+}
+
 TEST_F(WizardTest, TextsLongerThanTheirFieldsAreCut) {
   OpenPage();
   const std::string letters = "ABCDEFGHIJKLMNOPQRSTUVWXYZ";
