@@ -18,7 +18,7 @@ TEST_F(FailureModesTest, TheTableNamesEveryModeInItsOrderAndOnce) {
     EXPECT_EQ(FindFailure(facts.name), &facts);
     EXPECT_EQ(&FactsOf(facts.mode), &facts);
   }
-  EXPECT_EQ(FailureTable().back().mode, FailureMode::kFaultRecordsShort);
+  EXPECT_EQ(FailureTable().back().mode, FailureMode::kIoControlStatus);
   EXPECT_EQ(FindFailure("bad weather"), nullptr);
 }
 
@@ -29,6 +29,10 @@ TEST_F(FailureModesTest, EveryModeOperationAndCommandIsInTheDocument) {
     EXPECT_NE(text.find("`" + std::string(facts.name) + "`"), std::string::npos) << facts.name;
   for (const CommandFacts& command : Commands())
     EXPECT_NE(text.find("`" + std::string(command.word)), std::string::npos) << command.word;
+  for (const DefectFacts& defect : DefectTable())
+    EXPECT_NE(text.find("`" + std::string(defect.name)), std::string::npos) << defect.name;
+  for (const SeenFacts& seen : SeenTable())
+    EXPECT_NE(text.find("`" + std::string(seen.name)), std::string::npos) << seen.name;
 }
 
 TEST_F(FailureModesTest, EveryOperationCanBeRefusedAndIsCounted) {
@@ -113,7 +117,7 @@ TEST_F(FailureModesTest, AnAnswerThatNeverComesIsGivenUpAndTheTrailerGoesOnMeanw
   link_->Command("spin c 10");
   link_->Command("failure never_answer operation=FaultLock times=once");
   EXPECT_EQ(link_->FaultLock(), kNoAnswer);
-  EXPECT_NEAR(record_.dWheelSpeed[3].Load(), 10 - 2 * 1.5, 0.3);
+  EXPECT_NEAR(record_.dWheelSpeed[3].Load(), 10 - 2 * 1.2, 0.3);
   EXPECT_EQ(link_->FaultLock(), 0);
 }
 

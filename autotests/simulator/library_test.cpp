@@ -124,7 +124,7 @@ TEST_F(LibraryTest, ReadsByItselfWhileItIsConnected) {
   EXPECT_EQ(record_.nLinkJobDone.Load(), 0);
   EXPECT_TRUE(Eventually([&] { return link_status_.bLinkAttained.Load() != 0; }));
   EXPECT_TRUE(Eventually([&] { return record_.dSupplyPress.Load() > 100; }));
-  EXPECT_TRUE(Eventually([&] { return record_.nLinkJobDone.Load() == -1; }));
+  EXPECT_TRUE(Eventually([&] { return record_.nLinkJobDone.Load() == 1; }));
   EXPECT_EQ(record_.bNumModulators.Load(), 2);
   EXPECT_EQ(NextStatus(), 0);
   EXPECT_EQ(Call("Disconnect"), 0);
@@ -171,7 +171,7 @@ TEST_F(LibraryTest, StartsAsTheScenarioOfTheEnvironment) {
   Load();
   ASSERT_EQ(Connect(), 0);
   Call("Trailer_ABS_QOR_ReadStaticData");
-  EXPECT_TRUE(Eventually([&] { return record_.nLinkJobDone.Load() == -1; }));
+  EXPECT_TRUE(Eventually([&] { return record_.nLinkJobDone.Load() == 1; }));
   EXPECT_EQ(record_.bNumModulators.Load(), 1);
 }
 

@@ -35,7 +35,7 @@ class LinkFixture : public testing::Test {
     ASSERT_EQ(Connect(), 0);
     ASSERT_EQ(link_->Trailer_ABS_QOR_ReadStaticData(), 0);
     link_->Advance(2.5);
-    ASSERT_EQ(record_.nLinkJobDone.Load(), -1);
+    ASSERT_EQ(record_.nLinkJobDone.Load(), 1);
     statuses_.clear();
   }
 

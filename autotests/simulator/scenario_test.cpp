@@ -189,8 +189,10 @@ TEST(StateTest, OutlivesTheTrailer) {
   EXPECT_FALSE(trailer.Parameters().ChecksumRight(kEol5));
   EXPECT_TRUE(trailer.Parameters().ChecksumRight(kEol3));
   EXPECT_EQ(trailer.EndOfLineFlag(), 1);
-  const std::vector<Fault> expected = {{3, 5, kFaultActive, 12}, {4, 4, kFaultStored, -1}};
-  EXPECT_EQ(trailer.Faults().Faults(), expected) << "no cause of 4/4 stands any more";
+  const std::vector<Fault> expected = {
+      {3, 5, kFaultActive, 12}, {4, 4, kFaultStored, -1}, {253, 12, kFaultActive, 1}};
+  EXPECT_EQ(trailer.Faults().Faults(), expected)
+      << "no cause of 4/4 stands any more, and a checksum is wrong";
 }
 
 TEST(StateTest, AClearedFaultWhoseCauseStandsIsBackInTheNextLife) {

@@ -21,8 +21,28 @@ TEST_F(SessionTest, AServiceNeedsTheSessionThenThePasswordThenTheAccess) {
   EXPECT_EQ(Read(0x03), kAccessDenied);
 }
 
-TEST_F(SessionTest, LapsesWithoutTrafficAndNotWithIt) {
+TEST_F(SessionTest, IsKeptAliveByTheLibrarysOwnReadingHoweverSlowTheOperator) {
   ConnectAndRead("session_timeout 5");
+  OpenParameters();
+  link_->Advance(3600);
+  EXPECT_EQ(Read(0x03), 0);
+}
+
+TEST_F(SessionTest, LapsesAfterFiveSecondsOfSilence) {
+  ConnectAndRead();
+  OpenParameters();
+  link_->Command("cable out");
+  link_->Advance(4.8);
+  link_->Command("cable in");
+  EXPECT_EQ(Read(0x03), 0);
+  link_->Command("cable out");
+  link_->Advance(5.2);
+  link_->Command("cable in");
+  EXPECT_EQ(Read(0x03), kNoSession);
+}
+
+TEST_F(SessionTest, LapsesWithoutServicesWhereReadingsDoNotKeepItAlive) {
+  ConnectAndRead("session_keep_alive off\nsession_timeout 5");
   OpenParameters();
   link_->Advance(4.9);
   EXPECT_EQ(Read(0x03), 0);
@@ -32,6 +52,37 @@ TEST_F(SessionTest, LapsesWithoutTrafficAndNotWithIt) {
   EXPECT_EQ(Read(0x03), kNoSession);
   OpenParameters();
   EXPECT_EQ(Read(0x03), 0);
+}
+
+TEST_F(SessionTest, TheBrakeStaysAsItWasSetWhenTheSessionEnds) {
+  for (const char* end : {"session lapse", "stop"}) {
+    ConnectAndRead();
+    OpenParameters();
+    ASSERT_EQ(Routine(0x37, {0, 0, 2}), 0);
+    ASSERT_EQ(Routine(0x06, {1, 0, 0x44, 0, 0x44, 0xE8, 3}), 0);
+    if (std::string_view(end) == "stop")
+      link_->Trailer_ABS_KWP_StopSession();
+    else
+      link_->Command(end);
+    link_->Advance(2);
+    EXPECT_EQ(link_->Get("mode"), "test") << end;
+    EXPECT_NEAR(std::stod(link_->Get("h1")), 49.3, 1) << end;
+    ASSERT_EQ(link_->ResetECU(), 0);
+    EXPECT_EQ(link_->Get("mode"), "normal") << end;
+    EXPECT_EQ(link_->Get("channel 1"), "none") << end;
+  }
+}
+
+TEST_F(SessionTest, ParameterAccessSilencesTheBroadcastUntilItEnds) {
+  ConnectAndRead();
+  EXPECT_EQ(link_->Get("broadcast"), "on");
+  OpenParameters();
+  EXPECT_EQ(link_->Get("broadcast"), "off");
+  ASSERT_EQ(Access(0), 0);
+  EXPECT_EQ(link_->Get("broadcast"), "on");
+  ASSERT_EQ(Access(1), 0);
+  link_->Trailer_ABS_KWP_StopSession();
+  EXPECT_EQ(link_->Get("broadcast"), "on");
 }
 
 TEST_F(SessionTest, OpenedAnewAsksForThePasswordAndKeepsTheAccess) {

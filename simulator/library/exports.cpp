@@ -20,7 +20,7 @@ void StayLoaded() {
 }
 #endif
 
-// Lives from the first call until the library is unloaded.
+// Lives until the library is unloaded.
 Library& TheLibrary() {
 #if defined(_WIN32)
   static Library& library = *new Library;

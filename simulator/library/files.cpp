@@ -46,6 +46,11 @@ std::filesystem::path ScenarioPath() { return Variable("LORIMET32_SCENARIO"); }
 
 std::filesystem::path ControlPath() { return Variable("LORIMET32_CONTROL"); }
 
+std::filesystem::path ControlSocketPath() {
+  const std::filesystem::path control = ControlPath();
+  return control.empty() ? control : With(control, ".socket");
+}
+
 std::filesystem::path StatePath() {
   const std::string named = Variable("LORIMET32_STATE");
   if (named == "none") return {};
@@ -61,7 +66,20 @@ std::filesystem::path StatePath() {
   return base / "norvick-lorimet" / "simulator.state";
 }
 
-void ControlFile::Poll(const std::function<std::string(const std::string&)>& run) {
+std::string AnswerLine(int number, const CommandAnswer& answer) {
+  std::string line = std::to_string(number) + " ";
+  if (!answer.error.empty()) return line + answer.error + "\n";
+  return line + "ok" + (answer.value.empty() ? "" : " " + answer.value) + "\n";
+}
+
+void ControlFile::Append(const char* ending, const std::string& lines) {
+  if (path_.empty() || lines.empty()) return;
+  std::ofstream(With(path_, ending), std::ios::app | std::ios::binary) << lines;
+}
+
+void ControlFile::Complain(const std::string& complaint) { Append(".errors", complaint + "\n"); }
+
+void ControlFile::Poll(const std::function<CommandAnswer(const std::string&)>& run) {
   if (path_.empty()) return;
   std::error_code error;
   const auto size = std::filesystem::file_size(path_, error);
@@ -69,17 +87,17 @@ void ControlFile::Poll(const std::function<std::string(const std::string&)>& run
   if (size < offset_) offset_ = 0;  // begun anew
   const auto text = ReadWholeFile(path_);
   if (!text) return;
-  bool any = false;
+  std::string answers;
   for (std::size_t end = 0; (end = text->find('\n', offset_)) != std::string::npos;) {
-    const std::string complaint = run(text->substr(offset_, end - offset_));
+    const CommandAnswer answer = run(text->substr(offset_, end - offset_));
     offset_ = end + 1;
     ++lines_;
-    any = true;
-    if (complaint.empty()) continue;
-    std::ofstream errors(With(path_, ".errors"), std::ios::app);
-    errors << "line " << lines_ << ": " << complaint << '\n';
+    answers += AnswerLine(lines_, answer);
+    if (!answer.error.empty()) Complain("line " + std::to_string(lines_) + ": " + answer.error);
   }
-  if (any) ReplaceFile(With(path_, ".done"), std::to_string(lines_) + "\n");
+  if (answers.empty()) return;
+  Append(".answers", answers);
+  ReplaceFile(With(path_, ".done"), std::to_string(lines_) + "\n");
 }
 
 }  // namespace lorimet::simulator

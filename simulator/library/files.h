@@ -22,17 +22,31 @@ std::filesystem::path ScenarioPath();
 std::filesystem::path StatePath();
 // LORIMET32_CONTROL; empty for none.
 std::filesystem::path ControlPath();
+// The socket beside it; empty for none.
+std::filesystem::path ControlSocketPath();
+
+// The answer to one command.
+struct CommandAnswer {
+  std::string value;  // what it tells
+  std::string error;  // empty, or what is wrong
+};
+// "3 ok", "3 ok 112.4" or "3 unknown command 'fly'".
+std::string AnswerLine(int number, const CommandAnswer& answer);
 
 // Follows a file to which commands are appended, and hands out each whole line once.
 class ControlFile {
  public:
   explicit ControlFile(std::filesystem::path path) : path_(std::move(path)) {}
 
-  // run: carries out a line and returns what is wrong with it, or an empty text. The number of
-  // lines done goes to PATH.done, complaints are appended to PATH.errors.
-  void Poll(const std::function<std::string(const std::string&)>& run);
+  // run: carries out a line. Each is answered by a line in PATH.answers, complaints go to
+  // PATH.errors too, and the number of lines done to PATH.done.
+  void Poll(const std::function<CommandAnswer(const std::string&)>& run);
+  // A complaint that no line of the file has just brought.
+  void Complain(const std::string& complaint);
 
  private:
+  void Append(const char* ending, const std::string& lines);
+
   std::filesystem::path path_;
   std::size_t offset_ = 0;
   int lines_ = 0;

@@ -30,24 +30,12 @@ Library::Library() : link_(ScenarioText(scenario_path_)) {
     std::this_thread::sleep_for(std::chrono::duration<double>(seconds));
     calling_->lock();
   });
-}
-
-Library::~Library() {
-  End();
-  const std::lock_guard lock(mutex_);
-  KeepState();
-}
-
-void Library::Start() {
-  channel_.Open(link_.Handle());
-  posted_.clear();
-  ending_ = false;
   last_tick_ = std::chrono::steady_clock::now();
   last_control_ = last_tick_;
   thread_ = std::thread([this] { Loop(); });
 }
 
-void Library::End() {
+Library::~Library() {
   {
     const std::lock_guard lock(mutex_);
     ending_ = true;
@@ -55,6 +43,16 @@ void Library::End() {
   }
   wake_.notify_all();
   if (thread_.joinable()) thread_.join();
+  const std::lock_guard lock(mutex_);
+  KeepState();
+}
+
+void Library::SwitchChannel() {
+  posted_.clear();
+  if (link_.Connected())
+    channel_.Open(link_.Handle());
+  else
+    channel_.Close();
 }
 
 void Library::Loop() {
@@ -77,18 +75,26 @@ void Library::Tick(TimePoint now) {
 }
 
 void Library::PollControl() {
-  control_.Poll([this](const std::string& line) { return Run(line); });
+  const auto run = [this](const std::string& line) { return Run(line); };
+  control_.Poll(run);
+  socket_.Poll(run);
+  for (const std::string& complaint : link_.TakeComplaints()) control_.Complain(complaint);
 }
 
-std::string Library::Run(const std::string& line) {
-  if (line != "report" && line != "report\r") return link_.Command(line);
+CommandAnswer Library::Run(const std::string& line) {
+  if (line == "report" || line == "report\r") return Report();
+  Seen seen = link_.Ask(line);
+  return {std::move(seen.value), std::move(seen.error)};
+}
+
+CommandAnswer Library::Report() {
   std::string report;
   for (const std::string_view name : kOperationNames)
     report += std::string(name) + " " + std::to_string(link_.Requests(name)) + "\n";
   for (const std::string& request : link_.Log().Lines()) report += request + "\n";
   std::filesystem::path path = ControlPath();
   path += ".report";
-  return ReplaceFile(path, report) ? "" : "the report cannot be written";
+  return {{}, ReplaceFile(path, report) ? "" : "the report cannot be written"};
 }
 
 void Library::KeepState() {

@@ -1,4 +1,4 @@
-// The link library as it is loaded: one Link in real time, on a thread of its own while connected.
+// The link library as it is loaded: one Link in real time, on a thread of its own.
 #pragma once
 
 #include <chrono>
@@ -9,6 +9,7 @@
 #include <thread>
 #include <vector>
 
+#include "simulator/library/control_socket.h"
 #include "simulator/library/files.h"
 #include "simulator/library/link.h"
 #include "simulator/library/status_channel.h"
@@ -17,15 +18,15 @@ namespace lorimet::simulator {
 
 class Library {
  public:
-  // Reads the scenario and the state that the environment names.
+  // Reads the scenario and the state that the environment names, and starts the trailer's time.
   Library();
   Library(const Library&) = delete;
   Library& operator=(const Library&) = delete;
-  // Ends the thread, if a connection still stands, and keeps the state.
+  // Ends the thread and keeps the state.
   ~Library();
 
-  // Runs an operation. The thread starts with a connection and ends with it: once the call that
-  // ends it has returned, nothing is posted or written any more.
+  // Runs an operation. Once the call that ends a connection has returned, nothing is posted or
+  // written any more.
   template <typename Call>
   std::int32_t Do(Call call) {
     std::unique_lock lock(mutex_);
@@ -35,13 +36,7 @@ class Library {
     const std::int32_t result = call(link_);
     calling_ = nullptr;
     KeepState();
-    if (link_.Connected() == was_connected) return result;
-    if (was_connected) {
-      lock.unlock();
-      End();
-    } else {
-      Start();
-    }
+    if (link_.Connected() != was_connected) SwitchChannel();
     return result;
   }
 
@@ -51,12 +46,12 @@ class Library {
   static constexpr std::chrono::milliseconds kTick{20};
   static constexpr std::chrono::milliseconds kControlPeriod{50};
 
-  void Start();  // with the mutex held
-  void End();    // without
   void Loop();
   void Tick(TimePoint now);  // with the mutex held, as what follows
+  void SwitchChannel();
   void PollControl();
-  std::string Run(const std::string& line);
+  CommandAnswer Run(const std::string& line);
+  CommandAnswer Report();
   void KeepState();
 
   std::mutex mutex_;
@@ -68,6 +63,7 @@ class Library {
   std::filesystem::path scenario_path_ = ScenarioPath();
   std::filesystem::path state_path_ = StatePath();
   ControlFile control_{ControlPath()};
+  ControlSocket socket_{ControlSocketPath()};
   Link link_;
   StatusChannel channel_;
   std::vector<std::int32_t> posted_;  // waits for the thread to send it

@@ -1,16 +1,15 @@
 #include "simulator/library/link.h"
 
-#include <algorithm>
 #include <cmath>
 #include <utility>
 
 #include "simulator/library/error_texts.h"
+#include "simulator/library/files.h"
 #include "simulator/trailer/persistence.h"
+#include "simulator/trailer/time_grid.h"
 
 namespace lorimet::simulator {
 namespace {
-
-constexpr std::int64_t kStep = 10000;  // microseconds
 
 std::int64_t Microseconds(double seconds) { return std::llround(seconds * 1e6); }
 
@@ -32,8 +31,47 @@ bool Link::Restore(std::string_view state) {
 
 std::string Link::State() const { return SaveState(simulation_->trailer, scenario_); }
 
+Seen Link::Ask(std::string_view line) {
+  Seen seen = AskCommand(*simulation_, line);
+  if (seen.error.empty() && simulation_->next_scenario) {
+    const auto text = ReadWholeFile(*simulation_->next_scenario);
+    if (!text) seen.error = "the file '" + *simulation_->next_scenario + "' cannot be read";
+    if (text) seen.error = BuildScenario(*text).error;
+    if (seen.error.empty())
+      TakeNextScenario();
+    else
+      simulation_->next_scenario.reset();
+  }
+  return seen;
+}
+
+std::vector<std::string> Link::TakeComplaints() {
+  return std::exchange(simulation_->complaints, {});
+}
+
+// Pulls the plug and plugs into another trailer, whose file stands in this one's orders.
+void Link::TakeNextScenario() {
+  if (!simulation_->next_scenario) return;
+  const std::string file = *std::exchange(simulation_->next_scenario, std::nullopt);
+  const auto text = ReadWholeFile(file);
+  ScenarioResult built = BuildScenario(text.value_or(""));
+  if (!text || !built.error.empty()) {
+    simulation_->complaints.push_back("scenario: " +
+                                      (text ? built.error : "'" + file + "' cannot be read"));
+    return;
+  }
+  built.simulation->log = simulation_->log;
+  built.simulation->time = simulation_->time;
+  scenario_ = *text;
+  simulation_ = std::move(built.simulation);
+  writer_.Follow(*simulation_);
+  fault_locked_ = false;
+  vehicle_due_ = false;
+}
+
 bool Link::Reachable() const {
-  return !simulation_->failures.Armed(FailureMode::kCableOut) && simulation_->trailer.Answering();
+  return simulation_->adapter.present && !simulation_->failures.Armed(FailureMode::kCableOut) &&
+         simulation_->trailer.Answering();
 }
 
 void Link::Post(std::int32_t status) {
@@ -41,77 +79,114 @@ void Link::Post(std::int32_t status) {
 }
 
 void Link::Advance(double seconds) {
-  std::int64_t left = Microseconds(seconds);
-  while (left > 0) {
-    const std::int64_t step = std::min(left, kStep);
-    Step(step);
-    left -= step;
+  carried_ += Microseconds(seconds);
+  while (carried_ >= kStepMicroseconds) {
+    carried_ -= kStepMicroseconds;
+    Step();
   }
 }
 
-void Link::Step(std::int64_t microseconds) {
-  const double seconds = static_cast<double>(microseconds) / 1e6;
-  Trailer& trailer = simulation_->trailer;
-  trailer.Advance(seconds);
-  if (!connected_) return;
-  bus_.Advance(seconds, Reachable(), trailer.Brake().Demand(), trailer.Supply().Pressure());
-  silence_ += microseconds;
-  until_reading_ -= microseconds;
-  if (until_reading_ <= 0) {
-    until_reading_ += Microseconds(kReadingSeconds);
-    if (Reachable()) Read();
+void Link::Step() {
+  simulation_->time += kStepMicroseconds;
+  simulation_->failures.Step();
+  simulation_->trailer.Step();
+  if (connected_) {
+    connected_for_ += kStepMicroseconds;
+    const Trailer& trailer = simulation_->trailer;
+    const bool broadcast = Reachable() && !trailer.Diagnosis().ParameterAccess();
+    bus_.Advance(kStepSeconds, broadcast, trailer.Line().Pressure(), trailer.Supply().Pressure());
+    StepReading();
+    StepVehicle();
+    StepStaticRead();
+    StepStatuses();
   }
-  StepStaticRead(microseconds);
-  StepStatuses(microseconds);
+  RunDueCommands(*simulation_, connected_ ? std::optional(connected_for_) : std::nullopt);
+  TakeNextScenario();
+}
+
+void Link::StepReading() {
+  silence_ += kStepMicroseconds;
+  until_reading_ -= kStepMicroseconds;
+  if (until_reading_ > 0) return;
+  until_reading_ += Microseconds(kReadingSeconds);
+  if (simulation_->failures.Strike(FailureMode::kCableOut)) return;
+  if (Reachable()) Read();
 }
 
 void Link::Read() {
   silence_ = 0;
+  simulation_->trailer.Diagnosis().NoteReading();
   if (simulation_->failures.Strike(FailureMode::kLostMessage)) {
-    Post(kStatusLostMessage);
+    if (until_lost_ <= 0) {
+      Post(kStatusLostMessage);
+      until_lost_ = Microseconds(kSilenceSeconds);
+    }
     until_healthy_ = Microseconds(kHealthySeconds);
     return;
   }
-  writer_.WriteLive();
-  if (attained_ || simulation_->failures.Armed(FailureMode::kLinkNotAttained)) return;
+  writer_.WriteLive(simulation_->trailer.Read());
+  if (attained_ || simulation_->failures.Strike(FailureMode::kLinkNotAttained)) return;
   attained_ = true;
   if (link_status_ != nullptr) link_status_->bLinkAttained.Store(1);
 }
 
-void Link::StepStatuses(std::int64_t microseconds) {
+// The library tells the vehicle anew when the ECU has been back for a while.
+void Link::StepVehicle() {
+  if (simulation_->trailer.Restarting()) {
+    vehicle_due_ = true;
+    until_vehicle_ = Microseconds(kRepublishSeconds);
+    return;
+  }
+  if (!vehicle_due_ || !static_known_) return;
+  until_vehicle_ -= kStepMicroseconds;
+  if (until_vehicle_ > 0 || !Reachable()) return;
+  vehicle_due_ = false;
+  writer_.WriteVehicle();
+}
+
+void Link::StepStatuses() {
   for (const std::int32_t status : std::exchange(simulation_->statuses, {})) Post(status);
+  until_lost_ -= kStepMicroseconds;
+  forgiven_ -= kStepMicroseconds;
   if (silence_ >= Microseconds(kSilenceSeconds)) {
     until_healthy_ = 0;
-    until_link_error_ -= microseconds;
-    if (until_link_error_ > 0) return;
+    until_link_error_ -= kStepMicroseconds;
+    if (until_link_error_ > 0 || forgiven_ > 0) return;
     until_link_error_ = Microseconds(kSilenceSeconds);
     Post(kStatusLinkError);
     return;
   }
-  if (silence_ > 0) {
-    until_healthy_ -= microseconds;
-    return;
-  }
+  until_healthy_ -= kStepMicroseconds;
+  if (silence_ > 0) return;
   until_link_error_ = 0;
-  until_healthy_ -= microseconds;
   if (until_healthy_ > 0) return;
   until_healthy_ = Microseconds(kHealthySeconds);
   Post(kStatusHealthy);
 }
 
-void Link::StepStaticRead(std::int64_t microseconds) {
+void Link::StepStaticRead() {
   if (!reading_job_) return;
   if (Reachable()) {
-    job_left_ -= microseconds;
+    job_left_ -= kStepMicroseconds;
     job_gives_up_in_ = Microseconds(kStaticGiveUpSeconds);
   } else {
-    job_gives_up_in_ -= microseconds;
+    job_gives_up_in_ -= kStepMicroseconds;
   }
   if (simulation_->failures.Armed(FailureMode::kStaticReadNeverEnds)) return;
   if (job_left_ > 0 && job_gives_up_in_ > 0) return;
   reading_job_ = false;
-  if (job_left_ <= 0) writer_.WriteStatic();
-  writer_.WriteJobDone(-1);
+  if (job_left_ <= 0) {
+    writer_.WriteStatic();
+    static_known_ = true;
+  }
+  writer_.WriteJobDone(1);
+}
+
+// A static read that the failure has held for ever counts as one strike when it is given up.
+void Link::EndStuckRead() {
+  if (reading_job_ && job_left_ <= 0)
+    simulation_->failures.Strike(FailureMode::kStaticReadNeverEnds);
+  reading_job_ = false;
 }
 
 }  // namespace lorimet::simulator

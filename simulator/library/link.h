@@ -16,7 +16,6 @@
 #include "session/ecu_data.h"
 #include "simulator/library/bus_traffic.h"
 #include "simulator/library/record_writer.h"
-#include "simulator/library/request_log.h"
 #include "simulator/trailer/fault_store.h"
 #include "simulator/trailer/scenario.h"
 
@@ -34,6 +33,9 @@ class Link {
   static constexpr double kHealthySeconds = 1.0;  // between statuses of 0
   static constexpr double kStaticReadSeconds = 0.8;
   static constexpr double kStaticGiveUpSeconds = 5;  // with an ECU that stays silent
+  static constexpr double kRepublishSeconds = 0.5;   // from the ECU's return to its test points
+  // How long the silence of an ECU that the library itself has reset is no link error.
+  static constexpr double kResetSilenceSeconds = 5;
 
   // scenario: the text of a scenario file, empty for the default trailer. In a broken one the
   // default trailer stands, and Connect answers kScenarioBroken.
@@ -42,10 +44,17 @@ class Link {
   void SetStatusSink(StatusSink sink) { sink_ = std::move(sink); }
   // By default an operation that does not answer lets virtual time pass.
   void SetWaiter(Waiter waiter) { waiter_ = std::move(waiter); }
+  // Everything happens on a grid of 10 ms; what is less is carried over.
   void Advance(double seconds);
 
-  // One line of the command language; the result is empty or says what is wrong.
-  std::string Command(std::string_view line) { return RunCommand(*simulation_, line); }
+  // One line of the command language: what it tells, or what is wrong with it.
+  Seen Ask(std::string_view line);
+  // The result is empty or says what is wrong.
+  std::string Command(std::string_view line) { return Ask(line).error; }
+  // What `get` tells; empty for a name that it does not know.
+  std::string Get(std::string_view name) { return Ask("get " + std::string(name)).value; }
+  // What was wrong with commands that had waited, since it was last asked for.
+  std::vector<std::string> TakeComplaints();
   const std::string& ScenarioError() const { return scenario_error_; }
   // A scenario that could not be found or read.
   void SetScenarioError(const std::string& error) { scenario_error_ = error; }
@@ -53,8 +62,8 @@ class Link {
   Simulation& World() { return *simulation_; }
   Trailer& TheTrailer() { return simulation_->trailer; }
   FailurePlan& Failures() { return simulation_->failures; }
-  RequestLog& Log() { return log_; }
-  int Requests(std::string_view operation) const { return log_.Requests(operation); }
+  RequestLog& Log() { return simulation_->log; }
+  int Requests(std::string_view operation) const { return simulation_->log.Requests(operation); }
   bool Connected() const { return connected_; }
   // Where the statuses of the connection go: the window, or the pipe, given to Connect.
   std::uint32_t Handle() const { return handle_; }
@@ -115,22 +124,35 @@ class Link {
 
   enum class Reach { kLibrary, kEcu };  // whether a service needs the ECU's answer
 
-  // Counts and notes a request and lets what is armed against every kind of operation strike; the
-  // answer to give in its place, or nothing. `silent` is the answer of one that never comes.
-  std::optional<std::int32_t> Disturb(Operation operation, const std::string& arguments,
+  // Notes a request and lets what is armed against every kind of operation strike; the answer to
+  // give in its place, or nothing. `silent` is the answer of one that never comes.
+  std::optional<std::int32_t> Disturb(const Request& request, const std::string& arguments,
                                       std::int32_t silent);
   // Runs a service with everything that can go wrong around it.
   template <typename Service>
-  std::int32_t Serve(Operation operation, const std::string& arguments, Reach reach,
+  std::int32_t Serve(const Request& request, const std::string& arguments, Reach reach,
                      Service service);
+  template <typename Service>
+  std::int32_t Answer(const Request& request, const std::string& arguments, Reach reach,
+                      Service service);
+  template <typename Service>
+  std::int32_t Serve(Operation operation, const std::string& arguments, Reach reach,
+                     Service service) {
+    return Serve(Request{.operation = operation}, arguments, reach, service);
+  }
   std::int32_t AdapterError(const char* protocol, const char* vendor, std::int32_t device);
-  std::int32_t ReadBlock(std::uint8_t id, std::uint8_t* count, std::uint8_t* data);
+  std::int32_t ReadBlock(const Request& request, std::uint8_t* count, std::uint8_t* data);
+  void Garble(std::span<std::uint8_t> bytes);
   bool Reachable() const;
   void Post(std::int32_t status);
-  void Step(std::int64_t microseconds);
+  void Step();
+  void StepReading();
   void Read();
-  void StepStatuses(std::int64_t microseconds);
-  void StepStaticRead(std::int64_t microseconds);
+  void StepVehicle();
+  void StepStatuses();
+  void StepStaticRead();
+  void EndStuckRead();
+  void TakeNextScenario();
 
   std::string scenario_;
   std::string scenario_error_;
@@ -138,20 +160,29 @@ class Link {
   StatusSink sink_;
   Waiter waiter_;
   RecordWriter writer_;
-  RequestLog log_;
   BusTraffic bus_;
 
   bool connected_ = false;
   bool attained_ = false;
   std::uint32_t handle_ = 0;
   LinkStatus* link_status_ = nullptr;
-  std::int64_t until_reading_ = 0;  // microseconds, as all that follow
+  std::int64_t carried_ = 0;  // microseconds, as all that follow
+  std::int64_t connected_for_ = 0;
+  std::int64_t until_reading_ = 0;
   std::int64_t silence_ = 0;
   std::int64_t until_link_error_ = 0;
   std::int64_t until_healthy_ = 0;
+  std::int64_t until_lost_ = 0;  // until another lost message may be told
+  std::int64_t forgiven_ = 0;    // of a silence that the library has caused
+  std::int64_t until_vehicle_ = 0;
+  bool vehicle_due_ = false;  // the ECU has started anew since its vehicle was told
+  bool static_known_ = false;
   bool reading_job_ = false;
   std::int64_t job_left_ = 0;
   std::int64_t job_gives_up_in_ = 0;
+  std::vector<std::uint8_t> last_block_;  // the answers before, for an ECU that repeats itself
+  std::uint16_t last_word_ = 0;
+  std::uint64_t garbled_ = 0;
 
   bool fault_locked_ = false;
   std::vector<Fault> locked_faults_;  // as they were at the lock

@@ -1,8 +1,9 @@
 #include "simulator/library/link.h"
 
 #include <algorithm>
-#include <cstdio>
+#include <charconv>
 #include <cstring>
+#include <iterator>
 
 #include "simulator/library/error_texts.h"
 
@@ -28,6 +29,23 @@ void PutText(char* buffer, std::size_t room, std::string_view text) {
   if (buffer != nullptr) std::memcpy(buffer, text.data(), std::min(text.size(), room));
 }
 
+// Replaces a text in a buffer of the contract's least size, its NUL included.
+void PutWhole(char* buffer, std::string_view text) {
+  constexpr std::size_t kLeastBuffer = 1024;
+  if (buffer == nullptr) return;
+  const std::size_t size = std::min(text.size(), kLeastBuffer - 1);
+  std::memcpy(buffer, text.data(), size);
+  buffer[size] = '\0';
+}
+
+// Seconds with three decimals, with a decimal point in every locale.
+std::string Seconds(double seconds) {
+  char digits[32];
+  const auto [end, error] =
+      std::to_chars(digits, std::end(digits), seconds, std::chars_format::fixed, 3);
+  return {digits, end};
+}
+
 void PutInt(std::uint8_t* at, std::int32_t value) { std::memcpy(at, &value, sizeof value); }
 
 template <typename Record>
@@ -38,10 +56,10 @@ Record* Aligned(void* address) {
 
 }  // namespace
 
-std::optional<std::int32_t> Link::Disturb(Operation operation, const std::string& arguments,
+std::optional<std::int32_t> Link::Disturb(const Request& request, const std::string& arguments,
                                           std::int32_t silent) {
-  log_.Count(operation);
-  log_.Note(operation, arguments);
+  simulation_->log.Note(*request.operation, arguments);
+  simulation_->schedule.NoteRequest(request);
   FailurePlan& failures = simulation_->failures;
   const auto wait = [&](double seconds) {
     if (waiter_)
@@ -49,25 +67,43 @@ std::optional<std::int32_t> Link::Disturb(Operation operation, const std::string
     else
       Advance(seconds);
   };
-  if (const auto failure = failures.Strike(FailureMode::kNeverAnswer, operation)) {
+  if (const auto failure = failures.Strike(FailureMode::kNeverAnswer, request)) {
     wait(failure->value > 0 ? failure->value : 2);
     return silent;
   }
-  if (const auto failure = failures.Strike(FailureMode::kAnswerLate, operation))
+  if (const auto failure = failures.Strike(FailureMode::kAnswerLate, request))
     wait(failure->value > 0 ? failure->value : 0.5);
-  if (const auto failure = failures.Strike(FailureMode::kRefuse, operation))
+  if (const auto failure = simulation_->failures.Strike(FailureMode::kRefuse, request))
     return failure->value != 0 ? static_cast<std::int32_t>(failure->value) : kRejected;
   return std::nullopt;
 }
 
 template <typename Service>
-std::int32_t Link::Serve(Operation operation, const std::string& arguments, Reach reach,
-                         Service service) {
-  if (const auto disturbed = Disturb(operation, arguments, kNoAnswer)) return *disturbed;
+std::int32_t Link::Answer(const Request& request, const std::string& arguments, Reach reach,
+                          Service service) {
+  if (const auto disturbed = Disturb(request, arguments, kNoAnswer)) return *disturbed;
   if (!connected_) return kInvalidClient;
-  if (reach == Reach::kEcu && simulation_->failures.Armed(FailureMode::kCableOut)) return kNoAnswer;
-  if (reach == Reach::kEcu && !simulation_->trailer.Answering()) return kBusy;
-  return service();
+  FailurePlan& failures = simulation_->failures;
+  if (const auto lost = failures.Strike(FailureMode::kCableOutAt, request))
+    failures.Arm({.mode = FailureMode::kCableOut, .steps = lost->steps});
+  if (reach == Reach::kEcu) {
+    if (failures.Strike(FailureMode::kCableOut, request)) return kNoAnswer;
+    if (!simulation_->adapter.present || !simulation_->trailer.Powered()) return kNoAnswer;
+    if (simulation_->trailer.Restarting()) return kBusy;
+  }
+  const std::int32_t status = service();
+  if (const auto failure = simulation_->failures.Strike(FailureMode::kAnswerStatus, request))
+    return failure->value != 0 ? static_cast<std::int32_t>(failure->value) : kNoAnswer;
+  return status;
+}
+
+template <typename Service>
+std::int32_t Link::Serve(const Request& request, const std::string& arguments, Reach reach,
+                         Service service) {
+  const std::int32_t status = Answer(request, arguments, reach, service);
+  if (const auto failure = simulation_->failures.Strike(FailureMode::kStatusAfter, request))
+    Post(failure->value != 0 ? static_cast<std::int32_t>(failure->value) : kStatusLinkError);
+  return status;
 }
 
 // --- Connection ---------------------------------------------------------------------------------
@@ -78,7 +114,7 @@ std::int32_t Link::AdapterError(const char* protocol, const char* vendor, std::i
   if (!scenario_error_.empty()) return kScenarioBroken;
   if (const auto failure = failures.Strike(FailureMode::kConnectAnswers))
     return static_cast<std::int32_t>(failure->value);
-  if (failures.Strike(FailureMode::kNoAdapter)) return kHardwareSilent;
+  if (!demands.present || failures.Strike(FailureMode::kNoAdapter)) return kHardwareSilent;
   if (failures.Strike(FailureMode::kWrongVendor)) return kNotInitialised;
   if (failures.Strike(FailureMode::kWrongDevice)) return kInvalidDevice;
   if (failures.Strike(FailureMode::kWrongProtocol)) return kInvalidProtocol;
@@ -94,13 +130,12 @@ std::int32_t Link::Connect(char* protocol, std::uint32_t hWnd, char* vendor, std
                            std::uint32_t*) {
   const std::string arguments = Quoted(protocol) + ", " + Quoted(vendor) + ", " +
                                 std::to_string(deviceId) + ", " + std::to_string(family);
-  if (const auto disturbed = Disturb(Operation::Connect, arguments, kHardwareSilent))
+  if (const auto disturbed =
+          Disturb(Request{.operation = Operation::Connect}, arguments, kHardwareSilent))
     return *disturbed == kRejected ? kHardwareSilent : *disturbed;
   const std::int32_t result = AdapterError(protocol, vendor, deviceId);
-  if (simulation_->answered_vendor && vendor != nullptr)
-    std::strcpy(vendor, simulation_->answered_vendor->c_str());
-  if (simulation_->answered_protocol && protocol != nullptr)
-    std::strcpy(protocol, simulation_->answered_protocol->c_str());
+  if (simulation_->answered_vendor) PutWhole(vendor, *simulation_->answered_vendor);
+  if (simulation_->answered_protocol) PutWhole(protocol, *simulation_->answered_protocol);
   if (result < 0 || result > 127) return result;
   connected_ = true;
   attained_ = false;
@@ -109,17 +144,22 @@ std::int32_t Link::Connect(char* protocol, std::uint32_t hWnd, char* vendor, std
   if (link_status_ != nullptr) link_status_->bLinkAttained.Store(0);
   writer_.Attach(Aligned<ECUData>(ecuData));
   writer_.WriteNothingKnown();
+  connected_for_ = 0;
   until_reading_ = static_cast<std::int64_t>(kFirstReadingSeconds * 1e6);
   silence_ = 0;
   until_link_error_ = 0;
   until_healthy_ = 0;
+  until_lost_ = 0;
+  forgiven_ = 0;
+  vehicle_due_ = false;
+  static_known_ = false;
   return result;
 }
 
 std::int32_t Link::Disconnect() {
   return Serve(Operation::Disconnect, "", Reach::kLibrary, [&] {
     connected_ = false;
-    reading_job_ = false;
+    EndStuckRead();
     fault_locked_ = false;
     link_status_ = nullptr;
     writer_.Attach(nullptr);
@@ -129,8 +169,8 @@ std::int32_t Link::Disconnect() {
 }
 
 std::int32_t Link::GetErrorText(std::int32_t code, char* buffer, std::int32_t length) {
-  log_.Count(Operation::GetErrorText);
-  log_.Note(Operation::GetErrorText, std::to_string(code) + ", " + std::to_string(length));
+  simulation_->log.Note(Operation::GetErrorText,
+                        std::to_string(code) + ", " + std::to_string(length));
   if (buffer == nullptr || length <= 0) return kDone;
   const auto room = static_cast<std::size_t>(length);
   FailurePlan& failures = simulation_->failures;
@@ -157,12 +197,14 @@ std::int32_t Link::ResetECU() {
     if (simulation_->failures.Strike(FailureMode::kResetRefused)) return kConditionsNotCorrect;
     simulation_->trailer.Reset();
     fault_locked_ = false;
+    forgiven_ = static_cast<std::int64_t>(kResetSilenceSeconds * 1e6);
     return kDone;
   });
 }
 
 std::int32_t Link::Trailer_ABS_QOR_ReadStaticData() {
   return Serve(Operation::Trailer_ABS_QOR_ReadStaticData, "", Reach::kLibrary, [&] {
+    EndStuckRead();
     reading_job_ = true;
     job_left_ = static_cast<std::int64_t>(kStaticReadSeconds * 1e6);
     job_gives_up_in_ = static_cast<std::int64_t>(kStaticGiveUpSeconds * 1e6);
@@ -196,7 +238,8 @@ std::int32_t Link::FaultLock() {
 std::int32_t Link::FaultGetCount() {
   told_faults_ = 0;
   // An answer that never comes counts nothing.
-  if (const auto disturbed = Disturb(Operation::FaultGetCount, "", 0)) return *disturbed;
+  if (const auto disturbed = Disturb(Request{.operation = Operation::FaultGetCount}, "", 0))
+    return *disturbed;
   if (!connected_) return 0;
   const auto held = static_cast<std::int32_t>(fault_locked_ ? locked_faults_.size() : 0);
   const auto failure = simulation_->failures.Strike(FailureMode::kFaultCountIs);
@@ -257,11 +300,9 @@ std::int32_t Link::BusMonitorGetData(char* text, char* timing, std::int32_t show
     if (!bus_.IsOpen()) return kConditionsNotCorrect;
     if (!bus_.Take(message)) return kDone;
     PutText(text, kMonitorText, message.text);
-    char words[64] = "";
-    if (showIdleTime != 0 && showTimestamp != 0)
-      std::snprintf(words, sizeof words, " %.3f %.3f", message.idle, message.time);
-    else if (showIdleTime != 0 || showTimestamp != 0)
-      std::snprintf(words, sizeof words, " %.3f", showIdleTime != 0 ? message.idle : message.time);
+    std::string words;
+    if (showIdleTime != 0) words += " " + Seconds(message.idle);
+    if (showTimestamp != 0) words += " " + Seconds(message.time);
     PutText(timing, kMonitorTiming, words);
     return kDone;
   });
@@ -281,7 +322,7 @@ std::int32_t Link::BusMonitorStopRecord() {
 
 std::int32_t Link::Trailer_ABS_QOR_DeleteODRData(std::uint8_t selector) {
   return Serve(Operation::Trailer_ABS_QOR_DeleteODRData, HexByte(selector), Reach::kEcu,
-               [] { return kCommandNotSupported; });
+               [&] { return simulation_->trailer.DeleteRecorderData(selector); });
 }
 
 std::int32_t Link::Trailer_OVG_UploadData(char* text) {
@@ -328,10 +369,14 @@ std::int32_t Link::Trailer_ABS_KWP_SwitchDiagMode(std::uint8_t mode) {
 std::int32_t Link::Trailer_ABS_KWP_StartRoutineByLocId(std::uint8_t id, std::uint8_t count,
                                                        std::uint8_t* data) {
   constexpr std::uint8_t kFinish = 0x05;
+  constexpr std::uint8_t kSetPressure = 0x06;
+  constexpr std::uint8_t kSelectBrakeMode = 0x37;
   const auto bytes = Bytes(data, count);
-  return Serve(Operation::Trailer_ABS_KWP_StartRoutineByLocId,
-               HexByte(id) + ", " + std::to_string(count) + ", " + HexBytes(bytes), Reach::kEcu,
-               [&]() -> Status {
+  Request request{.operation = Operation::Trailer_ABS_KWP_StartRoutineByLocId, .routine = id};
+  if (id == kSetPressure && !bytes.empty()) request.channel = bytes[0];
+  if (id == kSelectBrakeMode && bytes.size() > 2) request.mode = bytes[2];
+  return Serve(request, HexByte(id) + ", " + std::to_string(count) + ", " + HexBytes(bytes),
+               Reach::kEcu, [&]() -> Status {
                  Trailer& trailer = simulation_->trailer;
                  if (id == kFinish && simulation_->failures.Strike(FailureMode::kChecksumsFail))
                    return trailer.Diagnosis().Permit(false);
@@ -342,13 +387,12 @@ std::int32_t Link::Trailer_ABS_KWP_StartRoutineByLocId(std::uint8_t id, std::uin
 std::int32_t Link::Trailer_ABS_KWP_WriteMemoryByLocId(std::uint8_t id, std::uint8_t count,
                                                       std::uint8_t* data) {
   const auto bytes = Bytes(data, count);
-  return Serve(Operation::Trailer_ABS_KWP_WriteMemoryByLocId,
-               HexByte(id) + ", " + std::to_string(count) + ", " + HexBytes(bytes), Reach::kEcu,
-               [&]() -> Status {
+  const Request request{.operation = Operation::Trailer_ABS_KWP_WriteMemoryByLocId, .block = id};
+  return Serve(request, HexByte(id) + ", " + std::to_string(count) + ", " + HexBytes(bytes),
+               Reach::kEcu, [&]() -> Status {
                  FailurePlan& failures = simulation_->failures;
-                 if (failures.Strike(FailureMode::kWriteRefused, std::nullopt, id))
-                   return kRejected;
-                 if (failures.Strike(FailureMode::kWriteDropped, std::nullopt, id)) return kDone;
+                 if (failures.Strike(FailureMode::kWriteRefused, request)) return kRejected;
+                 if (failures.Strike(FailureMode::kWriteDropped, request)) return kDone;
                  return simulation_->trailer.WriteBlock(id, bytes);
                });
 }
@@ -357,22 +401,34 @@ std::int32_t Link::Trailer_ABS_KWP_WriteMemoryByAddress(std::uint8_t high, std::
                                                         std::uint8_t low, std::uint8_t count,
                                                         std::uint8_t* data) {
   const auto bytes = Bytes(data, count);
-  return Serve(Operation::Trailer_ABS_KWP_WriteMemoryByAddress,
+  const std::uint32_t address = Address(high, middle, low);
+  const Request request{.operation = Operation::Trailer_ABS_KWP_WriteMemoryByAddress,
+                        .address = address};
+  return Serve(request,
                HexByte(high) + ", " + HexByte(middle) + ", " + HexByte(low) + ", " +
                    std::to_string(count) + ", " + HexBytes(bytes),
-               Reach::kEcu,
-               [&] { return simulation_->trailer.WriteWord(Address(high, middle, low), bytes); });
+               Reach::kEcu, [&] { return simulation_->trailer.WriteWord(address, bytes); });
 }
 
 std::int32_t Link::Trailer_ABS_KWP_ReadMemoryByAddress(std::uint8_t high, std::uint8_t middle,
                                                        std::uint8_t low, std::uint8_t* wordHigh,
                                                        std::uint8_t* wordLow) {
-  return Serve(Operation::Trailer_ABS_KWP_ReadMemoryByAddress,
-               HexByte(high) + ", " + HexByte(middle) + ", " + HexByte(low), Reach::kEcu, [&] {
-                 const std::uint16_t word =
-                     simulation_->trailer.ReadWord(Address(high, middle, low));
-                 if (wordHigh != nullptr) *wordHigh = static_cast<std::uint8_t>(word >> 8);
-                 if (wordLow != nullptr) *wordLow = static_cast<std::uint8_t>(word & 0xFF);
+  const std::uint32_t address = Address(high, middle, low);
+  const Request request{.operation = Operation::Trailer_ABS_KWP_ReadMemoryByAddress,
+                        .address = address};
+  return Serve(request, HexByte(high) + ", " + HexByte(middle) + ", " + HexByte(low), Reach::kEcu,
+               [&]() -> Status {
+                 FailurePlan& failures = simulation_->failures;
+                 if (failures.Strike(FailureMode::kReadRefused, request)) return kRejected;
+                 const std::uint16_t word = simulation_->trailer.ReadWord(address);
+                 const bool stale = failures.Strike(FailureMode::kAnswerStale, request).has_value();
+                 const std::uint16_t told = stale ? last_word_ : word;
+                 std::uint8_t bytes[] = {static_cast<std::uint8_t>(told >> 8),
+                                         static_cast<std::uint8_t>(told & 0xFF)};
+                 if (failures.Strike(FailureMode::kAnswerGarbage, request)) Garble(bytes);
+                 last_word_ = word;
+                 if (wordHigh != nullptr) *wordHigh = bytes[0];
+                 if (wordLow != nullptr) *wordLow = bytes[1];
                  return kDone;
                });
 }
@@ -381,44 +437,64 @@ std::int32_t Link::Trailer_ABS_KWP_IOControlByLocId(std::uint8_t id, std::uint8_
                                                     std::uint8_t* data) {
   // The buffer takes the answer, which is longer than the request's count.
   constexpr std::size_t kAnswer = 4;
-  return Serve(Operation::Trailer_ABS_KWP_IOControlByLocId,
+  const Request request{.operation = Operation::Trailer_ABS_KWP_IOControlByLocId};
+  return Serve(request,
                HexByte(id) + ", " + std::to_string(count) + ", " + HexBytes(Bytes(data, count)),
                Reach::kEcu, [&]() -> Status {
+                 FailurePlan& failures = simulation_->failures;
                  if (data == nullptr) return kSubfunctionNotSupported;
-                 return simulation_->trailer.IoControl(id, std::span(data, kAnswer));
+                 if (failures.Strike(FailureMode::kIoControlShort, request))
+                   return simulation_->trailer.Diagnosis().Permit(false);
+                 const Status status = simulation_->trailer.IoControl(id, std::span(data, kAnswer));
+                 if (const auto failure = failures.Strike(FailureMode::kIoControlStatus, request))
+                   return failure->value != 0 ? static_cast<Status>(failure->value) : kNoAnswer;
+                 return status;
                });
 }
 
-std::int32_t Link::ReadBlock(std::uint8_t id, std::uint8_t* count, std::uint8_t* data) {
+void Link::Garble(std::span<std::uint8_t> bytes) {
+  const Noise& noise = simulation_->trailer.Measuring();
+  for (std::uint8_t& byte : bytes)
+    byte = static_cast<std::uint8_t>(noise.Bits(NoiseField::kGarbage, ++garbled_) & 0xFF);
+}
+
+std::int32_t Link::ReadBlock(const Request& request, std::uint8_t* count, std::uint8_t* data) {
   FailurePlan& failures = simulation_->failures;
+  const auto id = static_cast<std::uint8_t>(*request.block);
   if (count == nullptr || data == nullptr) return kSubfunctionNotSupported;
-  if (failures.Strike(FailureMode::kReadRefused, std::nullopt, id)) return kRejected;
+  if (failures.Strike(FailureMode::kReadRefused, request)) return kRejected;
   std::uint8_t asked = id;
-  if (const auto failure = failures.Strike(FailureMode::kOtherBlock, std::nullopt, id))
+  if (const auto failure = failures.Strike(FailureMode::kOtherBlock, request))
     asked = failure->value != 0 ? static_cast<std::uint8_t>(failure->value) : kEol7;
   std::vector<std::uint8_t> bytes;
   const Status status = simulation_->trailer.ReadBlock(asked, bytes);
   if (status != kDone) return status;
-  if (const auto failure = failures.Strike(FailureMode::kAnswerShort, std::nullopt, id)) {
+  const bool stale = failures.Strike(FailureMode::kAnswerStale, request).has_value();
+  if (stale) std::swap(bytes, last_block_);
+  if (!stale) last_block_ = bytes;
+  if (failures.Strike(FailureMode::kAnswerGarbage, request)) Garble(bytes);
+  if (const auto failure = failures.Strike(FailureMode::kAnswerShort, request)) {
     const auto wanted = static_cast<std::size_t>(failure->value);
     bytes.resize(std::min(bytes.size(), failure->value != 0 ? wanted : bytes.size() / 2));
   }
-  if (failures.Strike(FailureMode::kAnswerLong, std::nullopt, id)) bytes.resize(kReadBuffer, 0xEE);
+  if (failures.Strike(FailureMode::kAnswerLong, request)) bytes.resize(kReadBuffer, 0xEE);
   std::copy(bytes.begin(), bytes.end(), data);
   *count = static_cast<std::uint8_t>(std::min<std::size_t>(bytes.size(), 255));
+  // The library learns the vehicle from these parameters, too.
+  if (bytes == simulation_->trailer.Parameters().Read(kEol1)) writer_.WriteVehicleAndSystem();
   return kDone;
 }
 
 std::int32_t Link::Trailer_OVG_ReadDataByLocId(std::uint8_t id, std::uint8_t* count,
                                                std::uint8_t* data) {
-  return Serve(Operation::Trailer_OVG_ReadDataByLocId, HexByte(id), Reach::kEcu,
-               [&] { return ReadBlock(id, count, data); });
+  const Request request{.operation = Operation::Trailer_OVG_ReadDataByLocId, .block = id};
+  return Serve(request, HexByte(id), Reach::kEcu, [&] { return ReadBlock(request, count, data); });
 }
 
 std::int32_t Link::Trailer_OVG_StopLightActivation(std::int32_t trailer, std::int32_t state) {
   return Serve(Operation::Trailer_OVG_StopLightActivation,
                std::to_string(trailer) + ", " + std::to_string(state), Reach::kEcu, [&] {
-                 simulation_->trailer.SetStopLight(state != 0);
+                 simulation_->trailer.ActivateStopLights(trailer, state);
                  return kDone;
                });
 }

@@ -13,31 +13,43 @@ void RecordWriter::WriteNothingKnown() {
     nothing.Set(field.name, "none");
     for (int i = 0; i < field.count; ++i) StoreField(known_, field, i, *nothing.Get(field, i));
   }
-  Publish(FieldGroup::kLive);
-  Publish(FieldGroup::kStatic);
+  for (const FieldGroup group :
+       {FieldGroup::kLive, FieldGroup::kIdentity, FieldGroup::kSystem, FieldGroup::kVehicle})
+    Publish(group);
 }
 
-void RecordWriter::WriteLive() {
-  FillLive();
+void RecordWriter::WriteLive(const LiveValues& live) {
+  FillLive(live);
   Publish(FieldGroup::kLive);
   PublishOverrides();
 }
 
 void RecordWriter::WriteStatic() {
-  FillStatic();
-  Publish(FieldGroup::kStatic);
+  FillIdentity();
+  Publish(FieldGroup::kIdentity);
+  WriteVehicleAndSystem();
+}
+
+void RecordWriter::WriteVehicle() {
+  FillVehicle();
+  Publish(FieldGroup::kVehicle);
+}
+
+void RecordWriter::WriteVehicleAndSystem() {
+  FillSystem();
+  Publish(FieldGroup::kSystem);
+  WriteVehicle();
 }
 
 void RecordWriter::WriteJobDone(std::int16_t value) {
   if (record_ == nullptr) return;
   const RecordField& field = *FindField("nLinkJobDone");
   known_.nLinkJobDone.Store(value);
-  const auto override = simulation_.fields.Get(field, 0);
+  const auto override = simulation_->fields.Get(field, 0);
   StoreField(*record_, field, 0, override ? *override : LoadField(known_, field, 0));
 }
 
-void RecordWriter::FillLive() {
-  const LiveValues live = simulation_.trailer.Live();
+void RecordWriter::FillLive(const LiveValues& live) {
   known_.dPrimaryVolts.Store(live.primary_volts);
   known_.dVoltageSource.Store(live.voltage_source);
   for (std::size_t i = 0; i < live.wheel_speed.size(); ++i)
@@ -55,11 +67,15 @@ void RecordWriter::FillLive() {
   known_.bNumFaults.Store(static_cast<std::uint8_t>(std::min(live.faults, 255)));
 }
 
-void RecordWriter::FillStatic() {
-  const VehicleParameters vehicle = simulation_.trailer.Vehicle();
+void RecordWriter::FillSystem() {
+  const VehicleParameters vehicle = simulation_->trailer.Vehicle();
   const auto system = SystemByParameterCode(vehicle.SystemCode());
   known_.bNumSensors.Store(system ? static_cast<std::uint8_t>(FactsOf(*system).sensors) : 0);
   known_.bNumModulators.Store(system ? FactsOf(*system).modulators : 0);
+}
+
+void RecordWriter::FillVehicle() {
+  const VehicleParameters vehicle = simulation_->trailer.Vehicle();
   known_.dControlPressure1.Store(vehicle.Control(0) * kPsiPerCount);
   known_.dControlPressure2.Store(vehicle.Control(1) * kPsiPerCount);
   known_.dTargetPressure1.Store(vehicle.LadenBraking(0) * kPsiPerCount);
@@ -78,14 +94,14 @@ void RecordWriter::FillStatic() {
     known_.nAxleFlag[axle].Store(vehicle.Flag(a) ? 1 : 0);
     known_.nAxleSensors[axle].Store(static_cast<std::int16_t>(vehicle.Sensors(a)));
   }
-  known_.VehicleId.Store(vehicle.VehicleId());
-  known_.Manufacturer.Store(vehicle.Manufacturer());
-  known_.TrailerType.Store(vehicle.TrailerType());
-  FillIdentity();
 }
 
 void RecordWriter::FillIdentity() {
-  const Identity& identity = simulation_.trailer.Ident();
+  const VehicleParameters vehicle = simulation_->trailer.Vehicle();
+  known_.VehicleId.Store(vehicle.VehicleId());
+  known_.Manufacturer.Store(vehicle.Manufacturer());
+  known_.TrailerType.Store(vehicle.TrailerType());
+  const Identity& identity = simulation_->trailer.Ident();
   known_.PartNum.Store(identity.part_number);
   known_.MfgDate.Store(identity.production_date);
   known_.SWRev.Store(identity.software);
@@ -99,7 +115,7 @@ void RecordWriter::Publish(FieldGroup group) {
   for (const RecordField& field : RecordFields()) {
     if (field.group != group) continue;
     for (int i = 0; i < field.count; ++i) {
-      const auto override = simulation_.fields.Get(field, i);
+      const auto override = simulation_->fields.Get(field, i);
       StoreField(*record_, field, i, override ? *override : LoadField(known_, field, i));
     }
   }
@@ -109,7 +125,7 @@ void RecordWriter::PublishOverrides() {
   if (record_ == nullptr) return;
   for (const RecordField& field : RecordFields())
     for (int i = 0; i < field.count; ++i)
-      if (const auto override = simulation_.fields.Get(field, i))
+      if (const auto override = simulation_->fields.Get(field, i))
         StoreField(*record_, field, i, *override);
 }
 

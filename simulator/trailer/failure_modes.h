@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "simulator/trailer/operations.h"
+#include "simulator/trailer/request.h"
 
 namespace lorimet::simulator {
 
@@ -41,15 +41,18 @@ enum class FailureMode {
   kFaultReadRefused,
   kFaultCountIs,
   kFaultRecordsShort,
+  kAnswerStatus,
+  kAnswerStale,
+  kAnswerGarbage,
+  kCableOutAt,
+  kStatusAfter,
+  kIoControlShort,
+  kIoControlStatus,
 };
-
-// What narrows a failure down, and what else it needs to be told.
-enum class FailureTarget { kNone, kOperation, kBlock, kValue };
 
 struct FailureFacts {
   FailureMode mode;
   std::string_view name;
-  FailureTarget target;
   std::string_view meaning;
 };
 
@@ -62,10 +65,11 @@ constexpr int kAlways = -1;
 
 struct Failure {
   FailureMode mode = FailureMode::kRefuse;
-  std::optional<Operation> operation = {};  // nothing: every operation
-  std::optional<int> block = {};            // a local identifier; nothing: every block
-  double value = 0;     // what the mode's meaning says; 0: the mode's own default
-  int times = kAlways;  // how often it strikes
+  RequestFilter only = {};  // the requests that it strikes; empty: every one of its kind
+  double value = 0;         // what the mode's meaning says; 0: the mode's own default
+  int times = kAlways;      // how often it strikes
+  int skip = 0;             // how often it lets pass before
+  int steps = kAlways;      // of the time grid, until it is over by itself
 };
 
 class FailurePlan {
@@ -73,11 +77,12 @@ class FailurePlan {
   void Arm(const Failure& failure) { armed_.push_back(failure); }
   void Heal(FailureMode mode);
   void HealAll() { armed_.clear(); }
+  // Ends those whose time is over.
+  void Step();
 
   // The first armed failure of that mode that fits, counted as one strike; nothing when none does.
-  std::optional<Failure> Strike(FailureMode mode, std::optional<Operation> operation = std::nullopt,
-                                std::optional<int> block = std::nullopt);
-  // Whether one is armed; no strike.
+  std::optional<Failure> Strike(FailureMode mode, const Request& request = {});
+  // Whether one is armed that strikes whatever is asked for; no strike.
   bool Armed(FailureMode mode) const;
 
  private:

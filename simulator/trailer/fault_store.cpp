@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "simulator/trailer/time_grid.h"
+
 namespace lorimet::simulator {
 namespace {
 
@@ -41,6 +43,26 @@ void FaultStore::Heal(std::int32_t sid, std::int32_t fmi) {
   if (at != faults_.end() && at->status == kFaultActive) at->status = kFaultStored;
 }
 
+void FaultStore::Raise(std::int32_t sid, std::int32_t fmi) {
+  const auto at = Find(faults_, sid, fmi);
+  if (at == faults_.end()) {
+    faults_.push_back({sid, fmi, kFaultActive, 1});
+  } else {
+    if (at->status == kFaultActive) return;
+    at->status = kFaultActive;
+    if (at->times > 0) ++at->times;
+  }
+  ++revision_;
+}
+
+void FaultStore::Lower(std::int32_t sid, std::int32_t fmi) {
+  const auto at = Find(faults_, sid, fmi);
+  if (at == faults_.end() || at->status != kFaultActive) return;
+  if (Find(causes_, sid, fmi) != causes_.end()) return;
+  at->status = kFaultStored;
+  ++revision_;
+}
+
 void FaultStore::Remove(std::int32_t sid, std::int32_t fmi) {
   ++revision_;
   Erase(causes_, sid, fmi);
@@ -50,15 +72,13 @@ void FaultStore::Remove(std::int32_t sid, std::int32_t fmi) {
 void FaultStore::Clear() {
   ++revision_;
   faults_.clear();
-  detect_in_ = kDetectSeconds;
+  detect_in_ = StepsIn(kDetectSeconds);
 }
 
 void FaultStore::Restart() { Detect(); }
 
-void FaultStore::Advance(double seconds) {
-  if (detect_in_ <= 0) return;
-  detect_in_ -= seconds;
-  if (detect_in_ <= 0) Detect();
+void FaultStore::Step() {
+  if (detect_in_ > 0 && --detect_in_ == 0) Detect();
 }
 
 void FaultStore::Restore(const std::vector<Fault>& faults) {

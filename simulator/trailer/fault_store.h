@@ -26,13 +26,18 @@ class FaultStore {
   void Set(const Fault& fault);
   // The cause is gone: an active fault becomes stored.
   void Heal(std::int32_t sid, std::int32_t fmi);
+  // A cause that the ECU has found by itself: the fault is active, and counts one more when it was
+  // there already.
+  void Raise(std::int32_t sid, std::int32_t fmi);
+  // That cause is gone: the fault is stored, unless somebody else has made it active.
+  void Lower(std::int32_t sid, std::int32_t fmi);
   // The fault and its cause vanish.
   void Remove(std::int32_t sid, std::int32_t fmi);
   // Erases all; those whose cause stands come back after kDetectSeconds or a restart.
   void Clear();
   // The restart of the ECU: every standing cause is found again at once.
   void Restart();
-  void Advance(double seconds);
+  void Step();
   // Takes over the faults of an earlier life, in which an active one with no cause is stored.
   void Restore(const std::vector<Fault>& faults);
 
@@ -46,7 +51,7 @@ class FaultStore {
 
   std::vector<Fault> faults_;
   std::vector<Fault> causes_;
-  double detect_in_ = 0;
+  int detect_in_ = 0;  // steps
   std::uint64_t revision_ = 0;
 };
 

@@ -18,6 +18,9 @@ constexpr std::uint32_t Address(std::uint8_t high, std::uint8_t middle, std::uin
 class MemoryWords {
  public:
   void Set(std::uint32_t address, std::uint16_t word) { words_[address] = word; }
+  // What stood there by itself stands there again.
+  void Forget(std::uint32_t address) { words_.erase(address); }
+  const std::map<std::uint32_t, std::uint16_t>& Words() const { return words_; }
   // Nothing where nobody has set a word.
   std::optional<std::uint16_t> Get(std::uint32_t address) const {
     const auto at = words_.find(address);

@@ -1,7 +1,9 @@
 #include "simulator/trailer/persistence.h"
 
+#include <charconv>
 #include <cstddef>
 #include <cstdint>
+#include <iterator>
 #include <optional>
 #include <span>
 #include <sstream>
@@ -12,7 +14,7 @@
 namespace lorimet::simulator {
 namespace {
 
-constexpr std::string_view kHeading = "lorimet32-simulator-state 1";
+constexpr std::string_view kHeading = "lorimet32-simulator-state 2";
 
 std::uint64_t Fingerprint(std::string_view text) {
   std::uint64_t hash = 0xCBF29CE484222325u;
@@ -45,7 +47,46 @@ struct Loaded {
   ParameterStore parameters;
   std::vector<Fault> faults;
   std::uint8_t flag = 0;
+  bool calibrated = true;
+  Distances distances;
+  RecorderCounters recorder;
+  MemoryWords words;
 };
+
+// A number as it is, to the last bit.
+std::string Exactly(double value) {
+  char digits[32];
+  const auto [end, error] = std::to_chars(digits, std::end(digits), value);
+  return {digits, end};
+}
+
+bool ReadDistances(const std::vector<std::string>& words, Loaded& loaded) {
+  const auto odometer = ParseNumber(words[1]);
+  const auto trip = ParseNumber(words[2]);
+  const auto next_service = ParseNumber(words[3]);
+  if (!odometer || !trip || !next_service) return false;
+  loaded.distances = {*odometer, *trip, *next_service};
+  return true;
+}
+
+bool ReadCounter(const std::vector<std::string>& words, Loaded& loaded) {
+  const auto value = ParseInteger(words[2], 0, RecorderCounters::kMost);
+  if (!value) return false;
+  for (const RecorderCounterFacts& facts : kRecorderCounters) {
+    if (facts.name != words[1]) continue;
+    loaded.recorder.Set(facts.counter, static_cast<int>(*value));
+    return true;
+  }
+  return false;
+}
+
+bool ReadWord(const std::vector<std::string>& words, Loaded& loaded) {
+  const auto address = ParseInteger(words[1], 0, 0xFFFFFF);
+  const auto value = ParseInteger(words[2], 0, 0xFFFF);
+  if (!address || !value) return false;
+  loaded.words.Set(static_cast<std::uint32_t>(*address), static_cast<std::uint16_t>(*value));
+  return true;
+}
 
 bool ReadLine(const std::vector<std::string>& words, Loaded& loaded) {
   const auto integer = [&](std::size_t i) { return ParseInteger(words[i], INT32_MIN, INT32_MAX); };
@@ -61,6 +102,13 @@ bool ReadLine(const std::vector<std::string>& words, Loaded& loaded) {
     loaded.faults.push_back({static_cast<std::int32_t>(*sid), static_cast<std::int32_t>(*fmi),
                              static_cast<std::int32_t>(*status),
                              static_cast<std::int32_t>(*times)});
+    return true;
+  }
+  if (words.size() == 4 && words[0] == "distances") return ReadDistances(words, loaded);
+  if (words.size() == 3 && words[0] == "counter") return ReadCounter(words, loaded);
+  if (words.size() == 3 && words[0] == "word") return ReadWord(words, loaded);
+  if (words.size() == 2 && words[0] == "calibrated") {
+    loaded.calibrated = words[1] == "yes";
     return true;
   }
   if (words.size() != 2 || words[0] != "flag") return false;
@@ -85,6 +133,14 @@ std::string SaveState(const Trailer& trailer, std::string_view scenario) {
     body << "fault " << fault.sid << ' ' << fault.fmi << ' ' << fault.status << ' ' << fault.times
          << '\n';
   body << "flag " << int{trailer.EndOfLineFlag()} << '\n';
+  body << "calibrated " << (trailer.Calibrated() ? "yes" : "no") << '\n';
+  const Distances& distances = trailer.Distance();
+  body << "distances " << Exactly(distances.odometer) << ' ' << Exactly(distances.trip) << ' '
+       << Exactly(distances.next_service) << '\n';
+  for (const RecorderCounterFacts& facts : kRecorderCounters)
+    body << "counter " << facts.name << ' ' << trailer.Recorder().Value(facts.counter) << '\n';
+  for (const auto& [address, word] : trailer.Memory().Words())
+    body << "word " << address << ' ' << word << '\n';
   const std::string text = body.str();
   return text + "end " + std::to_string(Fingerprint(text)) + "\n";
 }
@@ -99,7 +155,8 @@ bool RestoreState(Trailer& trailer, std::string_view scenario, std::string_view 
   if (!std::getline(lines, line) || line != kHeading) return false;
   if (!std::getline(lines, line) || line != "scenario " + std::to_string(Fingerprint(scenario)))
     return false;
-  Loaded loaded{trailer.Parameters(), {}, trailer.EndOfLineFlag()};
+  Loaded loaded;
+  loaded.parameters = trailer.Parameters();
   while (std::getline(lines, line)) {
     const auto words = SplitWords(line);
     if (!words || !ReadLine(*words, loaded)) return false;
@@ -107,6 +164,11 @@ bool RestoreState(Trailer& trailer, std::string_view scenario, std::string_view 
   trailer.Parameters() = loaded.parameters;
   trailer.Faults().Restore(loaded.faults);
   trailer.SetEndOfLineFlag(loaded.flag);
+  trailer.SetCalibrated(loaded.calibrated);
+  trailer.Distance() = loaded.distances;
+  trailer.Recorder() = loaded.recorder;
+  trailer.Memory() = loaded.words;
+  trailer.Resume();
   return true;
 }
 

@@ -1,5 +1,5 @@
 // What outlives the trailer's power, as text: parameter blocks, faults with their counts, the
-// end-of-line flag.
+// end-of-line flag, the calibration, distances, recorder counters and memory words.
 #pragma once
 
 #include <string>

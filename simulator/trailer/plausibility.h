@@ -19,6 +19,9 @@ class ErrorBytes {
   void Set(int byte, int bit) {
     bytes_[static_cast<std::size_t>(byte)] |= static_cast<std::uint8_t>(1u << bit);
   }
+  void Clear(int byte, int bit) {
+    bytes_[static_cast<std::size_t>(byte)] &= static_cast<std::uint8_t>(~(1u << bit));
+  }
   bool Has(int byte, int bit) const { return (At(byte) >> bit & 1) != 0; }
   std::uint8_t At(int byte) const { return bytes_[static_cast<std::size_t>(byte)]; }
   bool Any() const {

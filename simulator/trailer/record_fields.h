@@ -17,8 +17,9 @@ namespace lorimet::simulator {
 
 enum class FieldKind { kDouble, kShort, kByte, kText };
 
-// Who writes a field when: at each reading, at the end of the static read, or with a transfer.
-enum class FieldGroup { kLive, kStatic, kJob };
+// Who writes a field when: at each reading; at the end of the static read; then and whenever the
+// vehicle's parameters are read; or with a transfer.
+enum class FieldGroup { kLive, kIdentity, kSystem, kVehicle, kJob };
 
 struct RecordField {
   std::string_view name;

@@ -1,5 +1,7 @@
 #include "simulator/trailer/session.h"
 
+#include "simulator/trailer/time_grid.h"
+
 namespace lorimet::simulator {
 
 Status Session::Start(std::uint8_t session) {
@@ -36,10 +38,10 @@ Status Session::SetParameterAccess(bool open) {
   return permitted;
 }
 
-void Session::Advance(double seconds) {
+void Session::Step() {
   if (!open_) return;
-  idle_ += seconds;
-  if (idle_ > timeout_) Stop();
+  idle_ += kStepSeconds;
+  if (idle_ > (keep_alive_ ? kSilenceSeconds : timeout_)) Stop();
 }
 
 }  // namespace lorimet::simulator

@@ -9,12 +9,15 @@
 
 #include "simulator/trailer/failure_modes.h"
 #include "simulator/trailer/record_fields.h"
+#include "simulator/trailer/request_log.h"
+#include "simulator/trailer/schedule.h"
 #include "simulator/trailer/trailer.h"
 
 namespace lorimet::simulator {
 
-// What Connect has to ask for; empty where everything will do.
+// The adapter, and what Connect has to ask it for; empty where everything will do.
 struct AdapterDemands {
+  bool present = true;  // an adapter is there at all
   std::string vendor;
   std::string protocol;
   std::optional<std::int32_t> device;
@@ -27,10 +30,15 @@ struct Simulation {
   FailurePlan failures;
   FieldOverrides fields;
   AdapterDemands adapter;
+  RequestLog log;
+  Schedule schedule;
   std::optional<std::string> answered_vendor;  // written over the text given to Connect
   std::optional<std::string> answered_protocol;
   std::int32_t client_id = 0;
-  std::vector<std::int32_t> statuses;  // to be posted at the next chance
+  std::vector<std::int32_t> statuses;        // to be posted at the next chance
+  std::vector<std::string> complaints;       // of commands that waited, oldest first
+  std::optional<std::string> next_scenario;  // the file of the trailer to take this one's place
+  std::int64_t time = 0;                     // microseconds of the world
 };
 
 }  // namespace lorimet::simulator

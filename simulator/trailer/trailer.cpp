@@ -1,181 +1,193 @@
 #include "simulator/trailer/trailer.h"
 
 #include <algorithm>
-#include <string>
 
 #include "simulator/trailer/default_parameters.h"
 
 namespace lorimet::simulator {
 namespace {
 
-constexpr double kStepSeconds = 0.01;
-constexpr double kNoReading = -1.0;
-constexpr double kCountsPerPsi = 5120 / 14.5;
+constexpr int kFaultSteps = 5;  // from one look after faults to the next
+
+constexpr double kSlipBegins = 0.30;  // share of the vehicle's speed
+constexpr double kSlipEnds = 0.10;
+constexpr double kSlipSpeed = 5;  // mph below which slip is not looked after
+
+struct LateralLevel {
+  double g;
+  RecorderCounter counter;
+};
+constexpr LateralLevel kLateralLevels[] = {{0.30, RecorderCounter::kLevel1},
+                                           {0.40, RecorderCounter::kLevel2}};
+constexpr double kLateralSeconds = 0.3;
+constexpr double kLateralSpeed = 12;  // mph
 
 }  // namespace
 
 Trailer::Trailer(const TrailerSetup& setup)
     : setup_(setup),
+      layout_(setup),
       identity_(DefaultIdentity(setup)),
+      brakes_(layout_.Modulators()),
       session_(setup.session_timeout),
       parameters_(DefaultParameters(setup)) {}
 
-void Trailer::Advance(double seconds) {
-  while (seconds > kStepSeconds) {
-    Step(kStepSeconds);
-    seconds -= kStepSeconds;
-  }
-  if (seconds > 0) Step(seconds);
+void Trailer::Step() {
+  line_.Step(defects_.control_residual, defects_.control_leak);
+  bellows_.Step();
+  driving_.Step();
+  StepPower();
+  if (Powered()) StepEcu();
+  StepBrakes();
+  supply_.Step(brakes_.Drawn(), defects_.supply_leak);
+  StepWheels();
+  if (Powered() && ++steps_ % kFaultSteps == 0) StepFaults();
 }
 
-void Trailer::Step(double seconds) {
-  const double rise = brakes_.Advance(seconds, Vehicle(), load_, supply_.Pressure());
-  supply_.Draw(rise);
-  supply_.Advance(seconds);
-  wheels_.Advance(seconds, brakes_.Delivered(1), brakes_.Delivered(2));
-  electrics_.Advance(seconds);
-  distances_.Advance(seconds, wheels_.MeanSpeed());
-  session_.Advance(seconds);
-  faults_.Advance(seconds);
-  lamp_.Advance(seconds);
-  reset_left_ = std::max(0.0, reset_left_ - seconds);
+void Trailer::StepPower() {
+  electrics_.Step(StopLightCircuit());
+  if (StopLightCircuit() && !stop_light_was_on_) recorder_.Count(RecorderCounter::kStopLight);
+  stop_light_was_on_ = StopLightCircuit();
+  if (!Powered() && was_powered_) GoOut();
+  if (Powered() && !was_powered_) Start();
+  was_powered_ = Powered();
 }
 
-double Trailer::MainBellows() const {
-  const VehicleParameters vehicle = Vehicle();
-  if (setup_.suspension == Suspension::kMechanical) return kNoReading;
-  const double unladen = vehicle.UnladenSuspension() * kPsiPerCount;
-  return unladen + (vehicle.LadenSuspension() * kPsiPerCount - unladen) * load_;
+void Trailer::Start() {
+  GoOut();
+  restart_left_ = restart_steps_;
+  CheckItself();
 }
 
-LiveValues Trailer::Live() const {
-  const SystemFacts& facts = FactsOf(setup_.system);
-  const bool third = setup_.system == System::k4S3M || setup_.system == System::k2M1M;
-  LiveValues live;
-  live.primary_volts = electrics_.Volts() * 100;
-  live.voltage_source = electrics_.Source() == VoltageSource::kPermanent ? 1 : 0;
-  for (int i = 0; i < 6; ++i) {
-    const bool sensed = i >= 2 && i < 2 + facts.sensors;
-    live.wheel_speed[static_cast<std::size_t>(i)] = sensed ? wheels_.Speed(i) : kNoReading;
-  }
-  live.odometer = distances_.odometer;
-  live.next_service = distances_.next_service;
-  live.trip = distances_.trip;
-  live.supply = facts.modulators == 1 ? kNoReading : supply_.Pressure();
-  live.main_bellows = MainBellows();
-  live.steer_bellows = third && live.main_bellows >= 0 ? live.main_bellows : kNoSensorPressure;
-  live.brake1 = brakes_.Delivered(1);
-  live.brake2 = facts.modulators == 1 ? kNoReading : brakes_.Delivered(2);
-  live.service_brake = brakes_.Demand();
-  live.warning_lamp = LampOn();
-  live.faults = static_cast<int>(faults_.Faults().size());
-  return live;
-}
-
-void Trailer::Reset() {
-  reset_left_ = kResetSeconds;
-  session_.Stop();
-  brakes_.SelectMode(BrakeMode::kNormal);
+void Trailer::CheckItself() {
   lamp_.PowerOn();
   faults_.Restart();
-  stop_light_ = false;
+  CausesStanding standing = Causes();
+  StartCauses(standing);
+  monitor_.Start(standing, faults_);
 }
 
-Status Trailer::SetPressure(std::span<const std::uint8_t> data) {
-  if (data.size() != 7) return kSubfunctionNotSupported;
-  const int counts = data[1] + 256 * data[2];
-  // Channel 6 carries millimetres in the same encoding.
-  return brakes_.SetTestChannel(data[0], counts / kCountsPerPsi) ? kDone : kOutOfRange;
+void Trailer::GoOut() {
+  restart_left_ = 0;
+  session_.Stop();
+  brakes_.SelectMode(BrakeMode::kNormal);
+  stop_lights_.Off();
 }
 
-Status Trailer::StartRoutine(std::uint8_t id, std::span<const std::uint8_t> data) {
-  const Status permitted = session_.Permit(false);
-  if (permitted != kDone) return permitted;
-  switch (id) {
-    case 0x05:  // ends the operation before it: what was written is sealed
-      parameters_.RebuildChecksums();
-      return kDone;
-    case 0x06:
-      return SetPressure(data);
-    case 0x07:
-      if (data.empty()) return kSubfunctionNotSupported;
-      lamp_.Command(data[0] != 0);
-      return kDone;
-    case 0x37:
-      if (data.size() < 3 || data[2] > 2) return kSubfunctionNotSupported;
-      brakes_.SelectMode(static_cast<BrakeMode>(data[2]));
-      return kDone;
-    case 0x3C:
-      if (data.empty() || data[0] < 1 || data[0] > 2) return kSubfunctionNotSupported;
-      return height_counts_ >= 1141 && height_counts_ <= 1486 ? kDone : kConditionsNotCorrect;
-    case 0x41:
-      return data.size() == 2 ? kDone : kSubfunctionNotSupported;
-    case 0x42:
-      if (data.size() < 3) return kSubfunctionNotSupported;
-      return session_.SetParameterAccess(data[2] != 0);
-    default:
-      return kServiceNotSupported;
+void Trailer::StepEcu() {
+  restart_left_ = std::max(0, restart_left_ - 1);
+  session_.Step();
+  faults_.Step();
+  lamp_.Step();
+  stop_lights_.Step();
+}
+
+const LoadSensing& Trailer::Sensing() {
+  if (sensing_revision_ != parameters_.Revision()) {
+    sensing_ = LoadSensing::From(Vehicle());
+    sensing_revision_ = parameters_.Revision();
+  }
+  return sensing_;
+}
+
+double Trailer::BellowsPressure() const {
+  if (setup_.suspension == Suspension::kMechanical || defects_.bellows_burst) return 0;
+  const double unladen = Vehicle().UnladenSuspension() * kPsiPerCount;
+  const double laden = Vehicle().LadenSuspension() * kPsiPerCount;
+  return unladen + (laden - unladen) * bellows_.Share();
+}
+
+// Without a reading the ECU brakes as for a laden trailer.
+double Trailer::KnownLoad() const {
+  if (setup_.suspension == Suspension::kMechanical)
+    return defects_.height_sensor_open ? 1 : bellows_.Load();
+  if (defects_.bellows_sensor.state != SensorState::kWell) return 1;
+  if (!defects_.bellows_burst && defects_.bellows_sensor.offset == 0) return bellows_.Share();
+  return LoadOfBellows(sensing_, BellowsPressure() + defects_.bellows_sensor.offset);
+}
+
+void Trailer::StepBrakes() {
+  const LoadSensing& sensing = Sensing();
+  BrakeInputs inputs;
+  inputs.demand = std::max(0.0, ControlPort() + defects_.control_sensor.offset);
+  inputs.load = KnownLoad();
+  inputs.supply_port = SupplyPort();
+  inputs.control_port = ControlPort();
+  inputs.electric = Powered() && defects_.control_sensor.state == SensorState::kWell;
+  brakes_.Step(inputs, sensing, defects_);
+}
+
+double Trailer::WheelBrake(int position) const {
+  if (defects_.no_brake[static_cast<std::size_t>(position - 1)]) return 0;
+  return brakes_.Delivered(layout_.ModulatorOf(position, defects_.brake_lines_crossed));
+}
+
+void Trailer::StepWheels() {
+  RollInputs inputs;
+  for (int position = 1; position <= kPositions; ++position)
+    if (layout_.HasWheel(position))
+      inputs.brake[static_cast<std::size_t>(position - 1)] = WheelBrake(position);
+  inputs.road_speed = driving_.Speed();
+  inputs.grip = driving_.Grip();
+  inputs.parking_brake = parking_brake_;
+  wheels_.Step(inputs);
+  if (wheels_.AnyTurns()) {
+    const auto speed = [&](int sensor) {
+      const auto position = layout_.PositionOf(sensor);
+      return position ? wheels_.Speed(*position) : 0;
+    };
+    distances_.Step(speed(3), speed(2));
+  }
+  StepSlip();
+  StepLateral();
+}
+
+// The antilock control: it empties the modulator of a wheel that slips, and counts the event.
+void Trailer::StepSlip() {
+  const double road = driving_.Speed();
+  if (road <= 0) return;
+  std::array<bool, Brakes::kModulators> released = {};
+  for (int position = 1; position <= kPositions; ++position) {
+    bool& slipping = slipping_[static_cast<std::size_t>(position - 1)];
+    if (!layout_.SensorAt(position)) continue;
+    const double slip = (road - wheels_.Speed(position)) / road;
+    const bool braked = WheelBrake(position) > Wheels::kBrakeBegin;
+    const bool watched = Powered() && road > kSlipSpeed;
+    if (watched && braked && !slipping && slip > kSlipBegins) {
+      slipping = true;
+      recorder_.Count(RecorderCounter::kAbs);
+    } else if (!watched || slip < kSlipEnds) {
+      slipping = false;
+    }
+    const int modulator = layout_.ModulatorOf(position, false);
+    if (slipping) released[static_cast<std::size_t>(modulator - 1)] = true;
+  }
+  for (int modulator = 1; modulator <= Brakes::kModulators; ++modulator)
+    brakes_.Release(modulator, released[static_cast<std::size_t>(modulator - 1)]);
+}
+
+void Trailer::StepLateral() {
+  const bool watched = Powered() && driving_.Speed() > kLateralSpeed;
+  for (std::size_t i = 0; i < leaning_.size(); ++i) {
+    const bool leaning = watched && driving_.Lateral() > kLateralLevels[i].g;
+    leaning_[i] = leaning ? leaning_[i] + 1 : 0;
+    if (leaning_[i] == StepsIn(kLateralSeconds) && Vehicle().OverturnGuard())
+      recorder_.Count(kLateralLevels[i].counter);
   }
 }
 
-Status Trailer::WriteBlock(std::uint8_t id, std::span<const std::uint8_t> data) {
-  const Status permitted = session_.Permit(id != kEndOfLineFlagId);
-  if (permitted != kDone) return permitted;
-  if (id == kEndOfLineFlagId) {
-    if (data.empty()) return kSubfunctionNotSupported;
-    SetEndOfLineFlag(data[0]);
-    return kDone;
-  }
-  return parameters_.Write(id, data) ? kDone : kOutOfRange;
+void Trailer::StepFaults() { monitor_.Watch(kFaultSteps * kStepSeconds, Causes(), faults_); }
+
+bool Trailer::LampLit() const {
+  if (defects_.lamp_dead) return false;
+  return LampOutput() || defects_.lamp_shorted;
 }
 
-Status Trailer::ReadBlock(std::uint8_t id, std::vector<std::uint8_t>& bytes) {
-  if (id == kErrorBytesId) {
-    const ErrorBytes errors = Errors();
-    bytes = {id};
-    for (int i = 1; i <= ErrorBytes::kCount; ++i) bytes.push_back(errors.At(i));
-    return kDone;
-  }
-  if (id == kEndOfLineFlagId) {
-    bytes = {id, end_of_line_flag_, 0};
-    return kDone;
-  }
-  const Status permitted = session_.Permit(true);
-  if (permitted != kDone) return permitted;
-  const auto block = parameters_.Read(id);
-  if (!block) return kOutOfRange;
-  bytes = *block;
-  return kDone;
-}
-
-std::uint16_t Trailer::ReadWord(std::uint32_t address) const {
-  if (const auto word = memory_.Get(address)) return *word;
-  const auto pair = [&](std::uint8_t id, int high, int low) {
-    return static_cast<std::uint16_t>(parameters_.Byte(id, high) << 8 | parameters_.Byte(id, low));
-  };
-  const bool lift_check = Vehicle().Text(kFcf1, 51, 20) == "Pres and Speed Check";
-  if (address == kLoweringPressure && lift_check) return pair(kFcf1, 16, 17);
-  if (address == kLiftingPressure && lift_check) return pair(kFcf1, 18, 19);
-  const bool speed_switch = parameters_.Byte(kEol3, 3) == 1;
-  if (address == kSpeedThresholds && speed_switch) return pair(kEol3, 2, 1);
-  return 0;
-}
-
-Status Trailer::WriteWord(std::uint32_t address, std::span<const std::uint8_t> data) {
-  const Status permitted = session_.Permit(true);
-  if (permitted != kDone) return permitted;
-  if (data.size() != 2) return kOutOfRange;
-  memory_.Set(address, static_cast<std::uint16_t>(data[0] << 8 | data[1]));
-  return kDone;
-}
-
-Status Trailer::IoControl(std::uint8_t id, std::span<std::uint8_t> data) {
-  if (id != 5) return kServiceNotSupported;
-  if (data.size() < 4) return kSubfunctionNotSupported;
-  const bool reading = setup_.suspension == Suspension::kMechanical;
-  data[2] = reading ? static_cast<std::uint8_t>(height_counts_ >> 8) : 0xFF;
-  data[3] = reading ? static_cast<std::uint8_t>(height_counts_ & 0xFF) : 0xFF;
-  return kDone;
+std::optional<std::uint16_t> Trailer::HeightCounts(double swing) const {
+  if (setup_.suspension != Suspension::kMechanical || defects_.height_sensor_open)
+    return std::nullopt;
+  const double path = Vehicle().LadenPath() * bellows_.Load();
+  return height_.Counts(LeverTravel(path, Vehicle().LeverLength()), swing);
 }
 
 ErrorBytes Trailer::Errors() const {
@@ -193,7 +205,18 @@ void Trailer::ForceError(int byte, int bit, bool on) {
 
 void Trailer::SetEndOfLineFlag(std::uint8_t value) {
   end_of_line_flag_ = value;
-  ++flag_revision_;
+  ++kept_revision_;
+}
+
+void Trailer::SetCalibrated(bool calibrated) {
+  calibrated_ = calibrated;
+  ++kept_revision_;
+  if (calibrated) monitor_.Mend(Cause::kHeightNotCalibrated, faults_);
+}
+
+void Trailer::SetWord(std::uint32_t address, std::uint16_t word) {
+  memory_.Set(address, word);
+  ++kept_revision_;
 }
 
 }  // namespace lorimet::simulator

@@ -1,35 +1,63 @@
-// The wheels that carry a sensor: they stand still, can be spun, and coast or are braked down.
+// The wheels by their positions: they stand still, are spun by hand, roll with the vehicle, and
+// coast or are braked down.
 #pragma once
 
 #include <array>
-#include <optional>
+#include <cstddef>
+
+#include "simulator/trailer/layout.h"
+#include "simulator/trailer/time_grid.h"
 
 namespace lorimet::simulator {
 
-// The sensor letters, in the order of the record's wheel speeds.
-constexpr std::array<char, 6> kSensorLetters = {'a', 'b', 'd', 'c', 'f', 'e'};
-
-// Index of a sensor letter in the record ("c" 3, "d" 2, "e" 5, "f" 4); nothing for others.
-std::optional<int> SensorIndex(char letter);
+// The state of the road and of the brakes for one step.
+struct RollInputs {
+  std::array<double, kPositions> brake = {};  // psi by position less one
+  double road_speed = 0;                      // mph of the vehicle, 0 while it stands jacked up
+  double grip = 0;                            // mph a second that the road gives a wheel
+  bool parking_brake = false;
+};
 
 class Wheels {
  public:
-  static constexpr double kCoastRate = 1.5;       // mph a second
-  static constexpr double kBrakeRate = 0.5;       // mph a second for a psi of brake pressure
-  static constexpr double kHoldingPressure = 20;  // psi: such a brake cannot be turned by hand
+  static constexpr double kCoastRate = 1.2;        // mph a second
+  static constexpr double kBrakeRate = 0.9;        // mph a second for each psi above kBrakeBegin
+  static constexpr double kBrakeBegin = 4;         // psi
+  static constexpr double kTurnable = 8;           // psi up to which a hand turns a wheel
+  static constexpr double kParkingRate = 200;      // mph a second
+  static constexpr double kHandRiseSeconds = 0.5;  // until a hand has reached its speed
+  static constexpr double kHandHoldSeconds = 0.4;
 
-  // The wheels of modulator 1 carry the sensors d and f, those of modulator 2 c and e.
-  static int ModulatorOf(int index) { return index == 2 || index == 4 ? 1 : 2; }
+  // A hand turns the wheel to a speed in mph, holds it and lets go. A wheel that a hand cannot turn
+  // stays as it is.
+  void Spin(int position, double mph);
+  // The wheel has the speed at once.
+  void SetSpeed(int position, double mph);
 
-  // Gives the wheel a speed in mph; a wheel whose brake holds does not turn.
-  void Spin(int index, double mph) { speeds_[static_cast<std::size_t>(index)] = mph; }
-  double Speed(int index) const { return speeds_[static_cast<std::size_t>(index)]; }
-  double MeanSpeed() const { return (speeds_[2] + speeds_[3]) / 2; }
+  double Speed(int position) const { return At(position).speed; }
+  double Brake(int position) const { return brakes_[Index(position)]; }
+  bool Turnable(int position) const { return Brake(position) <= kTurnable && !parking_brake_; }
+  bool AnyTurns() const;
 
-  void Advance(double seconds, double brake1_psi, double brake2_psi);
+  void Step(const RollInputs& inputs);
 
  private:
-  std::array<double, 6> speeds_ = {};
+  struct Wheel {
+    double speed = 0;
+    double from = 0;  // the hand's way: from this speed
+    double to = 0;    // to this one
+    int hand = 0;     // steps that the hand has worked; 0: no hand
+  };
+
+  static std::size_t Index(int position) { return static_cast<std::size_t>(position - 1); }
+  Wheel& At(int position) { return wheels_[Index(position)]; }
+  const Wheel& At(int position) const { return wheels_[Index(position)]; }
+  void StepHand(Wheel& wheel);
+  void StepFree(Wheel& wheel, double brake, const RollInputs& inputs);
+
+  std::array<Wheel, kPositions> wheels_ = {};
+  std::array<double, kPositions> brakes_ = {};
+  bool parking_brake_ = false;
 };
 
 }  // namespace lorimet::simulator

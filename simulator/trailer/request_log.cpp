@@ -1,4 +1,4 @@
-#include "simulator/library/request_log.h"
+#include "simulator/trailer/request_log.h"
 
 namespace lorimet::simulator {
 namespace {

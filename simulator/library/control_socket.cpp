@@ -1,0 +1,102 @@
+#include "simulator/library/control_socket.h"
+
+#if !defined(_WIN32)
+#include <fcntl.h>
+#include <sys/socket.h>
+#include <sys/un.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <cstring>
+#endif
+
+namespace lorimet::simulator {
+
+#if defined(_WIN32)
+
+ControlSocket::ControlSocket(const std::filesystem::path&) {}
+ControlSocket::~ControlSocket() = default;
+void ControlSocket::Poll(const std::function<CommandAnswer(const std::string&)>&) {}
+void ControlSocket::Accept() {}
+bool ControlSocket::Serve(Client&, const std::function<CommandAnswer(const std::string&)>&) {
+  return false;
+}
+
+#else
+
+namespace {
+
+constexpr std::size_t kLongestLine =
+    65536;  // bytes; more without a line's end is no client of ours
+constexpr int kWaitingClients = 4;
+
+void MakeReady(int descriptor) {
+  fcntl(descriptor, F_SETFD, FD_CLOEXEC);
+  fcntl(descriptor, F_SETFL, O_NONBLOCK);
+}
+
+}  // namespace
+
+ControlSocket::ControlSocket(const std::filesystem::path& path) : path_(path) {
+  sockaddr_un address = {};
+  const std::string name = path.string();
+  if (name.empty() || name.size() >= sizeof address.sun_path) return;
+  address.sun_family = AF_UNIX;
+  std::memcpy(address.sun_path, name.c_str(), name.size() + 1);
+  const int descriptor = socket(AF_UNIX, SOCK_STREAM, 0);
+  if (descriptor < 0) return;
+  MakeReady(descriptor);
+  unlink(name.c_str());
+  const auto* general = reinterpret_cast<const sockaddr*>(&address);
+  if (bind(descriptor, general, sizeof address) != 0 || listen(descriptor, kWaitingClients) != 0) {
+    close(descriptor);
+    return;
+  }
+  listening_ = descriptor;
+}
+
+ControlSocket::~ControlSocket() {
+  for (const Client& client : clients_) close(client.descriptor);
+  if (listening_ < 0) return;
+  close(listening_);
+  unlink(path_.string().c_str());
+}
+
+void ControlSocket::Accept() {
+  for (int descriptor = 0; (descriptor = accept(listening_, nullptr, nullptr)) >= 0;) {
+    MakeReady(descriptor);
+    clients_.push_back({descriptor, {}});
+  }
+}
+
+bool ControlSocket::Serve(Client& client,
+                          const std::function<CommandAnswer(const std::string&)>& run) {
+  char bytes[4096];
+  ssize_t count = 0;
+  while ((count = recv(client.descriptor, bytes, sizeof bytes, 0)) > 0)
+    client.received.append(bytes, static_cast<std::size_t>(count));
+  const bool ended = count == 0 || (errno != EAGAIN && errno != EWOULDBLOCK && errno != EINTR);
+  std::string answers;
+  for (std::size_t end = 0; (end = client.received.find('\n')) != std::string::npos;) {
+    answers += AnswerLine(++client.lines, run(client.received.substr(0, end)));
+    client.received.erase(0, end + 1);
+  }
+  if (!answers.empty() && send(client.descriptor, answers.data(), answers.size(), MSG_NOSIGNAL) !=
+                              static_cast<ssize_t>(answers.size()))
+    return false;
+  return !ended && client.received.size() < kLongestLine;
+}
+
+void ControlSocket::Poll(const std::function<CommandAnswer(const std::string&)>& run) {
+  if (listening_ < 0) return;
+  Accept();
+  std::erase_if(clients_, [&](Client& client) {
+    if (Serve(client, run)) return false;
+    close(client.descriptor);
+    return true;
+  });
+}
+
+#endif
+
+}  // namespace lorimet::simulator
