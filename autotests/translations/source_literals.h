@@ -68,9 +68,9 @@ class LiteralReader {
     Add(text);
   }
 
-  // A quote within a number parts its digits.
+  // A quote within a number parts its digits; behind another letter it begins a wide character.
   void ReadCharacter() {
-    const bool digits = at_ > 0 && std::isalnum(static_cast<unsigned char>(source_[at_ - 1]));
+    const bool digits = at_ > 0 && std::isxdigit(static_cast<unsigned char>(source_[at_ - 1]));
     ++at_;
     if (digits) return;
     while (at_ < source_.size() && source_[at_] != '\'') at_ += source_[at_] == '\\' ? 2 : 1;
