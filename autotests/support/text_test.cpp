@@ -52,6 +52,29 @@ TEST(CodePage, TurnsACharacterWithoutACodeIntoOneQuestionMark) {
   // clang-format on
 }
 
+// The first and the last character of each length, and of each lead byte at a border.
+TEST(CodePage, TakesTheBytesOfACharacterTogether) {
+  for (const char* character :
+       {"\u0100", "\u07FF", "\u0800", "\u0E01", "\u0FFF", "\u1000", "\uD7FF", "\uE000", "\uFFFF",
+        "\U00010000", "\U0003FFFF", "\U00040000", "\U0010FFFF"})
+    EXPECT_EQ(ToCp1252(std::string("a") + character + "z"), "a?z") << character;
+}
+
+TEST(CodePage, HasSmallLetters) {
+  constexpr const char* kSmall =
+      "€\u0081‚ƒ„…†‡ˆ‰š‹œ\u008Dž\u008F"
+      "\u0090‘’“”•–—˜™š›œ\u009Džÿ"
+      "\u00A0¡¢£¤¥¦§¨©ª«¬\u00AD®¯"
+      "°±²³´µ¶·¸¹º»¼½¾¿"
+      "àáâãäåæçèéêëìíîï"
+      "ðñòóôõö×øùúûüýþß"
+      "àáâãäåæçèéêëìíîï"
+      "ðñòóôõö÷øùúûüýþÿ";
+  EXPECT_EQ(FromCp1252(ToLowerCp1252(ToCp1252(kUpperHalf))), kSmall);
+  EXPECT_EQ(ToLowerCp1252("AZ@[`az{09"), "az@[`az{09");
+  EXPECT_EQ(SmallLetterOf(0x0391), 0x0391U) << "a Greek letter is not the page's";
+}
+
 TEST(CodePage, TurnsEachByteOfMalformedUtf8IntoAQuestionMark) {
   struct Row {
     const char* what;

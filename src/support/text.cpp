@@ -28,13 +28,6 @@ void AppendUtf8(std::string& text, char32_t c) {
   }
 }
 
-char Encode(char32_t c) {
-  if (c < 0x80 || (c >= 0xA0 && c <= 0xFF)) return static_cast<char>(c);
-  for (std::size_t i = 0; i < kUpper.size(); ++i)
-    if (kUpper[i] == c) return static_cast<char>(0x80 + i);
-  return '?';
-}
-
 // The length of the sequence that a lead byte opens; 0 for a byte that opens none.
 std::size_t SequenceLength(std::uint8_t lead) {
   if (lead < 0x80) return 1;
@@ -53,6 +46,25 @@ bool IsWellFormed(char32_t c, std::size_t length) {
 
 }  // namespace
 
+char32_t CharacterOf(char byte) {
+  const auto code = static_cast<std::uint8_t>(byte);
+  return code >= 0x80 && code < 0xA0 ? kUpper[code - 0x80] : char32_t{code};
+}
+
+char ByteOf(char32_t character) {
+  if (character < 0x80 || (character >= 0xA0 && character <= 0xFF))
+    return static_cast<char>(character);
+  const auto* const found = std::ranges::find(kUpper, character);
+  return found == kUpper.end() ? '?' : static_cast<char>(0x80 + (found - kUpper.begin()));
+}
+
+char32_t SmallLetterOf(char32_t character) {
+  const bool latin = character >= 0xC0 && character <= 0xDE && character != 0xD7;
+  if ((character >= U'A' && character <= U'Z') || latin) return character + 0x20;
+  if (character == U'Š' || character == U'Œ' || character == U'Ž') return character + 1;
+  return character == U'Ÿ' ? U'ÿ' : character;
+}
+
 std::string ToCp1252(std::string_view utf8) {
   constexpr std::array<std::uint8_t, 5> kLeadBits = {0, 0x7F, 0x1F, 0x0F, 0x07};
   std::string bytes;
@@ -68,7 +80,7 @@ std::string ToCp1252(std::string_view utf8) {
       c = c << 6 | (next & 0x3F);
     }
     whole = whole && IsWellFormed(c, length);
-    bytes += whole ? Encode(c) : '?';
+    bytes += whole ? ByteOf(c) : '?';
     i += whole ? length : 1;
   }
   return bytes;
@@ -77,11 +89,14 @@ std::string ToCp1252(std::string_view utf8) {
 std::string FromCp1252(std::string_view bytes) {
   std::string text;
   text.reserve(bytes.size());
-  for (const char byte : bytes) {
-    const auto code = static_cast<std::uint8_t>(byte);
-    AppendUtf8(text, code >= 0x80 && code < 0xA0 ? kUpper[code - 0x80] : char32_t{code});
-  }
+  for (const char byte : bytes) AppendUtf8(text, CharacterOf(byte));
   return text;
+}
+
+std::string ToLowerCp1252(std::string_view bytes) {
+  std::string lower(bytes);
+  for (char& byte : lower) byte = ByteOf(SmallLetterOf(CharacterOf(byte)));
+  return lower;
 }
 
 std::string_view UntilNul(std::string_view text) { return text.substr(0, text.find('\0')); }

@@ -7,11 +7,19 @@
 
 namespace lorimet {
 
+// The character of a byte. Each byte has one: the five codes that the page leaves undefined stand
+// for the control characters of the same number.
+char32_t CharacterOf(char byte);
+// "?" for a character that has no code.
+char ByteOf(char32_t character);
+// The small letter of a letter that the page has; any other character is its own.
+char32_t SmallLetterOf(char32_t character);
+
 // A character that has no code becomes "?"; so does each byte of malformed UTF-8.
 std::string ToCp1252(std::string_view utf8);
-// Every byte has a character: the five codes that the page leaves undefined become the control
-// characters of the same number.
 std::string FromCp1252(std::string_view bytes);
+// Bytes of the page in small letters.
+std::string ToLowerCp1252(std::string_view bytes);
 
 // What stands before the first NUL.
 std::string_view UntilNul(std::string_view text);

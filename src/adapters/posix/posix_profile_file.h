@@ -1,7 +1,7 @@
 // The profile file where the platform has none: our own reading and writing of its text.
 #pragma once
 
-#include "adapters/posix/profile_text.h"
+#include "support/profile_text.h"
 #include "platform/profile_file.h"
 
 #include <cstddef>

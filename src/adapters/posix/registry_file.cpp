@@ -10,6 +10,7 @@
 
 #include "adapters/posix/registry_text.h"
 #include "platform/registry.h"
+#include "support/text.h"
 
 namespace lorimet {
 
@@ -31,7 +32,7 @@ bool IsText(std::uint32_t type) {
 std::string KeyOf(std::string_view key) {
   constexpr std::string_view kBranch = "hkey_local_machine\\software\\wow6432node\\";
   constexpr std::string_view kSeenAs = "hkey_local_machine\\software\\";
-  std::string folded = FoldCase(key);
+  std::string folded = ToLowerCp1252(key);
   while (!folded.empty() && folded.back() == '\\') {
     folded.pop_back();
   }
@@ -179,7 +180,7 @@ void RegistryFile::Split(const std::string& bytes) {
     const std::string_view raw = rest.substr(0, end == std::string_view::npos ? end : end + width);
     rest.remove_prefix(raw.size());
     std::string text = encoding_ == Encoding::kUtf16  ? CodePageFromUtf16(raw)
-                       : encoding_ == Encoding::kUtf8 ? CodePageFromUtf8(raw)
+                       : encoding_ == Encoding::kUtf8 ? ToCp1252(raw)
                                                       : std::string(raw);
     if (lines_.empty() && text.ends_with('\n') && !text.ends_with("\r\n")) {
       line_end_ = "\n";
@@ -236,8 +237,8 @@ void RegistryFile::IndexValue(std::size_t& line) {
   }
   std::optional<RegistryValue> value = ParseValue(std::string(Trimmed(text.substr(1))));
   if (value) {
-    entries_.push_back(
-        {sections_.back().key, FoldCase(*name), left, first, line - first + 1, std::move(*value)});
+    entries_.push_back({sections_.back().key, ToLowerCp1252(*name), left, first, line - first + 1,
+                        std::move(*value)});
   }
 }
 
@@ -265,7 +266,7 @@ std::optional<RegistryValue> RegistryFile::ParseValue(const std::string& text) c
     content->push_back('\0');
     return RegistryValue{kRegString, {content->begin(), content->end()}};
   }
-  const std::string folded = FoldCase(text);
+  const std::string folded = ToLowerCp1252(text);
   if (folded.starts_with(kDword)) {
     const std::optional<std::uint32_t> number =
         HexNumber(WithoutComment(std::string_view{folded}.substr(kDword.size())));
@@ -316,7 +317,7 @@ std::optional<RegistryValue> RegistryFile::ParseHex(const std::string& text) con
 const RegistryFile::Entry* RegistryFile::FindEntry(const std::string& key,
                                                    const std::string& name) const {
   const std::string wanted_key = KeyOf(key);
-  const std::string wanted_name = FoldCase(name);
+  const std::string wanted_name = ToLowerCp1252(name);
   const auto found = std::find_if(entries_.rbegin(), entries_.rend(), [&](const Entry& entry) {
     return entry.key == wanted_key && entry.name == wanted_name;
   });
@@ -326,7 +327,7 @@ const RegistryFile::Entry* RegistryFile::FindEntry(const std::string& key,
 RegistryFile::Line RegistryFile::MakeLine(const std::string& text) const {
   const std::string ended = text + line_end_;
   return {encoding_ == Encoding::kUtf16  ? Utf16FromCodePage(ended)
-          : encoding_ == Encoding::kUtf8 ? Utf8FromCodePage(ended)
+          : encoding_ == Encoding::kUtf8 ? FromCp1252(ended)
                                          : ended,
           text};
 }

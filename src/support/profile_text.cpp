@@ -1,9 +1,10 @@
-#include "adapters/posix/profile_text.h"
+#include "support/profile_text.h"
 
 #include <algorithm>
-#include <array>
 #include <iterator>
 #include <utility>
+
+#include "support/text.h"
 
 namespace lorimet {
 namespace {
@@ -14,25 +15,7 @@ constexpr std::u16string_view kFillers{u" \t\v\0\x1A", 5};
 constexpr std::u16string_view kNewLine = u"\r\n";
 constexpr std::string_view kByteOrderMark = "\xFF\xFE";
 
-// Codes 0x80 to 0x9F of the page; the five that it leaves undefined stand for themselves, so that
-// every byte survives.
-constexpr std::array<char16_t, 32> kPageHigh{
-    0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,  //
-    0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x008D, 0x017D, 0x008F,  //
-    0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,  //
-    0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
-
-char16_t FromPage(char c) {
-  const auto byte = static_cast<unsigned char>(c);
-  return byte >= 0x80 && byte <= 0x9F ? kPageHigh[byte - 0x80u] : char16_t{byte};
-}
-
-char ToPage(char16_t c) {
-  if (c < 0x80 || (c >= 0xA0 && c <= 0xFF)) return static_cast<char>(c);
-  const auto* const found = std::find(kPageHigh.begin(), kPageHigh.end(), c);
-  if (found == kPageHigh.end()) return '?';
-  return static_cast<char>(0x80 + (found - kPageHigh.begin()));
-}
+char16_t FromPage(char c) { return static_cast<char16_t>(CharacterOf(c)); }
 
 std::u16string FromPage(std::string_view text) {
   std::u16string result(text.size(), u'\0');
@@ -42,21 +25,14 @@ std::u16string FromPage(std::string_view text) {
 
 std::string ToPage(std::u16string_view text) {
   std::string result(text.size(), '\0');
-  std::transform(text.begin(), text.end(), result.begin(), [](char16_t c) { return ToPage(c); });
+  std::transform(text.begin(), text.end(), result.begin(), [](char16_t c) { return ByteOf(c); });
   return result;
 }
 
-// Lower case of the page's letters. Names that are asked for hold no others.
-char16_t Fold(char16_t c) {
-  if (c >= u'A' && c <= u'Z') return static_cast<char16_t>(c + 0x20);
-  if (c >= 0xC0 && c <= 0xDE && c != 0xD7) return static_cast<char16_t>(c + 0x20);
-  if (c == 0x0160 || c == 0x0152 || c == 0x017D) return static_cast<char16_t>(c + 1);
-  return c == 0x0178 ? char16_t{0xFF} : c;
-}
-
+// In small letters, as far as the page has them: names that are asked for hold no others.
 std::u16string Folded(std::u16string_view name) {
   std::u16string result(name);
-  for (char16_t& c : result) c = Fold(c);
+  for (char16_t& c : result) c = static_cast<char16_t>(SmallLetterOf(c));
   return result;
 }
 
