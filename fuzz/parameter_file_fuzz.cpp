@@ -53,6 +53,7 @@ class ModelProfileFile : public lorimet::ProfileFile {
     return true;
   }
   bool Flush() override { return true; }
+  lorimet::ErrorNumber LastError() const override { return lorimet::ErrorNumber::kDeviceIoError; }
 
  private:
   bool unicode_;

@@ -1,5 +1,6 @@
 #include "adapters/posix/posix_profile_file.h"
 
+#include "autotests/platform/file_faults.h"
 #include "fuzz/profile_file_model.h"
 
 #include <gtest/gtest.h>
@@ -94,26 +95,6 @@ class FileSizeLimit {
  private:
   rlimit before_{};
   void (*handler_)(int);
-};
-
-// Permissions bind nobody who is root.
-class OrdinaryUser {
- public:
-  OrdinaryUser() : was_root_(geteuid() == 0) {
-    if (was_root_) {
-      EXPECT_EQ(seteuid(65534), 0);
-    }
-  }
-  OrdinaryUser(const OrdinaryUser&) = delete;
-  OrdinaryUser& operator=(const OrdinaryUser&) = delete;
-  ~OrdinaryUser() {
-    if (was_root_) {
-      EXPECT_EQ(seteuid(0), 0);
-    }
-  }
-
- private:
-  bool was_root_;
 };
 
 TEST_F(ProfileFileTest, AFileThatStandsIsReadOnce) {
@@ -404,6 +385,75 @@ TEST_F(ProfileFileTest, ASymbolicLinkStaysOne) {
   EXPECT_TRUE(file_.Flush());
   EXPECT_TRUE(fs::is_symlink(path_));
   EXPECT_EQ(OnDisk(Path("real/trailer.ecu")), "[a]\r\nk=2\r\n");
+}
+
+TEST_F(ProfileFileTest, AShareThatRefusesRightsAndOwnersTakesTheWrite) {
+  Put(path_, "[a]\r\nk=1\r\n");
+  fs::permissions(path_, fs::perms(0600));
+  PosixProfileFile share(ShareCalls());
+  EXPECT_TRUE(share.WriteString("a", "k", "2", path_));
+  EXPECT_TRUE(share.Flush());
+  EXPECT_EQ(OnDisk(path_), "[a]\r\nk=2\r\n");
+  EXPECT_EQ(fs::status(path_).permissions(), fs::perms(0600));
+}
+
+TEST_F(ProfileFileTest, ShortAndInterruptedCallsLoseNothing) {
+  const std::string long_value(1000, 'v');
+  Put(path_, "[a]\r\nk=" + long_value + "\r\n");
+  PosixProfileFile file(StutteringCalls());
+  EXPECT_EQ(file.GetString("a", "k", "d", kRoom, path_), long_value);
+  EXPECT_TRUE(file.WriteString("a", "l", "2", path_));
+  EXPECT_TRUE(file.Flush());
+  EXPECT_EQ(OnDisk(path_), "[a]\r\nk=" + long_value + "\r\nl=2\r\n");
+}
+
+TEST_F(ProfileFileTest, AFileThatCannotBeReadToItsEndReadsAsMissing) {
+  Put(path_, "[a]\r\nk=1\r\n");
+  PosixProfileFile file(FailingCalls(FileCall::kRead, EIO));
+  EXPECT_EQ(file.GetString("a", "k", "d", kRoom, path_), "d");
+  EXPECT_FALSE(file.WriteString("a", "k", "2", path_));
+  EXPECT_EQ(file.LastError(), ErrorNumber::kDeviceIoError);
+}
+
+TEST_F(ProfileFileTest, AFlushThatFailsTellsWhy) {
+  struct Row {
+    FileCall call;
+    int error;
+    ErrorNumber number;
+  };
+  constexpr Row kRows[] = {
+      {FileCall::kWrite, ENOSPC, ErrorNumber::kDiskFull},
+      {FileCall::kSync, EIO, ErrorNumber::kDeviceIoError},
+      {FileCall::kRename, EROFS, ErrorNumber::kPermissionDenied},
+      {FileCall::kRename, EACCES, ErrorNumber::kPathFileAccessError},
+  };
+  Put(path_, "[a]\r\nk=1\r\n");
+  for (const Row& row : kRows) {
+    PosixProfileFile file(FailingCalls(row.call, row.error));
+    EXPECT_TRUE(file.WriteString("a", "k", "2", path_));
+    EXPECT_FALSE(file.Flush());
+    EXPECT_EQ(file.LastError(), row.number);
+    EXPECT_EQ(OnDisk(path_), "[a]\r\nk=1\r\n");
+    EXPECT_EQ(FilesInFolder(), 1u) << "a temporary file was left";
+  }
+}
+
+TEST_F(ProfileFileTest, AWriteThatIsRefusedTellsWhy) {
+  const auto refused = [this](const std::string& path) {
+    EXPECT_FALSE(file_.WriteString("a", "k", "1", path)) << path;
+    return file_.LastError();
+  };
+  EXPECT_EQ(refused(""), ErrorNumber::kBadFileNameOrNumber);
+  EXPECT_EQ(refused(Path(std::string(300, 'n'))), ErrorNumber::kBadFileNameOrNumber);
+  EXPECT_EQ(refused(folder_.string()), ErrorNumber::kPathFileAccessError);
+  EXPECT_EQ(refused(Path("none/trailer.ecu")), ErrorNumber::kPathNotFound);
+  Put(path_, "[a]\r\nk=1\r\n");
+  EXPECT_EQ(refused(path_ + "/below"), ErrorNumber::kPathNotFound);
+  fs::permissions(folder_, fs::perms(0555));
+  fs::permissions(path_, fs::perms(0444));
+  const OrdinaryUser user;
+  EXPECT_EQ(refused(path_), ErrorNumber::kPathFileAccessError);
+  EXPECT_EQ(refused(Path("other.ecu")), ErrorNumber::kPathFileAccessError);
 }
 
 // A child writes two versions in turn until it is killed; whole is what one of them wrote.

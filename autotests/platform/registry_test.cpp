@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "adapters/posix/posix_registry.h"
+#include "autotests/platform/file_faults.h"
 #include "autotests/platform/native_fixture.h"
 
 namespace lorimet {
@@ -62,14 +63,25 @@ class RegistryTest : public testing::Test {
     return queried;
   }
 
+  std::size_t FilesInFolder() const {
+    namespace fs = std::filesystem;
+    return static_cast<std::size_t>(
+        std::distance(fs::directory_iterator(folder_.Path()), fs::directory_iterator()));
+  }
+
   std::int32_t Set(const std::string& path, const std::string& name, std::uint32_t value) {
+    return SetIn(registry_, path, name, value);
+  }
+
+  static std::int32_t SetIn(Registry& registry, const std::string& path, const std::string& name,
+                            std::uint32_t value) {
     RegistryKey key = 0;
-    const std::int32_t status = registry_.OpenKey(kUser, path, kRegKeySetValue, key);
+    const std::int32_t status = registry.OpenKey(kUser, path, kRegKeySetValue, key);
     if (status != kRegSuccess) {
       return status;
     }
-    const std::int32_t set = registry_.SetDword(key, name, value);
-    registry_.CloseKey(key);
+    const std::int32_t set = registry.SetDword(key, name, value);
+    registry.CloseKey(key);
     return set;
   }
 
@@ -490,14 +502,58 @@ TEST_F(RegistryTest, AWriteThatFailsLeavesTheOldFileWhole) {
   std::signal(SIGXFSZ, handler);
   EXPECT_EQ(status, kRegAccessDenied);
   EXPECT_EQ(Stored(), before);
-  EXPECT_FALSE(std::filesystem::exists(file_ + ".new"));
-  // Nothing of an earlier crash stands in the way.
-  WriteFile(file_ + ".new", "half a fi");
+  EXPECT_EQ(FilesInFolder(), 1U) << "a temporary file was left";
   EXPECT_EQ(Set(kProduct, "Language", 1), kRegSuccess);
   EXPECT_EQ(Stored(), before + "\"Language\"=dword:00000001\n");
-  std::filesystem::create_directory(file_ + ".new");
+}
+
+TEST_F(RegistryTest, AFaultOfTheDiskLeavesTheOldFileWhole) {
+  const std::string before = "REGEDIT4\n" + kUserKey + "\n\"A\"=\"1\"\n";
+  Put(before);
+  for (const FileCall call : {FileCall::kWrite, FileCall::kSync, FileCall::kRename}) {
+    PosixRegistry registry(file_, FailingCalls(call, EIO));
+    EXPECT_EQ(SetIn(registry, kProduct, "Language", 1), kRegAccessDenied);
+    EXPECT_EQ(Stored(), before);
+    EXPECT_EQ(FilesInFolder(), 1U) << "a temporary file was left";
+  }
+  PosixRegistry unreadable(file_, FailingCalls(FileCall::kRead, EIO));
+  RegistryKey key = 0;
+  EXPECT_EQ(unreadable.OpenKey(kUser, kProduct, kRegKeyRead, key), kRegFileNotFound);
+  EXPECT_EQ(unreadable.CreateKey(kUser, kProduct, kRegKeyWrite, key), kRegAccessDenied);
+  EXPECT_EQ(Stored(), before);
+}
+
+TEST_F(RegistryTest, ShortAndInterruptedCallsLoseNothing) {
+  const std::string before =
+      "REGEDIT4\n" + kUserKey + "\n\"A\"=\"" + std::string(500, 'x') + "\"\n";
+  Put(before);
+  PosixRegistry registry(file_, StutteringCalls());
+  EXPECT_EQ(SetIn(registry, kProduct, "Language", 2), kRegSuccess);
+  EXPECT_EQ(Stored(), before + "\"Language\"=dword:00000002\n");
+}
+
+TEST_F(RegistryTest, AShareThatRefusesRightsAndOwnersTakesTheSetting) {
+  Put("REGEDIT4\n" + kUserKey + "\n");
+  PosixRegistry share(file_, ShareCalls());
+  EXPECT_EQ(SetIn(share, kProduct, "Language", 2), kRegSuccess);
+  EXPECT_EQ(Query(kUser, kProduct, "Language"), kRegSuccess);
+  EXPECT_EQ(data_, (Bytes{2, 0, 0, 0}));
+}
+
+TEST_F(RegistryTest, ANewFileIsForThisUserAlone) {
+  EXPECT_EQ(Create(kUser, kProduct), kRegSuccess);
+  struct stat status = {};
+  ASSERT_EQ(stat(file_.c_str(), &status), 0);
+  EXPECT_EQ(status.st_mode & 0777U, 0600U);
+}
+
+TEST_F(RegistryTest, AFolderThatMayNotBeWrittenIsAccessDenied) {
+  Put("REGEDIT4\n" + kUserKey + "\n");
+  ASSERT_EQ(chmod(file_.c_str(), 0644), 0);
+  ASSERT_EQ(chmod(folder_.Path().c_str(), 0555), 0);
+  const OrdinaryUser user;
   EXPECT_EQ(Set(kProduct, "Language", 2), kRegAccessDenied);
-  EXPECT_EQ(Stored(), before + "\"Language\"=dword:00000001\n");
+  EXPECT_EQ(Stored(), "REGEDIT4\n" + kUserKey + "\n");
 }
 
 TEST_F(RegistryTest, AReaderNeverSeesHalfAFileHoweverTheWriterEnds) {

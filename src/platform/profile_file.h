@@ -4,6 +4,8 @@
 #include <cstddef>
 #include <string>
 
+#include "platform/runtime_error.h"
+
 namespace lorimet {
 
 // Sections, keys and values are code page 1252; paths are full paths in UTF-8. Every answer is the
@@ -24,6 +26,9 @@ class ProfileFile {
   // Writes out what is pending; false when that failed, now or for an earlier file since the last
   // Flush. The old file is whole then, and what was pending is dropped.
   virtual bool Flush() = 0;
+  // Why the last WriteString or Flush that answered false did so: 52, 57, 61, 70, 75 or 76, as the
+  // text files have them.
+  virtual ErrorNumber LastError() const = 0;
 };
 
 }  // namespace lorimet

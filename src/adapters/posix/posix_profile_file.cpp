@@ -1,19 +1,17 @@
 #include "adapters/posix/posix_profile_file.h"
 
-#include "adapters/posix/file_descriptor.h"
+#include <fcntl.h>
+#include <unistd.h>
 
 #include <algorithm>
-#include <atomic>
 #include <cerrno>
-#include <cstdio>
-#include <cstdlib>
 #include <ctime>
-#include <memory>
 #include <optional>
 #include <utility>
 
-#include <fcntl.h>
-#include <unistd.h>
+#include "adapters/posix/file_descriptor.h"
+#include "adapters/posix/user_folders.h"
+#include "adapters/posix/whole_file.h"
 
 namespace lorimet {
 namespace {
@@ -23,7 +21,7 @@ constexpr std::int64_t kSecond = 1'000'000'000;
 // are stored.
 constexpr std::int64_t kFineStep = 20'000'000;
 constexpr std::int64_t kCoarseStep = 2'100'000'000;
-constexpr int kTemporaryNames = 100;
+constexpr mode_t kNewFileMode = 0666;
 
 std::int64_t Nanoseconds(const timespec& time) { return time.tv_sec * kSecond + time.tv_nsec; }
 
@@ -34,78 +32,6 @@ std::int64_t FileClock() {
   return Nanoseconds(now);
 }
 
-std::string FolderOf(const std::string& path) {
-  const auto slash = path.rfind('/');
-  if (slash == std::string::npos) return ".";
-  return slash == 0 ? "/" : path.substr(0, slash);
-}
-
-// Where the bytes go: the file that a symbolic link stands for.
-std::string TargetOf(const std::string& path) {
-  struct stat status = {};
-  if (lstat(path.c_str(), &status) != 0 || !S_ISLNK(status.st_mode)) return path;
-  const std::unique_ptr<char, decltype(&std::free)> resolved(realpath(path.c_str(), nullptr),
-                                                             &std::free);
-  return resolved ? std::string(resolved.get()) : path;
-}
-
-bool WriteAll(int fd, const std::string& bytes) {
-  std::size_t done = 0;
-  while (done < bytes.size()) {
-    const ssize_t count = write(fd, bytes.data() + done, bytes.size() - done);
-    if (count < 0 && errno == EINTR) continue;
-    if (count <= 0) return false;
-    done += static_cast<std::size_t>(count);
-  }
-  return true;
-}
-
-std::optional<std::string> ReadAll(int fd, std::size_t limit) {
-  std::string bytes;
-  std::string block(65536, '\0');
-  for (;;) {
-    const ssize_t count = read(fd, block.data(), block.size());
-    if (count < 0 && errno == EINTR) continue;
-    if (count < 0) return {};
-    if (count == 0) return bytes;
-    bytes.append(block.data(), static_cast<std::size_t>(count));
-    if (bytes.size() > limit) return {};
-  }
-}
-
-// A new file in the folder of `target`; sets its name.
-int CreateTemporary(const std::string& target, std::string& name) {
-  static std::atomic<unsigned> counter{0};
-  const std::string stem = FolderOf(target) + "/.profile-" + std::to_string(getpid()) + "-";
-  for (int i = 0; i < kTemporaryNames; ++i) {
-    name = stem + std::to_string(counter++) + ".tmp";
-    const int fd = open(name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
-    if (fd >= 0 || errno != EEXIST) return fd;
-  }
-  return -1;
-}
-
-// The new file takes the old one's owner, as far as that is allowed, and its permissions.
-bool CopyOwnership(const std::string& from, int fd) {
-  struct stat status = {};
-  if (stat(from.c_str(), &status) != 0) return errno == ENOENT;
-  const int owned = fchown(fd, status.st_uid, status.st_gid);
-  static_cast<void>(owned);
-  return fchmod(fd, status.st_mode & 07777) == 0;
-}
-
-bool ReplaceFile(const std::string& path, const std::string& bytes) {
-  const std::string target = TargetOf(path);
-  std::string temporary;
-  FileDescriptor file(CreateTemporary(target, temporary));
-  if (!file.IsOpen()) return false;
-  const bool written = CopyOwnership(target, file.Get()) && WriteAll(file.Get(), bytes) &&
-                       fsync(file.Get()) == 0 &&
-                       std::rename(temporary.c_str(), target.c_str()) == 0;
-  if (!written) unlink(temporary.c_str());
-  return written;
-}
-
 std::string WithoutTrailingSpaces(std::string text) {
   text.resize(std::min(text.find('\0'), text.size()));
   text.erase(text.find_last_not_of(' ') + 1);
@@ -114,7 +40,9 @@ std::string WithoutTrailingSpaces(std::string text) {
 
 }  // namespace
 
-PosixProfileFile::~PosixProfileFile() { Flush(); }
+PosixProfileFile::PosixProfileFile(FileCalls calls) : calls_(std::move(calls)) {}
+
+PosixProfileFile::~PosixProfileFile() { PosixProfileFile::Flush(); }
 
 std::string PosixProfileFile::GetString(const std::string& section, const std::string& key,
                                         const std::string& fallback, std::size_t size,
@@ -131,7 +59,10 @@ bool PosixProfileFile::WriteString(const std::string& section, const std::string
                                    const std::string& value, const std::string& path) {
   Use(path);
   Refresh();
-  if (!CanWrite()) return false;
+  if (const int error = CheckWritable(); error != 0) {
+    last_error_ = error;
+    return false;
+  }
   if (text_.Set(section, key, value)) pending_.push_back({section, key, value});
   return true;
 }
@@ -167,23 +98,27 @@ void PosixProfileFile::Refresh() {
 
 PosixProfileFile::State PosixProfileFile::ReadFile(std::string& bytes) {
   settled_ = false;
-  if (path_.empty() || path_.find('\0') != std::string::npos) return State::kUnusable;
+  if (path_.empty() || path_.find('\0') != std::string::npos) return Unusable(EINVAL);
   struct stat status = {};
-  if (stat(path_.c_str(), &status) != 0)
-    return errno == ENOENT ? State::kMissing : State::kUnusable;
-  if (!S_ISREG(status.st_mode)) return State::kUnusable;
+  if (stat(path_.c_str(), &status) != 0) return errno == ENOENT ? State::kMissing : Unusable(errno);
+  if (!S_ISREG(status.st_mode)) return Unusable(EISDIR);
   const FileDescriptor file(open(path_.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
   const std::int64_t now = FileClock();
-  if (!file.IsOpen() || fstat(file.Get(), &status) != 0 || !S_ISREG(status.st_mode))
-    return State::kUnusable;
-  if (status.st_size > static_cast<off_t>(kMaxBytes)) return State::kUnusable;
-  std::optional<std::string> all = ReadAll(file.Get(), kMaxBytes);
-  if (!all) return State::kUnusable;
-  bytes = std::move(*all);
+  if (!file.IsOpen() || fstat(file.Get(), &status) != 0) return Unusable(errno);
+  if (!S_ISREG(status.st_mode)) return Unusable(EISDIR);
+  if (status.st_size > static_cast<off_t>(kMaxBytes)) return Unusable(EFBIG);
+  std::string all;
+  if (const int error = ReadRest(file.Get(), all, calls_); error != 0) return Unusable(error);
+  bytes = std::move(all);
   stamp_ = StampOf(status);
   const std::int64_t step = stamp_.modified % kSecond == 0 ? kCoarseStep : kFineStep;
   settled_ = now - std::max(stamp_.modified, stamp_.changed) > step;
   return State::kPresent;
+}
+
+PosixProfileFile::State PosixProfileFile::Unusable(int error) {
+  unusable_for_ = error;
+  return State::kUnusable;
 }
 
 void PosixProfileFile::Rebuild() {
@@ -191,12 +126,13 @@ void PosixProfileFile::Rebuild() {
   for (const Write& write : pending_) text_.Set(write.section, write.key, write.value);
 }
 
-bool PosixProfileFile::CanWrite() const {
-  if (state_ == State::kUnusable) return false;
+// Zero, or the number of the system's error.
+int PosixProfileFile::CheckWritable() const {
+  if (state_ == State::kUnusable) return unusable_for_;
   if (state_ == State::kPresent && faccessat(AT_FDCWD, path_.c_str(), W_OK, AT_EACCESS) != 0)
-    return false;
-  const std::string folder = FolderOf(TargetOf(path_));
-  return faccessat(AT_FDCWD, folder.c_str(), W_OK | X_OK, AT_EACCESS) == 0;
+    return errno;
+  const std::string folder = FolderOf(TargetOf(path_)) + '/';
+  return faccessat(AT_FDCWD, folder.c_str(), W_OK | X_OK, AT_EACCESS) == 0 ? 0 : errno;
 }
 
 bool PosixProfileFile::WriteOut() {
@@ -204,14 +140,19 @@ bool PosixProfileFile::WriteOut() {
   Refresh();
   std::string bytes = text_.Bytes();
   pending_.clear();
-  if (CanWrite() && (bytes == bytes_ || ReplaceFile(path_, bytes))) {
+  int error = CheckWritable();
+  if (error == 0 && bytes != bytes_) error = ReplaceFile(path_, bytes, kNewFileMode, calls_);
+  if (error == 0) {
     bytes_ = std::move(bytes);
     state_ = State::kPresent;
     settled_ = false;
     return true;
   }
+  last_error_ = error;
   Rebuild();
   return false;
 }
+
+ErrorNumber PosixProfileFile::LastError() const { return ErrorOfCall(last_error_); }
 
 }  // namespace lorimet

@@ -1,15 +1,17 @@
 // The profile file where the platform has none: our own reading and writing of its text.
 #pragma once
 
-#include "support/profile_text.h"
-#include "platform/profile_file.h"
+#include <sys/stat.h>
 
 #include <cstddef>
 #include <cstdint>
 #include <string>
 #include <vector>
 
-#include <sys/stat.h>
+#include "adapters/posix/file_calls.h"
+#include "adapters/posix/whole_file.h"
+#include "platform/profile_file.h"
+#include "support/profile_text.h"
 
 namespace lorimet {
 
@@ -20,9 +22,9 @@ namespace lorimet {
 // Anything but a regular file of at most kMaxBytes reads as missing and cannot be written.
 class PosixProfileFile : public ProfileFile {
  public:
-  static constexpr std::size_t kMaxBytes = std::size_t{64} << 20;
+  static constexpr std::size_t kMaxBytes = kLargestFile;
 
-  PosixProfileFile() = default;
+  explicit PosixProfileFile(FileCalls calls = {});
   PosixProfileFile(const PosixProfileFile&) = delete;
   PosixProfileFile& operator=(const PosixProfileFile&) = delete;
   ~PosixProfileFile() override;
@@ -33,6 +35,7 @@ class PosixProfileFile : public ProfileFile {
   bool WriteString(const std::string& section, const std::string& key, const std::string& value,
                    const std::string& path) override;
   bool Flush() override;
+  ErrorNumber LastError() const override;
 
  private:
   struct Stamp {
@@ -54,10 +57,12 @@ class PosixProfileFile : public ProfileFile {
   void Use(const std::string& path);
   void Refresh();
   State ReadFile(std::string& bytes);
+  State Unusable(int error);
   void Rebuild();
-  bool CanWrite() const;
+  int CheckWritable() const;
   bool WriteOut();
 
+  FileCalls calls_;
   std::string path_;
   State state_ = State::kUnread;
   Stamp stamp_;
@@ -65,7 +70,9 @@ class PosixProfileFile : public ProfileFile {
   std::string bytes_;     // on disk
   ProfileText text_;      // with the pending writes
   std::vector<Write> pending_;
-  bool failed_ = false;  // writing out an earlier file
+  bool failed_ = false;   // writing out an earlier file
+  int unusable_for_ = 0;  // the system's error
+  int last_error_ = 0;    // the same of the last call that answered false
 };
 
 }  // namespace lorimet

@@ -2,17 +2,14 @@
 
 #include <fcntl.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 #include <algorithm>
 #include <cerrno>
-#include <cstdio>
-#include <filesystem>
-#include <system_error>
 #include <utility>
 
 #include "adapters/posix/file_descriptor.h"
 #include "adapters/posix/user_folders.h"
+#include "adapters/posix/whole_file.h"
 
 namespace lorimet {
 
@@ -21,8 +18,7 @@ namespace {
 constexpr std::int32_t kInvalidHandle = 6;
 constexpr std::int32_t kInvalidParameter = 87;
 constexpr std::uint32_t kRegKeyQueryValue = 1;
-// More than any registry that a person would drop in.
-constexpr off_t kLargestFile = 64 << 20;
+constexpr mode_t kNewFileMode = 0600;
 
 std::string WholePath(RegistryHive hive, const std::string& path) {
   const std::string root =
@@ -37,29 +33,10 @@ bool IsOneLine(const std::string& text) {
                       [](char code) { return static_cast<unsigned char>(code) < ' '; });
 }
 
-bool WriteWhole(int descriptor, const std::string& bytes) {
-  std::size_t written = 0;
-  while (written < bytes.size()) {
-    const ssize_t count = write(descriptor, bytes.data() + written, bytes.size() - written);
-    if (count < 0 && errno != EINTR) {
-      return false;
-    }
-    written += count > 0 ? static_cast<std::size_t>(count) : 0;
-  }
-  return fsync(descriptor) == 0;
-}
-
-// Makes sure that a rename in the folder outlives a power cut.
-void SyncFolder(const std::string& folder) {
-  const FileDescriptor opened(open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
-  if (opened.IsOpen()) {
-    fsync(opened.Get());
-  }
-}
-
 }  // namespace
 
-PosixRegistry::PosixRegistry(std::string file) : file_(std::move(file)) {}
+PosixRegistry::PosixRegistry(std::string file, FileCalls calls)
+    : file_(std::move(file)), calls_(std::move(calls)) {}
 
 std::string PosixRegistry::DefaultFile() {
   return ConfigFolder() + "/norvick-lorimet/registry.reg";
@@ -154,52 +131,20 @@ PosixRegistry::Loaded PosixRegistry::Load() const {
   }
   struct stat status {};
   if (fstat(opened.Get(), &status) != 0 || !S_ISREG(status.st_mode) ||
-      status.st_size > kLargestFile) {
+      status.st_size > static_cast<off_t>(kLargestFile)) {
     return {std::nullopt, false};
   }
-  std::string bytes(static_cast<std::size_t>(status.st_size), '\0');
-  std::size_t size = 0;
-  while (size < bytes.size()) {
-    const ssize_t count = read(opened.Get(), bytes.data() + size, bytes.size() - size);
-    if (count < 0 && errno == EINTR) {
-      continue;
-    }
-    if (count < 0) {
-      return {std::nullopt, false};
-    }
-    if (count == 0) {
-      break;
-    }
-    size += static_cast<std::size_t>(count);
+  std::string bytes;
+  if (ReadRest(opened.Get(), bytes, calls_) != 0) {
+    return {std::nullopt, false};
   }
-  bytes.resize(size);
   const bool empty = bytes.find_first_not_of(" \t\r\n") == std::string::npos;
   return {RegistryFile::Parse(bytes), empty};
 }
 
 bool PosixRegistry::Store(const RegistryFile& file) const {
-  // A link to the file stays one.
-  std::error_code error;
-  const std::filesystem::path linked = std::filesystem::canonical(file_, error);
-  const std::string target = error ? file_ : linked.string();
-  const std::string fresh = target + ".new";
-  if (!MakeFolder(FolderOf(target))) {
-    return false;
-  }
-  unlink(fresh.c_str());
-  FileDescriptor opened(
-      open(fresh.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC, 0600));
-  struct stat status {};
-  if (opened.IsOpen() && stat(target.c_str(), &status) == 0) {
-    fchmod(opened.Get(), status.st_mode & 0777);
-  }
-  const bool written = opened.IsOpen() && WriteWhole(opened.Get(), file.Bytes());
-  if (!written || std::rename(fresh.c_str(), target.c_str()) != 0) {
-    unlink(fresh.c_str());
-    return false;
-  }
-  SyncFolder(FolderOf(target));
-  return true;
+  return MakeFolder(FolderOf(TargetOf(file_))) &&
+         ReplaceFile(file_, file.Bytes(), kNewFileMode, calls_) == 0;
 }
 
 RegistryKey PosixRegistry::Remember(const std::string& path, std::uint32_t access) {

@@ -7,6 +7,7 @@
 #include <string>
 #include <vector>
 
+#include "adapters/posix/file_calls.h"
 #include "adapters/posix/registry_file.h"
 #include "platform/registry.h"
 
@@ -18,7 +19,7 @@ namespace lorimet {
 // overwritten either (kRegAccessDenied). Keys and names are in code page 1252 like the texts.
 class PosixRegistry : public Registry {
  public:
-  explicit PosixRegistry(std::string file = DefaultFile());
+  explicit PosixRegistry(std::string file = DefaultFile(), FileCalls calls = {});
   // registry.reg in this program's folder in the user's configuration.
   static std::string DefaultFile();
 
@@ -47,6 +48,7 @@ class PosixRegistry : public Registry {
   RegistryKey Remember(const std::string& path, std::uint32_t access);
 
   std::string file_;
+  FileCalls calls_;
   std::map<RegistryKey, OpenedKey> opened_;
   RegistryKey last_key_ = 0;
 };

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <limits>
 
+#include "adapters/windows/file_errors.h"
+
 #include <windows.h>
 
 namespace lorimet {
@@ -44,8 +46,10 @@ std::string WindowsProfileFile::GetString(const std::string& section, const std:
 
 bool WindowsProfileFile::WriteString(const std::string& section, const std::string& key,
                                      const std::string& value, const std::string& path) {
-  return WritePrivateProfileStringA(section.c_str(), key.c_str(), value.c_str(),
-                                    FullPath(path).c_str()) != 0;
+  const bool written = WritePrivateProfileStringA(section.c_str(), key.c_str(), value.c_str(),
+                                                  FullPath(path).c_str()) != 0;
+  if (!written) last_error_ = ErrorOfCall(GetLastError());
+  return written;
 }
 
 }  // namespace lorimet

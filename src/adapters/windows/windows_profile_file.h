@@ -18,6 +18,10 @@ class WindowsProfileFile : public ProfileFile {
   bool WriteString(const std::string& section, const std::string& key, const std::string& value,
                    const std::string& path) override;
   bool Flush() override { return true; }
+  ErrorNumber LastError() const override { return last_error_; }
+
+ private:
+  ErrorNumber last_error_ = ErrorNumber::kDeviceIoError;
 };
 
 }  // namespace lorimet
