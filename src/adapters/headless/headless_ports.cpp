@@ -1,28 +1,30 @@
 #include "adapters/headless/headless_ports.h"
 
 #include <algorithm>
-#include <cctype>
 #include <fstream>
 #include <sstream>
 
 #include "adapters/headless/xml_reader.h"
 #include "platform/runtime_error.h"
+#include "support/text.h"
 
 namespace lorimet {
 namespace {
 
-std::string Lower(std::string text) {
-  std::ranges::transform(text, text.begin(), [](char c) {
-    return static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
-  });
-  return text;
+constexpr std::int32_t kInvalidHandle = 6;
+constexpr std::uint32_t kRegKeyQueryValue = 1;
+
+// A key as it is looked up.
+std::string Folded(const std::string& key) {
+  const std::string folded = ToLowerCp1252(key);
+  return folded.substr(0, folded.find_last_not_of('\\') + 1);
 }
 
 }  // namespace
 
 void MemoryRegistry::SetRaw(RegistryHive hive, const std::string& key, const std::string& name,
                             Value value) {
-  keys_[{hive, Lower(key)}][Lower(name)] = std::move(value);
+  keys_[{hive, Folded(key)}][ToLowerCp1252(name)] = std::move(value);
 }
 
 void MemoryRegistry::SetText(RegistryHive hive, const std::string& key, const std::string& name,
@@ -40,31 +42,39 @@ void MemoryRegistry::SetNumber(RegistryHive hive, const std::string& key, const 
 }
 
 void MemoryRegistry::Remove(RegistryHive hive, const std::string& key, const std::string& name) {
-  keys_[{hive, Lower(key)}].erase(Lower(name));
+  keys_[{hive, Folded(key)}].erase(ToLowerCp1252(name));
 }
 
 const MemoryRegistry::Value* MemoryRegistry::Find(RegistryHive hive, const std::string& key,
                                                   const std::string& name) const {
-  const auto values = keys_.find({hive, Lower(key)});
+  const auto values = keys_.find({hive, Folded(key)});
   if (values == keys_.end()) return nullptr;
-  const auto value = values->second.find(Lower(name));
+  const auto value = values->second.find(ToLowerCp1252(name));
   return value == values->second.end() ? nullptr : &value->second;
 }
 
 std::int32_t MemoryRegistry::OpenKey(RegistryHive hive, const std::string& path,
                                      std::uint32_t access, RegistryKey& key) {
-  static_cast<void>(access);
   if (open_answer != kRegSuccess) return open_answer;
-  if (!keys_.contains({hive, Lower(path)})) return kRegFileNotFound;
-  opened_.emplace_back(hive, Lower(path));
-  key = opened_.size();
-  ++open_;
+  // A key is there when it or one below it is.
+  const Path wanted{hive, Folded(path)};
+  const bool found = std::ranges::any_of(keys_, [&](const auto& row) {
+    const auto& [in, name] = row.first;
+    return in == hive && (wanted.second.empty() || name == wanted.second ||
+                          name.starts_with(wanted.second + '\\'));
+  });
+  if (!found) return kRegFileNotFound;
+  key = ++last_key_;
+  opened_[key] = {wanted, access};
   return kRegSuccess;
 }
 
 std::int32_t MemoryRegistry::QueryValue(RegistryKey key, const std::string& name,
                                         std::uint32_t& type, std::vector<std::uint8_t>& data) {
-  const Path& path = opened_.at(key - 1);
+  const auto opened = opened_.find(key);
+  if (opened == opened_.end()) return kInvalidHandle;
+  const auto& [path, access] = opened->second;
+  if ((access & kRegKeyQueryValue) == 0) return kRegAccessDenied;
   const Value* value = Find(path.first, path.second, name);
   if (value == nullptr) return kRegFileNotFound;
   type = value->type;
@@ -75,24 +85,23 @@ std::int32_t MemoryRegistry::QueryValue(RegistryKey key, const std::string& name
 
 std::int32_t MemoryRegistry::SetDword(RegistryKey key, const std::string& name,
                                       std::uint32_t value) {
-  const Path path = opened_.at(key - 1);
+  const auto opened = opened_.find(key);
+  if (opened == opened_.end()) return kInvalidHandle;
+  const auto& [path, access] = opened->second;
+  if ((access & kRegKeySetValue) == 0) return kRegAccessDenied;
   SetNumber(path.first, path.second, name, value);
   return kRegSuccess;
 }
 
 std::int32_t MemoryRegistry::CreateKey(RegistryHive hive, const std::string& path,
                                        std::uint32_t access, RegistryKey& key) {
-  static_cast<void>(access);
   if (create_answer != kRegSuccess) return create_answer;
-  keys_[{hive, Lower(path)}];
+  keys_[{hive, Folded(path)}];
   open_answer = kRegSuccess;
   return MemoryRegistry::OpenKey(hive, path, access, key);
 }
 
-void MemoryRegistry::CloseKey(RegistryKey key) {
-  static_cast<void>(key);
-  --open_;
-}
+void MemoryRegistry::CloseKey(RegistryKey key) { opened_.erase(key); }
 
 std::intptr_t HeadlessMessageHook::OriginalProcedure::OnMessage(std::uintptr_t window,
                                                                 std::uint32_t message,

@@ -32,7 +32,7 @@ class MemoryRegistry : public Registry {
   void Remove(RegistryHive hive, const std::string& key, const std::string& name);
   // Null when there is none.
   const Value* Find(RegistryHive hive, const std::string& key, const std::string& name) const;
-  int OpenKeys() const { return open_; }
+  int OpenKeys() const { return static_cast<int>(opened_.size()); }
   // What OpenKey answers instead of looking; kRegSuccess looks.
   std::int32_t open_answer = kRegSuccess;
   std::int32_t create_answer = kRegSuccess;
@@ -49,8 +49,8 @@ class MemoryRegistry : public Registry {
  private:
   using Path = std::pair<RegistryHive, std::string>;
   std::map<Path, std::map<std::string, Value>> keys_;
-  std::vector<Path> opened_;
-  int open_ = 0;
+  std::map<RegistryKey, std::pair<Path, std::uint32_t>> opened_;  // with their access rights
+  RegistryKey last_key_ = 0;
 };
 
 class HeadlessMessageHook : public MessageHook {
