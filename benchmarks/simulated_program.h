@@ -8,7 +8,9 @@
 #include <vector>
 
 #include "adapters/headless/headless_desktop.h"
+#include "adapters/headless/headless_files.h"
 #include "adapters/headless/headless_ports.h"
+#include "adapters/headless/recording_printer.h"
 #include "adapters/posix/posix_profile_file.h"
 #include "autotests/common/simulated_link.h"
 #include "faults/faults.h"
@@ -38,7 +40,7 @@ struct SimulatedProgram {
   SimulatedProgram(Desktop& desktop, VirtualClock& virtual_clock, TranslationSource& translations)
       : clock(virtual_clock),
         program({desktop, clock, registry, hook, process, link, help_viewer, translations,
-                 profile_file}) {
+                 profile_file, text_files, printer}) {
     process.files = {"/launcher"};
     registry.SetText(RegistryHive::kLocalMachine, std::string(kAppPathsKey) + "Hubrest.exe", "",
                      "/launcher");
@@ -91,6 +93,8 @@ struct SimulatedProgram {
   BenchLink link;
   RecordingHelpViewer help_viewer;
   PosixProfileFile profile_file;
+  MemoryTextFiles text_files;
+  RecordingPrinter printer;
   Program program;
   int changes = 0;
 };

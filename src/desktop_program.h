@@ -8,10 +8,12 @@
 #include "adapters/qt/qt_clock.h"
 #include "adapters/qt/qt_desktop.h"
 #include "adapters/qt/qt_help_viewer.h"
+#include "adapters/qt/qt_page_printer.h"
 #include "adapters/qt/qt_toolkit_texts.h"
 #include "adapters/qt/qt_translations.h"
 #include "program.h"
 #include "session/loaded_link_library.h"
+#include "support/support_part.h"
 
 #if defined(_WIN32)
 #include "adapters/windows/windows_help_viewer.h"
@@ -20,13 +22,14 @@
 #include "adapters/windows/windows_profile_file.h"
 #include "adapters/windows/windows_registry.h"
 #include "adapters/windows/windows_shared_library.h"
+#include "adapters/windows/windows_text_file.h"
 #else
 #include "adapters/posix/posix_message_hook.h"
 #include "adapters/posix/posix_process.h"
 #include "adapters/posix/posix_profile_file.h"
 #include "adapters/posix/posix_registry.h"
 #include "adapters/posix/posix_shared_library.h"
-#include "support/support_part.h"
+#include "adapters/posix/posix_text_file.h"
 #endif
 
 namespace lorimet {
@@ -58,25 +61,28 @@ class DesktopProgram {
   QtClock clock{[this](std::uint32_t milliseconds) { desktop.Wait(milliseconds); }};
   QtTranslations translations;
   QtToolkitTexts toolkit_texts;
+  QtPagePrinter printer;
 #if defined(_WIN32)
   WindowsRegistry registry;
   WindowsMessageHook hook;
   WindowsProcess process;
   WindowsProfileFile profile_file;
+  WindowsTextFiles text_files;
   WindowsLibraryLoader loader;
 #else
   PosixRegistry registry;
   PosixMessageHook hook;
   PosixProcess process;
   PosixProfileFile profile_file;
+  PosixTextFiles text_files;
   PosixLibraryLoader loader;
 #endif
   LoadedLinkLibrary link{loader};
   QtHelpViewer help_viewer{process.ProgramFolder(), [this](const std::string& text) {
                              return program.support->dictionary.Translate(text);
                            }};
-  Program program{
-      {desktop, clock, registry, hook, process, link, help_viewer, translations, profile_file}};
+  Program program{{desktop, clock, registry, hook, process, link, help_viewer, translations,
+                   profile_file, text_files, printer}};
 
  private:
   std::unique_ptr<QSocketNotifier> notifier_;

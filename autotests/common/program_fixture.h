@@ -7,7 +7,9 @@
 #include <vector>
 
 #include "adapters/headless/headless_desktop.h"
+#include "adapters/headless/headless_files.h"
 #include "adapters/headless/headless_ports.h"
+#include "adapters/headless/recording_printer.h"
 #include "adapters/posix/posix_profile_file.h"
 #include "autotests/common/fake_link.h"
 #include "platform/runtime_error.h"
@@ -63,8 +65,10 @@ class ProgramTest : public testing::Test {
   RecordingHelpViewer help_viewer;
   TsTranslations translations{LORIMET_SOURCE_ROOT "/translations"};
   PosixProfileFile profile_file;
-  Program program{
-      {desktop, clock, registry, hook, process, link, help_viewer, translations, profile_file}};
+  MemoryTextFiles text_files;
+  RecordingPrinter printer;
+  Program program{{desktop, clock, registry, hook, process, link, help_viewer, translations,
+                   profile_file, text_files, printer}};
 };
 
 }  // namespace lorimet::testing_support

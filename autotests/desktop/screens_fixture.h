@@ -11,7 +11,9 @@
 #include <vector>
 
 #include "adapters/headless/headless_desktop.h"
+#include "adapters/headless/headless_files.h"
 #include "adapters/headless/headless_ports.h"
+#include "adapters/headless/recording_printer.h"
 #include "adapters/posix/posix_profile_file.h"
 #include "adapters/qt/qt_desktop.h"
 #include "autotests/common/fake_link.h"
@@ -96,8 +98,10 @@ class ScreensTest : public testing::Test {
   RecordingHelpViewer help_viewer;
   TsTranslations translations{LORIMET_SOURCE_ROOT "/translations"};
   PosixProfileFile profile_file;
-  Program program{
-      {desktop, clock, registry, hook, process, link, help_viewer, translations, profile_file}};
+  MemoryTextFiles text_files;
+  RecordingPrinter printer;
+  Program program{{desktop, clock, registry, hook, process, link, help_viewer, translations,
+                   profile_file, text_files, printer}};
 
  private:
   QTimer boxes_;

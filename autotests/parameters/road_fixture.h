@@ -38,8 +38,9 @@ class RoadFixture : public Base {
       link->link.Advance(milliseconds / 1000.0);
     };
     desktop.on_do_events = [this] { hook.Deliver(); };
-    program = std::make_unique<Program>(Ports{desktop, clock, registry, hook, process, *link,
-                                              help_viewer, translations, profile_file});
+    program =
+        std::make_unique<Program>(Ports{desktop, clock, registry, hook, process, *link, help_viewer,
+                                        translations, profile_file, text_files, printer});
     ASSERT_EQ(program->Start(), EntryResult::kRunning);
     one_modulator_ = Ecu().bNumModulators.Load() == 1;
   }
@@ -102,6 +103,8 @@ class RoadFixture : public Base {
   RecordingHelpViewer help_viewer;
   TsTranslations translations{LORIMET_SOURCE_ROOT "/translations"};
   PosixProfileFile profile_file;
+  MemoryTextFiles text_files;
+  RecordingPrinter printer;
   std::unique_ptr<SimulatedLink> link;
   std::unique_ptr<Program> program;
 

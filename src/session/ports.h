@@ -8,9 +8,11 @@ class Desktop;
 class HelpViewer;
 class LinkLibrary;
 class MessageHook;
+class PagePrinter;
 class Process;
 class ProfileFile;
 class Registry;
+class TextFiles;
 class TranslationSource;
 
 struct Ports {
@@ -23,6 +25,8 @@ struct Ports {
   HelpViewer& help_viewer;
   TranslationSource& translations;
   ProfileFile& profile_file;
+  TextFiles& text_files;
+  PagePrinter& printer;
 };
 
 }  // namespace lorimet
