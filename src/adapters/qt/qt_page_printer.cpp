@@ -76,7 +76,7 @@ class QtPagePrinter::PdfFile : public Device {
     const QByteArray& bytes = bytes_.data();
     return file_.write(bytes) == bytes.size() && file_.commit();
   }
-  void Abort() override { file_.cancelWriting(); }
+  void Abort() override {}  // what is not committed goes
 
  private:
   QSaveFile file_;
