@@ -1,5 +1,6 @@
 // The tour: the program goes through its screens by itself on the simulated trailer and leaves a
-// picture of each, and the files that it wrote, in a folder.
+// picture of each, and the files that it wrote, in a folder. It fails at a screen in an error
+// state.
 //
 //     lorimet_tour FOLDER [en|fr|es]
 //
@@ -23,6 +24,7 @@
 
 #include "adapters/qt/qt_style.h"
 #include "desktop_program.h"
+#include "tour_check.h"
 
 namespace {
 
@@ -42,6 +44,8 @@ T* Find(const QString& window_name, const QString& name) {
   return window == nullptr ? nullptr : window->findChild<T*>(name);
 }
 
+enum class Content { kSome, kPerhapsNone };
+
 // One look at the program, and what is done once it shows what was waited for.
 struct Step {
   QString what;
@@ -51,8 +55,13 @@ struct Step {
 
 class Tour {
  public:
-  Tour(const lorimet::QtDesktop& desktop, QString folder, QString control)
-      : desktop_(desktop), folder_(std::move(folder)), control_(std::move(control)) {
+  using Translator = std::function<std::string(const std::string&)>;
+
+  Tour(const lorimet::QtDesktop& desktop, QString folder, QString control, Translator translate)
+      : desktop_(desktop),
+        folder_(std::move(folder)),
+        control_(std::move(control)),
+        translate_(std::move(translate)) {
     QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] { Look(); });
   }
 
@@ -73,16 +82,23 @@ class Tour {
         window, [window] { return Window(window) != nullptr; }, std::move(act));
   }
   // Takes a picture of a window once it has settled.
-  void Picture(const QString& window, const QString& name) {
+  void Picture(const QString& window, const QString& name, Content content = Content::kSome) {
     WhenShown(window, [] {});
     Pause(kSettle);
-    WhenShown(window, [this, window, name] { Save(window, name); });
+    WhenShown(window, [this, window, name, content] { Save(window, name, content); });
   }
-  void Save(const QString& window, const QString& name) {
+  void Save(const QString& window, const QString& name, Content content = Content::kSome) {
     const QString file = QString("%1-%2.png").arg(++pictures_, 2, 10, QChar('0')).arg(name);
-    if (!Window(window)->grab().save(folder_ + "/" + file)) failed_ = true;
+    if (!Window(window)->grab().save(folder_ + "/" + file)) Fail(file + " cannot be written");
     std::printf("    %s\n", qPrintable(file));
     std::fflush(stdout);
+    const QString wrong = lorimet::WrongWith(*Window(window), content == Content::kPerhapsNone);
+    if (!wrong.isEmpty())
+      Fail(QString("%1 shows %2 in an error state: %3").arg(file, window, wrong));
+  }
+  void Fail(const QString& why) {
+    std::fprintf(stderr, "    %s\n", qPrintable(why));
+    failed_ = true;
   }
   void Pause(int milliseconds) {
     auto since = std::make_shared<QElapsedTimer>();
@@ -112,9 +128,15 @@ class Tour {
         },
         [window, button] { Find<QAbstractButton>(window, button)->click(); });
   }
-  void PressBox() {
-    WhenShown("msgBox", [] {
+  // Answers a message box with its first button; one that does not say `text` is an error.
+  void PressBox(const std::string& text) {
+    WhenShown("msgBox", [this, text] {
       auto* box = qobject_cast<QMessageBox*>(Window("msgBox"));
+      const QString said = box->text().simplified();
+      const QString plain = QString::fromStdString(text);
+      const QString translated = QString::fromStdString(translate_(text));
+      if (!said.contains(plain) && !said.contains(translated))
+        Fail(QString("A box says \"%1\" in place of \"%2\"").arg(said, translated));
       box->buttons().constFirst()->click();
     });
   }
@@ -127,7 +149,7 @@ class Tour {
         command, [] { return true; },
         [this, command] {
           QFile file(control_);
-          if (!file.open(QIODevice::Append)) failed_ = true;
+          if (!file.open(QIODevice::Append)) Fail(control_ + " cannot be written");
           file.write(command.toUtf8() + "\n");
         });
   }
@@ -152,7 +174,7 @@ class Tour {
     Parameters();
     HelpAndAbout();
     Trigger("tbrABS_exit");
-    PressBox();  // there is no launcher to return to
+    PressBox("Could not locate the Norvick Main executable.");  // no launcher to return to
   }
 
   void LinkTrouble() {
@@ -175,7 +197,7 @@ class Tour {
     Picture("frmFaults", "faults");
     Operator("fault 5 7 gone");
     Press("frmFaults", "cmdClearAll");
-    Picture("frmFaults", "faults-cleared");
+    Picture("frmFaults", "faults-cleared", Content::kPerhapsNone);
     Press("frmFaults", "cmdExit");
     WhenGone("frmFaults");
   }
@@ -195,7 +217,7 @@ class Tour {
       QMetaObject::invokeMethod(dialog, "accept");
     });
     Picture("msgBox", "parameters-saved-to-file");
-    PressBox();
+    PressBox("Write to file complete.");
     WhenGone("frmOVGParm3");
     Trigger("mnuSystem_0");
     Press("frmOVGParm1", "cmdNext");
@@ -203,7 +225,7 @@ class Tour {
     Press("frmOVGParm2", "cmdNext");
     Press("frmOVGParm3", "cmdSaveToECU");
     Picture("msgBox", "parameters-saved-to-ecu");
-    PressBox();
+    PressBox("The Parameter Data has been saved.");
     WhenGone("frmOVGParm3");
   }
 
@@ -254,11 +276,9 @@ class Tour {
       timer_.stop();
       return;
     }
-    if (failed_ || waited_.elapsed() > kPatience) {
-      std::fprintf(stderr, "The tour cannot go on: it waits for %s\n",
-                   qPrintable(steps_.front().what));
-      std::_Exit(1);
-    }
+    if (waited_.elapsed() > kPatience)
+      Fail(QString("The tour cannot go on: it waits for ") + steps_.front().what);
+    if (failed_) std::_Exit(1);
     if (!steps_.front().ready()) return;
     const Step step = std::move(steps_.front());
     steps_.pop_front();
@@ -269,6 +289,7 @@ class Tour {
   const lorimet::QtDesktop& desktop_;
   QString folder_;
   QString control_;
+  Translator translate_;
   QTimer timer_;
   QElapsedTimer waited_;
   std::deque<Step> steps_;
@@ -317,7 +338,10 @@ int main(int argc, char** argv) {
   QApplication::setQuitOnLastWindowClosed(false);
   lorimet::ApplyStyle(application);
   lorimet::DesktopProgram desktop_program;
-  Tour tour(desktop_program.desktop, folder, folder + "/operator.txt");
+  Tour tour(desktop_program.desktop, folder, folder + "/operator.txt",
+            [&](const std::string& text) {
+              return desktop_program.program.support->dictionary.Translate(text);
+            });
   tour.Begin();
   if (desktop_program.program.Start() == lorimet::EntryResult::kRunning)
     desktop_program.desktop.Run();
