@@ -49,6 +49,7 @@ ports     The table of ports in ARCHITECTURE.md is true: its first column names 
           each further column, but for the one that says what the port is, at least one class that
           derives from a class of that header, or says "not yet". Every header of src/platform that
           declares an interface is in the table.
+names     A private member of a class ends in `_`, one with a required name as well: `bRestarting_`.
 budget    A folder of BUDGETS has no more lines than it says. What belongs to the toolkit is left to
           the toolkit: before a budget grows, see what can go.
 word      No line holds what FORBIDDEN lists.
@@ -129,6 +130,9 @@ CONTAINERS = {
 }
 DECORATION = re.compile(r"static|.*_caption$")
 DECORATIONS = ("QLabel", "QGroupBox", "QFrame")
+
+# Private members of a required name that do not follow the rule yet.
+UNCHANGED_NAMES = {("frmOVGParm1", "bLoading"), ("frmOVGParm1", "nAxlePos")}
 
 # The most lines that a folder's headers and sources may have.
 BUDGETS = {
@@ -524,6 +528,35 @@ def check_ports(tree):
             yield f"{file}:1: ports: the table of ports in ARCHITECTURE.md lacks it"
 
 
+def private_members(body):
+    """The names of the private data members in the body of a class, as far as each has a line."""
+    depth, private = 0, True
+    for line in body.splitlines():
+        if depth == 0:
+            m = re.match(r"\s*(public|protected|private)\s*:", line)
+            if m:
+                private = m[1] == "private"
+            m = re.match(r"\s+(?!\s|using|friend|static|constexpr|return|typedef|enum|struct|class)"
+                         r"[\w:<>,*& ]+[\w>*&] (\w+)(\[\w+\])?(\{.*\}| = [^()]*)?;", line)
+            if private and m:
+                yield m[1]
+        depth += line.count("{") - line.count("}")
+
+
+def check_names(tree):
+    for file, text in sorted(tree.text.items()):
+        if not file.startswith(("src/", "simulator/")):
+            continue
+        for m in re.finditer(r"\bclass\s+(\w+)[^;{]*\{", text):
+            depth, end = 1, m.end()
+            while depth and end < len(text):
+                depth += {"{": 1, "}": -1}.get(text[end], 0)
+                end += 1
+            for name in private_members(text[m.end():end - 1]):
+                if not name.endswith("_") and (m[1], name) not in UNCHANGED_NAMES:
+                    yield f"{file}:1: names: the private member {name} of {m[1]} lacks its _"
+
+
 def lines_of(tree, folder):
     return sum(len((tree.root / name).read_bytes().splitlines()) for name in tree.text
                if name.rpartition("/")[0] == folder)
@@ -566,7 +599,7 @@ def findings(root):
     tree = Tree(root)
     result = []
     for check in (check_toolkit, check_up, check_circles, check_ui, check_kinds, check_ports,
-                  check_budgets):
+                  check_names, check_budgets):
         result += check(tree)
     result += check_words(Path(root))
     return result

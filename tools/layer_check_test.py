@@ -453,6 +453,21 @@ class LayerCheckTest(unittest.TestCase):
         self.ports()
         self.assert_finds("src/platform/clock.h:1: ports")
 
+    def test_private_members_end_in_an_underscore(self):
+        good = ("  bool bRestarting_ = false;", "  std::array<int, 4> nAxlePos_{};",
+                "  static constexpr int kRows = 3;", "  friend class Form;", "  void OnTick();",
+                "  struct Row {\n    int number = 0;\n  };", "  using Name = std::string;",
+                "  Label& label_;", " public:\n  int open = 0;")
+        for member in good:
+            with self.subTest(member):
+                self.write("src/session/a.h", "class A {\n private:\n" + member + "\n};\n")
+                self.assert_clean()
+        for member in ("  bool bRestarting = false;", "  std::array<int, 4> nAxlePos{};",
+                       "  Label& label;", "  std::map<int, std::string> rows;"):
+            with self.subTest(member):
+                self.write("src/session/a.h", "class A {\n private:\n" + member + "\n};\n")
+                self.assert_finds("src/session/a.h:1: names", "of A lacks its _")
+
     def test_a_folder_keeps_to_its_budget(self):
         most = layer_check.BUDGETS["src/platform"]
         self.write("src/platform/a.cpp", "\n" * (most - 1))  # forms.h has a line, too
