@@ -71,12 +71,13 @@ fresh_base() {
   printf '%s' "$wanted" >"$base.made"
 }
 
-# Runs a command in the clone inside the copy. Its mounts are its own and vanish with it.
+# Runs a command in the clone inside the copy. Its mounts and processes are its own; they vanish with
+# it, and it ends with this script.
 within_fresh() {
   local root=$1
   shift
   # shellcheck disable=SC2016  # expanded inside
-  unshare --mount --pid --ipc --uts --fork --kill-child --propagation private -- \
+  setpriv --pdeathsig KILL unshare --mount --pid --ipc --uts --fork --kill-child --propagation private -- \
     bash -ceu '
       root=$1 cache=$2 home=$3
       shift 3
