@@ -136,11 +136,11 @@ UNCHANGED_NAMES = {("frmOVGParm1", "bLoading"), ("frmOVGParm1", "nAxlePos")}
 
 # The most lines that a folder's headers and sources may have.
 BUDGETS = {
-    "src/platform": 2000,
-    "src/adapters/qt": 4200,
+    "src/platform": 2200,
+    "src/adapters/qt": 4500,
     "src/adapters/posix": 2500,
     "src/adapters/windows": 1800,
-    "src/adapters/headless": 1700,
+    "src/adapters/headless": 1900,
 }
 
 # Patterns are written so that this file does not match itself.
