@@ -190,6 +190,25 @@ TEST_F(WizardTest, EmptyCellsOfAxlesThatAreNotThereCanBeLeft) {
     }
 }
 
+TEST_F(WizardTest, TabulatorVisitsWhatIsReadBack) {
+  System().Load();
+  for (const int axles : {1, 2, 3}) {
+    System().optNumAxles[axles - 1].UserClick();
+    Page().Unload();
+    Page().Load();
+    for (int i = 0; i < 5; ++i) {
+      EXPECT_EQ(Page().txtAxleLoadUnladen[i].TabStop(), i < axles) << axles << " " << i;
+      EXPECT_EQ(Page().txtAxleLoadLaden[i].TabStop(), i < axles) << axles << " " << i;
+      for (const auto* column : {&Page().txtSuspensionPressUnladen, &Page().txtSuspensionPressLaden,
+                                 &Page().txtBrakingPressUnladen, &Page().txtBrakingPressLadenPm_AN,
+                                 &Page().txtBrakingPressLadenPm_K1,
+                                 &Page().txtBrakingPressLadenPm_Max, &Page().txtLeverLength})
+        EXPECT_EQ((*column)[i].TabStop(), i == 0) << (*column)[i].Name();
+    }
+  }
+  EXPECT_TRUE(Page().txtTrailerVIN.TabStop());
+}
+
 TEST_F(WizardTest, FieldsInPsiSaySo) {
   Speak(kFrench);
   OpenPage();

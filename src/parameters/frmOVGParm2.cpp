@@ -34,6 +34,21 @@ std::string FieldOf(const std::string& text, const TextField& field) {
   return bytes;
 }
 
+// The tabulator visits what is read back: the loads of the axles that are there, and the first row
+// of every other column.
+void SetTabStops(const frmOVGParm2& page, int axles) {
+  for (int row = 0; row < kRows; ++row) {
+    const bool used = row < axles;
+    page.txtAxleLoadUnladen[row].SetTabStop(used);
+    page.txtAxleLoadLaden[row].SetTabStop(used);
+    for (const auto* column :
+         {&page.txtSuspensionPressUnladen, &page.txtSuspensionPressLaden,
+          &page.txtBrakingPressUnladen, &page.txtBrakingPressLadenPm_AN,
+          &page.txtBrakingPressLadenPm_K1, &page.txtBrakingPressLadenPm_Max, &page.txtLeverLength})
+      (*column)[row].SetTabStop(row == 0);
+  }
+}
+
 }  // namespace
 
 frmOVGParm2::frmOVGParm2(const WizardParts& parts)
@@ -115,6 +130,7 @@ void frmOVGParm2::OnLoad() {
       (*column)[i].SetBackColor(kColorButtonFace);
     }
   ShowControlPressures();
+  SetTabStops(*this, parts_.image.nNumAxlesSelected);
 }
 
 void frmOVGParm2::ShowDiagram() {
