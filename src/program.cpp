@@ -40,6 +40,7 @@ EntryResult Program::Start() {
 
 void Program::OnUnhandledError(const RuntimeError& error) {
   exit_status_ = 1;
+  ports_.desktop.life.Fail();
   if (error.Number() != kObjectError) ports_.desktop.ShowMessageBox(UnhandledErrorBox(error));
   session->main_form.CloseLink();
 }

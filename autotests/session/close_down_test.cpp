@@ -124,22 +124,16 @@ TEST_F(CloseDownTest, StatusesThatTheLibraryPostsWhileItClosesAreLost) {
   ExpectEndedInOrder();
 }
 
-TEST_F(CloseDownTest, AMissingLauncherIsToldWhileTheMainFormStillStands) {
-  const std::vector<std::function<void()>> ways = {
-      [&] { process.starts = false; },
-      [&] { process.files.clear(); },
-      [&] {
-        registry.Remove(RegistryHive::kLocalMachine, std::string(kAppPathsKey) + "Hubrest.exe", "");
-      },
-  };
-  for (const auto& way : ways) {
-    way();
-    Main().Load();
-    link.TakeCalls();
+class MissingLauncherTest : public CloseDownTest {
+ protected:
+  void ExpectToldAtTheEnd() {
+    Start();
     desktop.OnBox([&](const MessageBox&) {
       EXPECT_TRUE(Main().Visible());
       EXPECT_EQ(link.calls, kClose);
       Main().mnuTools[1].UserClick();  // refused
+      Main().mnuSystem[0].UserClick();
+      Main().mnuODR[1].UserClick();
       Main().tbrABS_exit.UserClick();
     });
     Main().UserClose();
@@ -148,7 +142,62 @@ TEST_F(CloseDownTest, AMissingLauncherIsToldWhileTheMainFormStillStands) {
                                   BoxIcon::kCritical)});
     EXPECT_EQ(link.TakeCalls(), kClose);
     EXPECT_FALSE(Main().Loaded());
+    EXPECT_EQ(desktop.ModalForms(), Calls{});
   }
+};
+
+TEST_F(MissingLauncherTest, ThatDoesNotStartIsToldWhileTheMainFormStillStands) {
+  process.starts = false;
+  ExpectToldAtTheEnd();
+}
+
+TEST_F(MissingLauncherTest, WhoseFileIsGoneIsToldWhileTheMainFormStillStands) {
+  process.files.clear();
+  ExpectToldAtTheEnd();
+}
+
+TEST_F(MissingLauncherTest, ThatIsNotInstalledIsToldWhileTheMainFormStillStands) {
+  registry.Remove(RegistryHive::kLocalMachine, std::string(kAppPathsKey) + "Hubrest.exe", "");
+  ExpectToldAtTheEnd();
+}
+
+TEST_F(MissingLauncherTest, IsToldAloneWhenALibraryThatNeverConnectedPostsErrorsMeanwhile) {
+  process.files.clear();
+  link.answers["Connect"] = {128};
+  desktop.OnModal("frmRP1210Err", [](Form& form) { form.Unload(); });
+  Start();
+  desktop.TakeBoxes();
+  desktop.OnBox([&](const MessageBox&) {
+    // The hook of the failed connect stands.
+    for (const std::int32_t status : {0, -100, -500, -67}) hook.Post(status);
+    desktop.DoEvents();
+  });
+  Main().UserClose();
+  EXPECT_EQ(desktop.TakeBoxes().size(), 1u);
+  EXPECT_EQ(link.TakeCalls(), Calls{"StopSession"});
+  EXPECT_EQ(desktop.ModalForms(), Calls{"frmRP1210Err"});
+  EXPECT_EQ(desktop.Beeps(), 0);
+  EXPECT_TRUE(desktop.LoadedForms().empty());
+}
+
+TEST_F(CloseDownTest, LoadsNoFormBehindItself) {
+  Start();
+  link.on_call = [&](const std::string& call) {
+    if (call == "StopSession") first_.Load();
+  };
+  Main().UserClose();
+  second_.Show();
+  EXPECT_FALSE(first_.Loaded());
+  EXPECT_FALSE(second_.Loaded());
+  ExpectEndedInOrder();
+}
+
+TEST_F(CloseDownTest, PaintsThePanelNoMore) {
+  Start();
+  desktop.life.Close();
+  Ecu().dServiceBrake.Store(7.0);
+  Main().tmrABS.Tick();
+  EXPECT_NE(Main().txtServiceBrake.Text(), "7.0");
 }
 
 TEST_F(CloseDownTest, TheMissingLauncherIsToldInTheUsersLanguage) {

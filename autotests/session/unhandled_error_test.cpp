@@ -8,6 +8,7 @@
 #include "autotests/common/program_fixture.h"
 #include "platform/runtime_error.h"
 #include "session/session_part.h"
+#include "support/settings.h"
 
 namespace lorimet::testing_support {
 namespace {
@@ -49,10 +50,38 @@ TEST_F(UnhandledErrorTest, InACommandIsToldAndClosesTheLinkInOrder) {
 
 TEST_F(UnhandledErrorTest, InAStatusIsToldLikewise) {
   Start();
-  Ecu().nODRUploadStep.Store(-1);
+  program.session->messages.show_upload_step = [](const std::string&, int) { Raise(); };
   AtTheTop([&] { hook.Send(hook.message_id, 0, -67); });
   EXPECT_EQ(desktop.TakeBoxes(), kOverflowBox);
   EXPECT_EQ(link.TakeCalls(), kClose);
+}
+
+TEST_F(UnhandledErrorTest, IsToldAloneWhateverTheLibraryPostsMeanwhile) {
+  Start();
+  desktop.OnBox([&](const MessageBox&) {
+    for (const std::int32_t status : {-500, 0, -100}) hook.Post(status);
+    desktop.DoEvents();
+    Main().mnuSystem[0].UserClick();
+    desktop.Run(300);
+  });
+  AtTheTop(Raise);
+  EXPECT_EQ(desktop.TakeBoxes(), kOverflowBox);
+  EXPECT_EQ(desktop.ModalForms(), Calls{});
+  EXPECT_EQ(desktop.Beeps(), 0);
+  EXPECT_EQ(link.TakeCalls(), kClose);
+}
+
+TEST_F(UnhandledErrorTest, OfAProcedureThatShowsItItselfIsToldAloneToo) {
+  registry.SetText(RegistryHive::kCurrentUser, kProductKey, "DeviceID", "COM1");
+  desktop.OnBox([&](const MessageBox&) {
+    program.session->messages.SubclassMainWindow();
+    hook.Post(-100);
+    desktop.DoEvents();
+  });
+  EXPECT_EQ(program.Start(), EntryResult::kEnded);
+  EXPECT_EQ(desktop.TakeBoxes(), Boxes{PlainBox("13:  Type mismatch", "Error")});
+  EXPECT_EQ(desktop.ModalForms(), Calls{});
+  EXPECT_EQ(program.ExitStatus(), 1);
 }
 
 TEST_F(UnhandledErrorTest, ThatTheUserHasReadAlreadyShowsNoSecondBox) {

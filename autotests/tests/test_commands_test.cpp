@@ -129,6 +129,36 @@ TEST_F(TestCommandsTest, ServicesThatFailAreTriedFourTimesAndTheTestRunsNoneTheL
   EXPECT_EQ(link.TakeCalls(), expected);
 }
 
+TEST_F(TestCommandsTest, AWindowClosedInTheRestartBehindTheStopLightsSendsNothingMore) {
+  link.on_static_read = [&] { desktop.After(100, [&] { Main().UserClose(); }); };
+  Ecu().nLinkJobDone.Store(0);
+  Main().mnuTests[5].UserClick();
+  EXPECT_EQ(link.TakeCalls(),
+            (Calls{"StartSession 83", "Password", "StartRoutine 42:00000100", "test 5",
+                   "Disconnect", "Connect", "ReadStaticData", "StartSession 83", "Password",
+                   "BusMonitorStopRecord", "Disconnect", "StopSession"}));
+  EXPECT_TRUE(desktop.LoadedForms().empty());
+}
+
+TEST_F(TestCommandsTest, AWindowClosedBehindATestSendsAndTellsNothingMore) {
+  for (auto& show : program.tests->commands.show)
+    show = [&, shown = show] {
+      shown();
+      Main().UserClose();
+    };
+  const Calls closed = {
+      "StartSession 83", "Password",   "StartRoutine 42:00000100", "test 0", "BusMonitorStopRecord",
+      "Disconnect",      "StopSession"};
+  Main().mnuTests[0].UserClick();
+  EXPECT_EQ(link.TakeCalls(), closed);
+}
+
+TEST_F(TestCommandsTest, AWindowClosedBehindTheToolbarsSensorTestSendsNothingMore) {
+  program.tests->commands.show[2] = [&] { Main().UserClose(); };
+  Main().tbrABS_sensor.UserClick();
+  EXPECT_EQ(link.TakeCalls().back(), "StopSession");
+}
+
 TEST_F(TestCommandsTest, TheToolbarsLampTestUsesNoParameterAccess) {
   Main().tbrABS_valve.UserClick();
   EXPECT_EQ(link.TakeCalls(), (Calls{"StartSession 83", "Password", "test 3"}));

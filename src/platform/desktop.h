@@ -9,6 +9,8 @@
 #include <string>
 #include <vector>
 
+#include "platform/life_cycle.h"
+
 namespace lorimet {
 
 class Control;
@@ -129,6 +131,8 @@ class Desktop {
   virtual std::optional<int> ChooseFromList(const std::string& title,
                                             const std::vector<std::string>& items,
                                             int selected) = 0;
+
+  LifeCycle life;
 
   // Loaded forms in the order of their loading.
   const std::vector<Form*>& LoadedForms() const { return loaded_forms_; }

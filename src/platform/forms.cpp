@@ -10,7 +10,7 @@ Form::Form(Desktop& desktop, std::string name) : desktop_(desktop), name_(std::m
 Form::~Form() { DropView(); }
 
 void Form::Load() {
-  if (loaded_ || unloading_) return;
+  if (loaded_ || unloading_ || !desktop_.life.Open()) return;
   for (Control* control : controls_) control->Reset();
   caption_.clear();
   pointer_ = MousePointer::kDefault;

@@ -30,7 +30,8 @@ class Form : public ControlOwner {
   const std::string& Name() const { return name_; }
   Desktop& GetDesktop() const override { return desktop_; }
 
-  // Does nothing when the form is loaded already.
+  // Does nothing when the form is loaded already, or once the program closes or has failed: a form
+  // that came up behind the close-down would keep the process alive for ever.
   void Load() override;
   bool Loaded() const override { return loaded_; }
   bool Visible() const { return visible_; }

@@ -22,10 +22,11 @@ EntryResult Main(const EntryParts& parts) {
     parts.main_form.SetMousePointer(MousePointer::kHourglass);
     parts.main_form.Load();
     // The user can have closed the window while the first connection was made.
-    if (!parts.main_form.Loaded()) return EntryResult::kEnded;
+    if (!parts.desktop.life.Open()) return EntryResult::kEnded;
     parts.err.Load();
     parts.main_form.Show();
     parts.main_form.SetMousePointer(MousePointer::kArrow);
+    parts.desktop.life.Run();
     return EntryResult::kRunning;
   });
 }

@@ -31,7 +31,6 @@ frmZeltMain::frmZeltMain(const MainFormParts& parts)
 }
 
 void frmZeltMain::OnLoad() {
-  closed_ = session_stopped_ = false;
   bRestarting_ = false;
   SetMousePointer(MousePointer::kHourglass);
   bConnected = false;
@@ -46,11 +45,10 @@ void frmZeltMain::OnLoad() {
   parts_.connection.messages.SetErrorControl(&txtError);
   Show();
   GetDesktop().DoEvents();
-  if (!Loaded()) return;
+  if (!GetDesktop().life.Open()) return;
   for (const auto& reset : reset_results) reset();
   RestartECU();
-  if (!Loaded()) return;
-  SetMousePointer(MousePointer::kArrow);
+  if (GetDesktop().life.Open()) SetMousePointer(MousePointer::kArrow);
 }
 
 void frmZeltMain::SetStartLanguage() {
@@ -83,6 +81,7 @@ void frmZeltMain::OnKeyDown(KeyEvent& key) {
 void frmZeltMain::OnKeyPress(int& character) { character = 0; }
 
 void frmZeltMain::OnTick() {
+  if (!GetDesktop().life.Open()) return;
   frmErr& err = parts_.err;
   if (parts_.connection.records.link_status.bLinkAttained.Load() != 0) {
     const Dictionary& dictionary = parts_.connection.dictionary;
@@ -98,62 +97,81 @@ void frmZeltMain::RestartECU() {
     SetMousePointer(MousePointer::kArrow);
     return;
   }
+  using M = frmZeltMain;
   bRestarting_ = true;
-  if (!CloseOldConnection()) return;
-  GetDesktop().DoEvents();
-  if (closed_) return;
-  if (bConnected) {
+  for (const auto step :
+       {&M::CloseOldConnection, &M::LookForConnection, &M::LetEventsRun, &M::OpenConnection,
+        &M::BeginReading, &M::ReadIdentity, &M::ShowIdentity}) {
+    const Restart result = (this->*step)();
+    // The user can have closed the window meanwhile; the close-down has the last word.
+    if (!GetDesktop().life.Open()) return;
+    if (result == Restart::kGoesOn) continue;
     bRestarting_ = false;
-    SetMousePointer(MousePointer::kArrow);
+    if (result == Restart::kEnds) SetMousePointer(MousePointer::kArrow);
     return;
   }
-  GetDesktop().DoEvents();
-  if (closed_) return;
-  ResetLastShown();
-  const std::int16_t result = ConnectECU(parts_.connection, txtError);
-  if (closed_) return;
-  if (result != 0) {
-    ShowRestartError(
-        "Please check to make sure the device drivers and libraries are correctly "
-        "installed.");
-    if (closed_) return;
-    bRestarting_ = false;
-    SetMousePointer(MousePointer::kArrow);
-    return;
-  }
-  bConnected = true;
-  txtError.SetText("");
-  SetMousePointer(MousePointer::kHourglass);
-  GetDesktop().DoEvents();
-  if (closed_) return;
-  for (const auto& prepare : before_static_read) prepare();
-  parts_.connection.link.Trailer_ABS_QOR_ReadStaticData();
-  StartEcuSession(parts_.connection.link);
-  WaitForStaticData();
-  if (closed_) return;
-  DisplayCompId();
-  tmrABS.SetInterval(kRefreshInterval);
-  tmrABS.SetEnabled(true);
-  bRestarting_ = false;
-  SetMousePointer(MousePointer::kArrow);
 }
 
-// False when the library could not close the connection; the user has been told.
-bool frmZeltMain::CloseOldConnection() {
-  if (!bConnected) return true;
+frmZeltMain::Restart frmZeltMain::CloseOldConnection() {
+  if (!bConnected) return Restart::kGoesOn;
   const std::int16_t result = DisconnectECU(parts_.connection);
   bConnected = false;
   ClearStatusPanel();
-  if (closed_) return false;
-  if (result == 0) return true;
+  if (result == 0) return Restart::kGoesOn;
   ShowRestartError(
       "Please check the connection and make sure the cable is properly connected.  "
       "Click the \"Restart\" button to try again.");
-  if (!closed_) bRestarting_ = false;
-  return false;
+  return Restart::kEndsWithPointer;
 }
 
+frmZeltMain::Restart frmZeltMain::LookForConnection() {
+  GetDesktop().DoEvents();
+  return bConnected ? Restart::kEnds : Restart::kGoesOn;
+}
+
+frmZeltMain::Restart frmZeltMain::LetEventsRun() {
+  GetDesktop().DoEvents();
+  return Restart::kGoesOn;
+}
+
+frmZeltMain::Restart frmZeltMain::OpenConnection() {
+  ResetLastShown();
+  if (ConnectECU(parts_.connection, txtError) == 0) return Restart::kGoesOn;
+  ShowRestartError(
+      "Please check to make sure the device drivers and libraries are correctly "
+      "installed.");
+  return Restart::kEnds;
+}
+
+frmZeltMain::Restart frmZeltMain::BeginReading() {
+  bConnected = true;
+  txtError.SetText("");
+  SetMousePointer(MousePointer::kHourglass);
+  return LetEventsRun();
+}
+
+// Waits without a time-out: the user can close the window meanwhile.
+frmZeltMain::Restart frmZeltMain::ReadIdentity() {
+  for (const auto& prepare : before_static_read) prepare();
+  parts_.connection.link.Trailer_ABS_QOR_ReadStaticData();
+  StartEcuSession(parts_.connection.link);
+  while (GetDesktop().life.Open() && parts_.connection.records.ecu_data.nLinkJobDone.Load() == 0) {
+    parts_.clock.Sleep(kStaticWait);
+    GetDesktop().DoEvents();
+  }
+  return Restart::kGoesOn;
+}
+
+frmZeltMain::Restart frmZeltMain::ShowIdentity() {
+  DisplayCompId();
+  tmrABS.SetInterval(kRefreshInterval);
+  tmrABS.SetEnabled(true);
+  return Restart::kEnds;
+}
+
+// A restart that the close-down has overtaken gives no advice any more.
 void frmZeltMain::ShowRestartError(const std::string& text) {
+  if (!GetDesktop().life.Open()) return;
   Dictionary& dictionary = parts_.connection.dictionary;
   dictionary.ShowMessageBox(dictionary.Translate(text),
                             dictionary.Translate("ERROR: Unable to connect to the device"),
@@ -167,14 +185,6 @@ void frmZeltMain::ResetLastShown() {
   last_shown_.odometer = -99.0;
   last_shown_.voltage_source = kNoValue;
   last_shown_.wheel_speed.fill(kNoValue);
-}
-
-// Without a time-out: the user can close the window meanwhile.
-void frmZeltMain::WaitForStaticData() {
-  while (!closed_ && parts_.connection.records.ecu_data.nLinkJobDone.Load() == 0) {
-    parts_.clock.Sleep(kStaticWait);
-    GetDesktop().DoEvents();
-  }
 }
 
 void frmZeltMain::OnUnload() {
@@ -196,22 +206,23 @@ void frmZeltMain::OnUnload() {
 
 void frmZeltMain::CloseLink() {
   CloseConnection();
-  if (!session_stopped_) StopSession();
+  StopSession();
 }
 
 void frmZeltMain::CloseConnection() {
-  const bool first = !std::exchange(closed_, true);
+  GetDesktop().life.Close();
   bRestarting_ = true;
   if (Loaded()) tmrABS.SetEnabled(false);
   if (!bConnected) return;
-  if (first && actions.stop_recording) actions.stop_recording();
+  if (std::exchange(closing_, Closing::kRecordingStopped) == Closing::kNot)
+    Run(&CommandActions::stop_recording);
   DisconnectECU(parts_.connection);
   bConnected = false;
 }
 
 void frmZeltMain::StopSession() {
-  session_stopped_ = true;
-  parts_.connection.link.Trailer_ABS_KWP_StopSession();
+  if (std::exchange(closing_, Closing::kSessionStopped) != Closing::kSessionStopped)
+    parts_.connection.link.Trailer_ABS_KWP_StopSession();
 }
 
 }  // namespace lorimet

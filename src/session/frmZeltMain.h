@@ -163,10 +163,22 @@ class frmZeltMain : public Form {
   void SetStartLanguage();
   void OnTick();
 
-  bool CloseOldConnection();
+  // What a step of a restart leads to.
+  enum class Restart {
+    kGoesOn,
+    kEnds,
+    kEndsWithPointer,  // ends, and the mouse pointer stays as it was
+  };
+  Restart CloseOldConnection();
+  Restart LookForConnection();
+  Restart LetEventsRun();
+  Restart OpenConnection();
+  Restart BeginReading();
+  Restart ReadIdentity();
+  Restart ShowIdentity();
   void ResetLastShown();
   void ShowRestartError(const std::string& text);
-  void WaitForStaticData();
+
   void CloseConnection();
   void StopSession();
 
@@ -206,8 +218,9 @@ class frmZeltMain : public Form {
   LastShown last_shown_;
   bool bRestarting_ = false;
   bool bMenusDisabled_ = false;
-  bool closed_ = false;  // the close-down has begun
-  bool session_stopped_ = false;
+  // How far the link has been closed; an error in the midst of it goes on from there.
+  enum class Closing { kNot, kRecordingStopped, kSessionStopped };
+  Closing closing_ = Closing::kNot;
 };
 
 }  // namespace lorimet

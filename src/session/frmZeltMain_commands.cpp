@@ -62,6 +62,7 @@ void frmZeltMain::BindCommands() {
 }
 
 bool frmZeltMain::Refused(Guard guard) const {
+  if (!GetDesktop().life.Open()) return true;
   switch (guard) {
     case Guard::kAlways:
       return false;

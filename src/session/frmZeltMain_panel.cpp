@@ -167,7 +167,7 @@ void frmZeltMain::UpdateOdometer() {
 
 void frmZeltMain::ClearStatusPanel() {
   GetDesktop().DoEvents();
-  if (closed_) return;
+  if (!GetDesktop().life.Open()) return;
   const auto blank = [this](TextBox& box, Color color) {
     box.SetText(NoData());
     box.SetBackColor(color);

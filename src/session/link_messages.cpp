@@ -51,7 +51,8 @@ std::intptr_t LinkMessages::WindowProc(std::uintptr_t hwnd, std::uint32_t uMsg,
 }
 
 void LinkMessages::OnStatus(std::int32_t status) {
-  if (ctlErrorText_ == nullptr || !ctlErrorText_->Owner().Loaded()) return;
+  // A library that goes on posting while the program ends finds nobody to tell.
+  if (!desktop_.life.Open() || ctlErrorText_ == nullptr || !ctlErrorText_->Owner().Loaded()) return;
   if (status == kStatusMessageLost) {
     ctlErrorText_->SetText(dictionary_.Translate("LOST A MESSAGE!!!"));
     desktop_.Beep();

@@ -10,12 +10,14 @@ namespace lorimet {
 // user has read already.
 void ShowErrorReport(Desktop& desktop, const RuntimeError& error);
 
-// Runs a module procedure. A run-time error in it is shown and then raised on as kObjectError.
+// Runs a module procedure. A run-time error in it ends the program: it is shown and then raised on
+// as kObjectError.
 template <typename Procedure>
 auto WithErrorReport(Desktop& desktop, const Procedure& procedure) {
   try {
     return procedure();
   } catch (const RuntimeError& error) {
+    desktop.life.Fail();
     ShowErrorReport(desktop, error);
     throw RuntimeError(kObjectError, "");
   }

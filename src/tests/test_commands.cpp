@@ -35,10 +35,17 @@ void TestCommands::RunTest(VehicleTest test) {
   SetParameterAccess(parts_.link, 1);
   Show(test);
   AfterTest(test);
-  SetParameterAccess(parts_.link, 0);
+  CloseAccess();
+}
+
+// The window can have been closed behind a test's screen or in the restart that follows one; the
+// session has been stopped then.
+void TestCommands::CloseAccess() {
+  if (parts_.desktop.life.Open()) SetParameterAccess(parts_.link, 0);
 }
 
 void TestCommands::AfterTest(VehicleTest test) {
+  if (!parts_.desktop.life.Open()) return;
   switch (test) {
     case VehicleTest::kPressure:
       return ShowTestResult(test, parts_.results.nPressureTest);
@@ -67,7 +74,7 @@ void TestCommands::RunSensorTestFromToolbar() {
   StartEcuSession(parts_.link);
   SetParameterAccess(parts_.link, 1);
   Show(VehicleTest::kSensor);
-  SetParameterAccess(parts_.link, 0);
+  CloseAccess();
 }
 
 void TestCommands::ShowTestResult(VehicleTest test, std::int16_t result) {

@@ -53,13 +53,10 @@ class TestCommands {
 
  private:
   void AfterTest(VehicleTest test);
+  void CloseAccess();
   void ShowTestResult(VehicleTest test, std::int16_t result);
 
   TestCommandParts parts_;
 };
-
-// "Pressure Test Failed.  Please resolve issues and run test again." and its box, for the tests
-// from kPressure to kLamp.
-void ShowTestFailed(Desktop& desktop, const Dictionary& dictionary, VehicleTest test);
 
 }  // namespace lorimet

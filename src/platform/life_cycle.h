@@ -1,0 +1,32 @@
+// Where the program stands in its life; statuses, timers, commands and waits consult it.
+#pragma once
+
+namespace lorimet {
+
+enum class LifeStage {
+  kStarting,
+  kRunning,
+  kClosing,  // the close-down has begun
+  kFailed,   // a run-time error ends the program
+};
+
+class LifeCycle {
+ public:
+  LifeStage Stage() const { return stage_; }
+  // Events are handled, waits go on and forms may load: true until the program closes or fails.
+  bool Open() const { return stage_ == LifeStage::kStarting || stage_ == LifeStage::kRunning; }
+
+  void Run() { Move(LifeStage::kRunning); }
+  void Close() { Move(LifeStage::kClosing); }
+  void Fail() { stage_ = LifeStage::kFailed; }
+
+ private:
+  // Forward only: nothing leads out of a failure, and a program that closes does not run again.
+  void Move(LifeStage stage) {
+    if (stage > stage_) stage_ = stage;
+  }
+
+  LifeStage stage_ = LifeStage::kStarting;
+};
+
+}  // namespace lorimet
