@@ -1,7 +1,9 @@
 // The program on a real desktop: Qt and the platform's own calls under the program's ports.
 #pragma once
 
+#include <QCoreApplication>
 #include <QSocketNotifier>
+#include <cstdio>
 #include <cstdlib>
 #include <memory>
 
@@ -29,6 +31,7 @@
 #include "adapters/posix/posix_profile_file.h"
 #include "adapters/posix/posix_registry.h"
 #include "adapters/posix/posix_shared_library.h"
+#include "adapters/posix/posix_termination.h"
 #include "adapters/posix/posix_text_file.h"
 #endif
 
@@ -40,14 +43,21 @@ class DesktopProgram {
   DesktopProgram() {
     desktop.on_unhandled_error = [this](const RuntimeError& error) {
       program.OnUnhandledError(error);
-      // Nothing of what stands on the stack may run again.
-      std::_Exit(program.ExitStatus());
+      EndAtOnce();
     };
     program.support->dictionary.on_language_changed.push_back([this] {
       help_viewer.SetLanguage(program.support->dictionary.Language());
       toolkit_texts.SetLanguage(program.support->dictionary.Language());
     });
+    // The desktop's session ends, maybe in the midst of a screen.
+    QObject::connect(qApp, &QCoreApplication::aboutToQuit, qApp, [this] { program.End(); });
 #if !defined(_WIN32)
+    termination_notifier_ =
+        std::make_unique<QSocketNotifier>(termination.ReadDescriptor(), QSocketNotifier::Read);
+    QObject::connect(termination_notifier_.get(), &QSocketNotifier::activated, qApp, [this] {
+      program.End();
+      EndAtOnce();
+    });
     notifier_ = std::make_unique<QSocketNotifier>(hook.ReadDescriptor(), QSocketNotifier::Read);
     QObject::connect(notifier_.get(), &QSocketNotifier::activated, notifier_.get(), [this] {
       // Statuses of a program that has failed stay in the pipe.
@@ -55,6 +65,17 @@ class DesktopProgram {
       desktop.RunEvent([this] { hook.Drain(); });
     });
 #endif
+  }
+
+  // The whole life of the program; gives the process's exit status. A library that did not
+  // disconnect goes on writing into the records and posting from its own thread, so nothing of ours
+  // ends before the process does.
+  int Run() {
+    auto started = EntryResult::kEnded;
+    desktop.RunEvent([&] { started = program.Start(); });
+    if (started == EntryResult::kRunning) desktop.Run();
+    if (link.MayStillRun()) EndAtOnce();
+    return program.ExitStatus();
   }
 
   QtDesktop desktop;
@@ -76,6 +97,7 @@ class DesktopProgram {
   PosixProfileFile profile_file;
   PosixTextFiles text_files;
   PosixLibraryLoader loader;
+  PosixTermination termination;
 #endif
   LoadedLinkLibrary link{loader};
   QtHelpViewer help_viewer{process.ProgramFolder(), [this](const std::string& text) {
@@ -85,7 +107,14 @@ class DesktopProgram {
                    profile_file, text_files, printer}};
 
  private:
+  // Nothing of what stands on the stack may run again.
+  [[noreturn]] void EndAtOnce() const {
+    std::fflush(nullptr);
+    std::_Exit(program.ExitStatus());
+  }
+
   std::unique_ptr<QSocketNotifier> notifier_;
+  std::unique_ptr<QSocketNotifier> termination_notifier_;
 };
 
 }  // namespace lorimet

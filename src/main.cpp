@@ -9,9 +9,8 @@ int main(int argc, char** argv) {
   QApplication::setApplicationName("Norvick Lorimet");
   QApplication::setQuitOnLastWindowClosed(false);
   lorimet::ApplyStyle(application);
-  lorimet::DesktopProgram desktop_program;
-  auto started = lorimet::EntryResult::kEnded;
-  desktop_program.desktop.RunEvent([&] { started = desktop_program.program.Start(); });
-  if (started == lorimet::EntryResult::kRunning) desktop_program.desktop.Run();
-  return desktop_program.program.ExitStatus();
+  // Never deleted: the link library's thread may use the records and the message hook as long as
+  // the process lives.
+  static auto* const desktop_program = new lorimet::DesktopProgram;
+  return desktop_program->Run();
 }

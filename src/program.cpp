@@ -45,4 +45,8 @@ void Program::OnUnhandledError(const RuntimeError& error) {
   session->main_form.CloseLink();
 }
 
+void Program::End() {
+  if (session->main_form.Loaded()) session->main_form.CloseLink();
+}
+
 }  // namespace lorimet

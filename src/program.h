@@ -33,6 +33,10 @@ class Program {
   // Tells the user of a run-time error that nobody handled and closes the link in order; the
   // process is to end with ExitStatus.
   void OnUnhandledError(const RuntimeError& error);
+  // Closes the link in order when the system ends the program: without its screens, the launcher or
+  // a word to a user who may be gone. Does nothing before the main form is loaded and after its own
+  // close-down.
+  void End();
   // 0, or 1 after a run-time error that ended the program.
   int ExitStatus() const { return exit_status_; }
 

@@ -5,6 +5,8 @@
 #include <poll.h>
 #include <unistd.h>
 
+#include <atomic>
+#include <chrono>
 #include <functional>
 #include <stdexcept>
 #include <thread>
@@ -204,6 +206,27 @@ TEST_F(MessageHookTest, DropsWhatIsOnItsWayButNotHalfAStatus) {
   Post(4);
   hook_.Drain();
   EXPECT_EQ(procedure_.Statuses(), (Statuses{3, 4}));
+}
+
+TEST_F(MessageHookTest, AFloodEndsNeitherTheDroppingNorTheDraining) {
+  std::atomic<bool> enough = false;
+  std::thread library([&] {
+    const std::vector<std::int32_t> statuses(1000, 0);
+    const auto limit = std::chrono::steady_clock::now() + std::chrono::seconds(5);
+    while (!enough && std::chrono::steady_clock::now() < limit) {
+      // Larger bites than the reader's; a full pipe refuses them.
+      [[maybe_unused]] const ssize_t written =
+          write(static_cast<int>(hook_.MainWindow()), statuses.data(),
+                statuses.size() * sizeof(std::int32_t));
+    }
+    EXPECT_TRUE(enough) << "the reader did not come back while the flood went on";
+  });
+  while (!IsReadable()) {
+  }
+  hook_.DropPending();
+  hook_.Drain();
+  enough = true;
+  library.join();
 }
 
 TEST_F(MessageHookTest, TheOriginalProcedureIsThereBeforeAndAfterTheHook) {

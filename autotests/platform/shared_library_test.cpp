@@ -2,6 +2,7 @@
 
 #include <dlfcn.h>
 #include <gtest/gtest.h>
+#include <link.h>
 
 #include <cstdlib>
 
@@ -32,6 +33,35 @@ TEST(SharedLibraryTest, FindsTheOperationsOfALibraryAndNoOthers) {
   EXPECT_DOUBLE_EQ(cbrt(27.0), 3.0);
   EXPECT_EQ(library->Symbol("Trailer_ABS_KWP_Password"), nullptr);
   EXPECT_EQ(library->Symbol("CBRT"), nullptr);
+}
+
+// A library of the system that nobody has loaded.
+constexpr char kIdle[] = "libanl.so.1";
+
+std::string FileOfIdleLibrary() {
+  void* handle = dlopen(kIdle, RTLD_NOW | RTLD_LOCAL);
+  link_map* map = nullptr;
+  if (handle == nullptr || dlinfo(handle, RTLD_DI_LINKMAP, &map) != 0) return "";
+  const std::string file = map->l_name;
+  dlclose(handle);
+  return file;
+}
+
+bool IsIdleLibraryLoaded() {
+  void* handle = dlopen(kIdle, RTLD_NOW | RTLD_NOLOAD);
+  if (handle != nullptr) dlclose(handle);
+  return handle != nullptr;
+}
+
+TEST(SharedLibraryTest, ALibraryStaysLoadedOnlyWhereItIsKept) {
+  const std::string file = FileOfIdleLibrary();
+  ASSERT_FALSE(IsIdleLibraryLoaded());
+  PosixLibraryLoader loader;
+  std::string error;
+  ASSERT_NE(loader.Load(file, error), nullptr) << error;
+  EXPECT_FALSE(IsIdleLibraryLoaded());
+  loader.Load(file, error)->Keep();
+  EXPECT_TRUE(IsIdleLibraryLoaded());
 }
 
 TEST(SharedLibraryTest, AFileThatCannotBeLoadedIsToldInWords) {

@@ -21,10 +21,12 @@ class SingleInstanceTest : public testing::Test {
     std::filesystem::create_directory(folder_ / "run");
     chmod((folder_ / "run").c_str(), 0700);
     std::filesystem::create_directory(folder_ / "tmp");
+    std::filesystem::create_directory(folder_ / "users");
     environment_.Set("XDG_RUNTIME_DIR", folder_ / "run");
+    environment_.Set("XDG_CONFIG_HOME", folder_ / "config");
   }
 
-  bool Claim() { return PosixProcess(folder_ / "tmp").ClaimSingleInstance(); }
+  bool Claim() { return PosixProcess(folder_ / "tmp", folder_ / "users").ClaimSingleInstance(); }
   std::string Fallback() const {
     return folder_ / ("tmp/norvick-lorimet-" + std::to_string(getuid()));
   }
@@ -34,7 +36,7 @@ class SingleInstanceTest : public testing::Test {
 };
 
 TEST_F(SingleInstanceTest, IsHeldByOneUntilItIsGone) {
-  auto first = std::make_unique<PosixProcess>(folder_ / "tmp");
+  auto first = std::make_unique<PosixProcess>(folder_ / "tmp", folder_ / "users");
   EXPECT_TRUE(first->ClaimSingleInstance());
   EXPECT_TRUE(first->ClaimSingleInstance());
   EXPECT_FALSE(Claim());
@@ -48,7 +50,7 @@ TEST_F(SingleInstanceTest, IsFreeAgainWhenItsHolderIsKilled) {
   ASSERT_EQ(pipe(ends), 0);
   const pid_t holder = fork();
   if (holder == 0) {
-    PosixProcess process(folder_ / "tmp");
+    PosixProcess process(folder_ / "tmp", folder_ / "users");
     const char claimed = process.ClaimSingleInstance() ? 'y' : 'n';
     if (write(ends[1], &claimed, 1) == 1) {
       pause();
@@ -73,7 +75,7 @@ TEST_F(SingleInstanceTest, IsNotHeldOnByAProgramThatTheHolderStarted) {
   WriteFile(script, "#!/bin/sh\nread line < " + pipe_file + "\n");
   chmod(script.c_str(), 0700);
   {
-    PosixProcess holder(folder_ / "tmp");
+    PosixProcess holder(folder_ / "tmp", folder_ / "users");
     ASSERT_TRUE(holder.ClaimSingleInstance());
     ASSERT_TRUE(holder.Start(script, ""));
   }
@@ -86,7 +88,7 @@ TEST_F(SingleInstanceTest, UsesAFolderOfTheUsersOwnWhereThereIsNoRuntimeFolder) 
        {std::optional<std::string>(), std::optional<std::string>("relative"),
         std::optional<std::string>(folder_ / "missing")}) {
     environment_.Set("XDG_RUNTIME_DIR", runtime);
-    PosixProcess first(folder_ / "tmp");
+    PosixProcess first(folder_ / "tmp", folder_ / "users");
     EXPECT_TRUE(first.ClaimSingleInstance());
     EXPECT_FALSE(Claim());
     struct stat status {};
@@ -96,20 +98,49 @@ TEST_F(SingleInstanceTest, UsesAFolderOfTheUsersOwnWhereThereIsNoRuntimeFolder) 
   }
 }
 
-TEST_F(SingleInstanceTest, FollowsNoLinkAndTrustsNoFolderOpenToOthers) {
+TEST_F(SingleInstanceTest, AStartThatWasNotToldOfTheRuntimeFolderFindsIt) {
+  const std::string runtime = folder_ / ("users/" + std::to_string(getuid()));
+  std::filesystem::create_directory(runtime);
+  chmod(runtime.c_str(), 0700);
+  environment_.Set("XDG_RUNTIME_DIR", runtime);
+  PosixProcess told(folder_ / "tmp", folder_ / "users");
+  ASSERT_TRUE(told.ClaimSingleInstance());
+  environment_.Set("XDG_RUNTIME_DIR", std::nullopt);
+  EXPECT_FALSE(Claim());
+  EXPECT_FALSE(std::filesystem::exists(Fallback()));
+}
+
+TEST_F(SingleInstanceTest, ARuntimeFolderOpenToOthersIsNotTrusted) {
+  const std::string runtime = folder_ / ("users/" + std::to_string(getuid()));
+  std::filesystem::create_directory(runtime);
+  chmod(runtime.c_str(), 0777);
+  environment_.Set("XDG_RUNTIME_DIR", std::nullopt);
+  EXPECT_TRUE(Claim());
+  EXPECT_TRUE(std::filesystem::is_empty(runtime));
+  EXPECT_TRUE(std::filesystem::exists(Fallback()));
+}
+
+// What another user can lay in the way, at any moment.
+TEST_F(SingleInstanceTest, AFolderThatSomebodyElsePreparedDoesNotSwitchTheLockOff) {
   environment_.Set("XDG_RUNTIME_DIR", std::nullopt);
   const std::string elsewhere = folder_ / "elsewhere";
   std::filesystem::create_directory(elsewhere);
+  PosixProcess first(folder_ / "tmp", folder_ / "users");
   std::filesystem::create_directory_symlink(elsewhere, Fallback());
-  EXPECT_TRUE(Claim());
+  EXPECT_TRUE(first.ClaimSingleInstance());
+  EXPECT_FALSE(Claim());
   EXPECT_TRUE(std::filesystem::is_empty(elsewhere));
 
   std::filesystem::remove(Fallback());
-  std::filesystem::create_directory(Fallback());
-  chmod(Fallback().c_str(), 0777);
-  EXPECT_TRUE(Claim());
-  EXPECT_TRUE(std::filesystem::is_empty(Fallback()));
+  EXPECT_FALSE(Claim()) << "the way is free again";
 
+  chmod(Fallback().c_str(), 0777);
+  EXPECT_FALSE(Claim());
+}
+
+TEST_F(SingleInstanceTest, ALockThatIsALinkIsNotFollowed) {
+  environment_.Set("XDG_RUNTIME_DIR", std::nullopt);
+  std::filesystem::create_directory(Fallback());
   chmod(Fallback().c_str(), 0700);
   WriteFile(folder_ / "victim", "");
   std::filesystem::create_symlink(folder_ / "victim", Fallback() + "/lock");
@@ -117,6 +148,15 @@ TEST_F(SingleInstanceTest, FollowsNoLinkAndTrustsNoFolderOpenToOthers) {
   ASSERT_EQ(flock(victim, LOCK_EX | LOCK_NB), 0);
   EXPECT_TRUE(Claim());
   close(victim);
+}
+
+TEST_F(SingleInstanceTest, IsGrantedWhereNoPlaceForTheLockCanBeHad) {
+  environment_.Set("XDG_RUNTIME_DIR", std::nullopt);
+  environment_.Set("XDG_CONFIG_HOME", folder_ / "file/config");
+  WriteFile(folder_ / "file", "");
+  WriteFile(Fallback(), "");
+  EXPECT_TRUE(Claim());
+  EXPECT_TRUE(Claim());
 }
 
 }  // namespace

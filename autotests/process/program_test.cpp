@@ -1,6 +1,7 @@
 // The program as a process: what it shows, what it asks of the library, and how it ends.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -196,6 +197,104 @@ TEST_F(ProgramEndTest, EndsWhenItsWindowIsClosedInAStaticReadThatNeverEnds) {
   EXPECT_EQ(run.ExitStatus(), 0);
   EXPECT_EQ(Record().back(), "Trailer_ABS_KWP_StopSession");
   EXPECT_TRUE(Eventually([this] { return std::filesystem::exists(folder / "launched"); }));
+}
+
+using ProgramTerminationTest = ProgramProcessTest;
+
+const Operations kLinkClosed = {"BusMonitorStopRecord", "Disconnect",
+                                "Trailer_ABS_KWP_StopSession"};
+
+Operations operator+(Operations operations, const Operations& more) {
+  operations.insert(operations.end(), more.begin(), more.end());
+  return operations;
+}
+
+TEST_F(ProgramTerminationTest, ClosesTheLinkInOrderAndStartsNothing) {
+  InstallLauncher();
+  environment["LORIMET32"] = kRecorder;
+  Run run(*this, "run");
+  ASSERT_TRUE(IsConnected(run));
+  run.Terminate();
+  EXPECT_EQ(run.ExitStatus(), 0);
+  EXPECT_EQ(Record(), kStartOperations + kLinkClosed);
+  EXPECT_FALSE(std::filesystem::exists(folder / "launched"));
+}
+
+TEST_F(ProgramTerminationTest, ClosesTheLinkInTheMidstOfTheStaticRead) {
+  environment["LORIMET32"] = kRecorder;
+  Trailer("failure static_read_never_ends");
+  Run run(*this, "run");
+  ASSERT_TRUE(Eventually([this] { return Record() == kStartOperations; }));
+  run.Terminate();
+  EXPECT_EQ(run.ExitStatus(), 0);
+  EXPECT_EQ(Record(), kStartOperations + kLinkClosed);
+}
+
+TEST_F(ProgramTerminationTest, ClosesTheLinkBehindAScreen) {
+  environment["LORIMET32"] = kRecorder;
+  Run run(*this, "run");
+  ASSERT_TRUE(IsConnected(run));
+  ASSERT_TRUE(run.Tell("trigger frmZeltMain mnuHelp_3"));
+  ASSERT_TRUE(run.ShowsWindow("frmAbout"));
+  run.Terminate();
+  EXPECT_EQ(run.ExitStatus(), 0);
+  EXPECT_EQ(Record(), kStartOperations + kLinkClosed);
+}
+
+TEST_F(ProgramTerminationTest, TheEndOfTheApplicationClosesTheLinkToo) {
+  environment["LORIMET32"] = kRecorder;
+  Run run(*this, "run");
+  ASSERT_TRUE(IsConnected(run));
+  ASSERT_TRUE(run.Tell("exit"));
+  EXPECT_EQ(run.ExitStatus(), 0);
+  EXPECT_EQ(Record(), kStartOperations + kLinkClosed);
+}
+
+class StubbornLibraryTest : public ProgramProcessTest {
+ protected:
+  StubbornLibraryTest() { environment["LORIMET32"] = kStubborn; }
+  bool HasPosted() const {
+    const Operations record = Record();
+    return std::ranges::find(record, "posted") != record.end();
+  }
+  // Closes the window and answers that there is no launcher, while the statuses come in.
+  void CloseUnderFire(Run& run) {
+    ASSERT_TRUE(run.Tell("close frmZeltMain"));
+    ASSERT_TRUE(run.ShowsWindow("msgBox"));
+    ASSERT_TRUE(Eventually([this] { return HasPosted(); }));
+    EXPECT_EQ(run.Ask("windows"), "frmZeltMain\nmsgBox");
+    ASSERT_TRUE(run.Tell("click msgBox ."));
+    EXPECT_EQ(run.ExitStatus(), 0);
+    std::filesystem::remove(folder / "record");
+  }
+};
+
+TEST_F(StubbornLibraryTest, ThatRefusesToDisconnectDoesNotKeepTheProgramNorCrashIt) {
+  for (const char* name : {"first", "second", "third"}) {
+    Run run(*this, name);
+    ASSERT_TRUE(run.Shows("frmZeltMain", "txtECUType", "text", "N/A")) << name;
+    CloseUnderFire(run);
+  }
+}
+
+TEST_F(StubbornLibraryTest, ThatRefusedToConnectDoesNotKeepTheProgramNorCrashIt) {
+  environment["LORIMET_STUBBORN"] = "connect";
+  for (const char* name : {"first", "second"}) {
+    Run run(*this, name);
+    ASSERT_TRUE(run.ShowsWindow("frmRP1210Err")) << name;
+    ASSERT_TRUE(run.Tell("click frmRP1210Err cmdOK"));
+    ASSERT_TRUE(run.ShowsWindow("msgBox"));
+    ASSERT_TRUE(run.Tell("click msgBox ."));
+    ASSERT_TRUE(run.ShowsNoWindow("msgBox"));
+    CloseUnderFire(run);
+  }
+}
+
+TEST_F(StubbornLibraryTest, IsLeftByATerminationToo) {
+  Run run(*this, "run");
+  ASSERT_TRUE(run.Shows("frmZeltMain", "txtECUType", "text", "N/A"));
+  run.Terminate();
+  EXPECT_EQ(run.ExitStatus(), 0);
 }
 
 }  // namespace

@@ -160,6 +160,8 @@ void ProcessTest::Run::Kill() {
   status_ = -1;
 }
 
+void ProcessTest::Run::Terminate() const { kill(child_, SIGTERM); }
+
 std::optional<std::string> ProcessTest::Run::Ask(const std::string& command) const {
   sockaddr_un address = {};
   address.sun_family = AF_UNIX;

@@ -24,6 +24,9 @@ class ProcessTest : public testing::Test {
   static constexpr const char* kRecorder =
       LORIMET_BINARY_DIR "/autotests/liblorimet_link_recorder.so";
 
+  static constexpr const char* kStubborn =
+      LORIMET_BINARY_DIR "/autotests/liblorimet_stubborn_library.so";
+
   ProcessTest();
 
   // A row of the product's key in the registry, such as "DeviceID"="7"; before the first run.
@@ -64,6 +67,8 @@ class ProcessTest : public testing::Test {
     // The exit status, -1 when a signal ended it; fails the test when it does not end.
     int ExitStatus();
     void Kill();
+    // Asks it to end as the system does.
+    void Terminate() const;
     // What it wrote to its standard outputs, which is to be nothing.
     std::string Complaints() const;
 

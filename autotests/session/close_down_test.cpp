@@ -180,6 +180,26 @@ TEST_F(MissingLauncherTest, IsToldAloneWhenALibraryThatNeverConnectedPostsErrors
   EXPECT_TRUE(desktop.LoadedForms().empty());
 }
 
+TEST_F(CloseDownTest, ByTheSystemClosesTheLinkInOrderAndOnce) {
+  program.End();
+  EXPECT_EQ(link.TakeCalls(), Calls{});  // no connection was ever tried
+  Start();
+  program.End();
+  EXPECT_EQ(link.TakeCalls(), kClose);
+  EXPECT_EQ(process.started, Calls{});
+  program.End();
+  EXPECT_EQ(link.TakeCalls(), Calls{});
+  EXPECT_EQ(program.ExitStatus(), 0);
+}
+
+TEST_F(CloseDownTest, BySystemAfterItsOwnDoesNothing) {
+  Start();
+  Main().UserClose();
+  link.TakeCalls();
+  program.End();
+  EXPECT_EQ(link.TakeCalls(), Calls{});
+}
+
 TEST_F(CloseDownTest, LoadsNoFormBehindItself) {
   Start();
   link.on_call = [&](const std::string& call) {

@@ -127,6 +127,7 @@ class StandInLoader : public LibraryLoader {
  private:
   class Library : public SharedLibrary {
    public:
+    void Keep() override {}
     void* Symbol(const std::string& name) override {
       const auto found = operations_.find(name);
       return found == operations_.end() ? nullptr : found->second;

@@ -13,9 +13,11 @@ namespace {
 
 int* g_calls = nullptr;  // the operations below have no other way to be asked
 
+std::int32_t g_answer = 42;
+
 std::int32_t LORIMET32_CALL Answer() {
   ++*g_calls;
-  return 42;
+  return g_answer;
 }
 
 // Every operation that the contract lists, written down once more.
@@ -59,6 +61,7 @@ class FakeLoader : public LibraryLoader {
    public:
     explicit Library(FakeLoader& loader) : loader_(loader) { ++loader_.open; }
     ~Library() override { --loader_.open; }
+    void Keep() override { ++loader_.kept; }
     void* Symbol(const std::string& name) override {
       loader_.asked.insert(name);
       return loader_.missing.contains(name) ? nullptr : reinterpret_cast<void*>(&Answer);
@@ -83,6 +86,7 @@ class FakeLoader : public LibraryLoader {
   std::set<std::string> asked;
   std::vector<std::string> loaded;
   int open = 0;
+  int kept = 0;
 };
 
 class LoadedLinkLibraryTest : public testing::Test {
@@ -111,6 +115,7 @@ TEST_F(LoadedLinkLibraryTest, IsLoadedAtTheFirstConnectAndKept) {
   EXPECT_EQ(Connect(), 42);
   EXPECT_EQ(loader.loaded, std::vector<std::string>{"/program/libLorimet32.so"});
   EXPECT_EQ(loader.open, 1);
+  EXPECT_EQ(loader.kept, 1);
   EXPECT_EQ(loader.asked, kOperations);
   EXPECT_EQ(library.Disconnect(), 42);
   EXPECT_EQ(library.Trailer_ABS_KWP_StopSession(), 42);
@@ -135,6 +140,22 @@ TEST_F(LoadedLinkLibraryTest, EveryMissingOperationIsNamedAndNoneIsUsed) {
   EXPECT_EQ(library.FaultLock(), -1);
   EXPECT_EQ(calls, 0);
   EXPECT_EQ(loader.open, 0);
+  EXPECT_EQ(loader.kept, 0);
+}
+
+TEST_F(LoadedLinkLibraryTest, MayRunFromAConnectToADisconnectThatSucceeds) {
+  loader.there = false;
+  EXPECT_EQ(Connect(), 128);
+  EXPECT_FALSE(library.MayStillRun());
+  loader.there = true;
+  EXPECT_EQ(Connect(), 42);  // which is all the same whether it succeeded
+  EXPECT_TRUE(library.MayStillRun());
+  EXPECT_EQ(library.Disconnect(), 42);
+  EXPECT_TRUE(library.MayStillRun());
+  g_answer = 0;
+  EXPECT_EQ(library.Disconnect(), 0);
+  EXPECT_FALSE(library.MayStillRun());
+  g_answer = 42;
 }
 
 TEST_F(LoadedLinkLibraryTest, EachSingleMissingOperationIsEnoughToRefuse) {

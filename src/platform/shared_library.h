@@ -6,10 +6,12 @@
 
 namespace lorimet {
 
-// A library that is loaded; the handle lives as long as the object.
+// A library that is loaded; it is unloaded with the object, unless it is kept.
 class SharedLibrary {
  public:
   virtual ~SharedLibrary() = default;
+  // Never unloads it: a thread of its own may run in it for as long as the process lives.
+  virtual void Keep() = 0;
   // Null when the library has no operation of that name.
   virtual void* Symbol(const std::string& name) = 0;
 };

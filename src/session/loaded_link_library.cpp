@@ -29,6 +29,7 @@ bool LoadedLinkLibrary::Load() {
   }
   table_ = table;
   library_ = std::move(library);
+  library_->Keep();
   failure_.clear();
   return true;
 }
@@ -40,6 +41,7 @@ std::int32_t LoadedLinkLibrary::Connect(char* protocol, std::uint32_t hWnd, char
                                         std::uint8_t* after2, std::uint8_t* after3,
                                         std::uint32_t* afterWord) {
   if (!Load()) return kLibraryMissing;
+  may_still_run_ = true;
   return table_.Connect(protocol, hWnd, vendor, deviceId, family, before2, before1, linkStatus,
                         ecuData, after1, after2, after3, afterWord);
 }
@@ -51,11 +53,18 @@ std::int32_t LoadedLinkLibrary::GetErrorText(std::int32_t code, char* buffer, st
   return 0;
 }
 
+std::int32_t LoadedLinkLibrary::Disconnect() {
+  if (library_ == nullptr) return -1;
+  const std::int32_t result = table_.Disconnect();
+  if (result == 0) may_still_run_ = false;
+  return result;
+}
+
 #define LORIMET32_PASS_ON(name, parameters, arguments)                     \
   std::int32_t LoadedLinkLibrary::name parameters {                        \
     return library_ == nullptr ? std::int32_t{-1} : table_.name arguments; \
   }
-LORIMET32_LINK_OPERATIONS(LORIMET32_PASS_ON)
+LORIMET32_SERVICE_OPERATIONS(LORIMET32_PASS_ON)
 #undef LORIMET32_PASS_ON
 
 }  // namespace lorimet

@@ -10,6 +10,8 @@
 
 namespace lorimet {
 
+// Once loaded the library is never unloaded: it has a thread of its own.
+//
 // While the file cannot be loaded, Connect answers kLibraryMissing, GetErrorText tells why, and
 // every other operation answers -1; the next Connect tries anew.
 class LoadedLinkLibrary : public LinkLibrary {
@@ -22,6 +24,10 @@ class LoadedLinkLibrary : public LinkLibrary {
 #define LORIMET32_OVERRIDE(name, parameters, arguments) std::int32_t name parameters override;
   LORIMET32_OPERATIONS(LORIMET32_OVERRIDE)
 #undef LORIMET32_OVERRIDE
+
+  // The library has been given the records and the window by a Connect, whatever came of that, and
+  // no Disconnect has succeeded since: its thread may go on writing and posting.
+  bool MayStillRun() const { return may_still_run_; }
 
  private:
   struct Table {
@@ -38,6 +44,7 @@ class LoadedLinkLibrary : public LinkLibrary {
   std::unique_ptr<SharedLibrary> library_;
   Table table_;
   std::string failure_;
+  bool may_still_run_ = false;
 };
 
 }  // namespace lorimet

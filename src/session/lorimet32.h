@@ -34,8 +34,7 @@
   /* buffer: `length` blanks and a NUL behind them; a code with no text leaves it as it is. */     \
   X(GetErrorText, (int32_t code, char* buffer, int32_t length), (code, buffer, length))
 
-#define LORIMET32_LINK_OPERATIONS(X)                                                               \
-  X(Disconnect, (void), ())                                                                        \
+#define LORIMET32_SERVICE_OPERATIONS(X)                                                            \
   X(ResetECU, (void), ())                                                                          \
   X(ClearAllFaults, (void), ())                                                                    \
   X(FaultLock, (void), ())                                                                         \
@@ -76,6 +75,8 @@
   X(Trailer_OVG_UploadODRData, (uint8_t step, uint8_t code, int32_t zero), (step, code, zero))     \
   X(Trailer_OVG_ExportODRData, (char* file), (file))                                               \
   X(Trailer_OVG_StopLightActivation, (int32_t trailer, int32_t state), (trailer, state))
+
+#define LORIMET32_LINK_OPERATIONS(X) X(Disconnect, (void), ()) LORIMET32_SERVICE_OPERATIONS(X)
 
 #define LORIMET32_OPERATIONS(X) LORIMET32_FREE_OPERATIONS(X) LORIMET32_LINK_OPERATIONS(X)
 

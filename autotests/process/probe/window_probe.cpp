@@ -9,6 +9,7 @@
 //     click WINDOW NAME            a button; of a message box "." is its only button
 //     trigger WINDOW NAME          a menu item or toolbar button
 //     close WINDOW                 the window's close box
+//     exit                         the end of the application's event loop
 //
 // What a user could not reach, because it is hidden, disabled or behind a modal window, is refused.
 #include <sys/socket.h>
@@ -110,6 +111,8 @@ QString Do(const QStringList& words) {
                  [](QAction* action) { action->trigger(); });
   if (words.size() == 2 && words[0] == "close")
     return Later(ReachableWindow(words[1]), [](QWidget* window) { window->close(); });
+  if (words == QStringList{"exit"})
+    return Later(qApp, [](QCoreApplication*) { QCoreApplication::exit(); });
   throw Refused("unknown command " + words.join(' '));
 }
 

@@ -75,18 +75,21 @@ std::intptr_t PosixMessageHook::CallProcedure(WindowProcedure* previous, std::ui
   return chain_.PassOn(previous, *original_, window, message, wparam, lparam);
 }
 
-void PosixMessageHook::DropPending() {
-  while (ReadStatus()) {
-  }
-}
-
-void PosixMessageHook::Drain() {
+std::size_t PosixMessageHook::Arrived() const {
   int bytes = 0;
   ioctl(reading_.Get(), FIONREAD, &bytes);
   const std::size_t arrived = partial_size_ + static_cast<std::size_t>(bytes);
   // The front of a status counts as one, so that it is taken out of the pipe.
-  for (std::size_t left = (arrived + sizeof(std::int32_t) - 1) / sizeof(std::int32_t); left > 0;
-       --left) {
+  return (arrived + sizeof(std::int32_t) - 1) / sizeof(std::int32_t);
+}
+
+void PosixMessageHook::DropPending() {
+  for (std::size_t left = Arrived(); left > 0 && ReadStatus(); --left) {
+  }
+}
+
+void PosixMessageHook::Drain() {
+  for (std::size_t left = Arrived(); left > 0; --left) {
     const std::optional<std::int32_t> status = ReadStatus();
     if (!status) {
       return;

@@ -36,7 +36,8 @@ class PosixMessageHook : public MessageHook {
   std::intptr_t CallProcedure(WindowProcedure* previous, std::uintptr_t window,
                               std::uint32_t message, std::uintptr_t wparam,
                               std::intptr_t lparam) override;
-  // A status of which only the front has arrived is not dropped, since its rest would be taken for
+  // Drops what has arrived when it is called, so that a library that floods the pipe ends it too. A
+  // status of which only the front has arrived is not dropped, since its rest would be taken for
   // the front of the next one.
   void DropPending() override;
 
@@ -58,6 +59,8 @@ class PosixMessageHook : public MessageHook {
     }
   };
 
+  // How many statuses are in the pipe, one of which only the front has arrived included.
+  std::size_t Arrived() const;
   // The next whole status; none when the pipe is empty. The front of one is kept for later.
   std::optional<std::int32_t> ReadStatus();
 

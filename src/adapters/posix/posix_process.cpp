@@ -6,6 +6,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <array>
 #include <cerrno>
 #include <csignal>
 #include <cstdlib>
@@ -32,18 +33,44 @@ bool IsPrivateFolder(const std::string& path) {
          status.st_uid == getuid() && (status.st_mode & (S_IWGRP | S_IWOTH)) == 0;
 }
 
-// Where the lock may lie, best first. A folder that somebody else prepared does not count.
-std::vector<std::string> LockFiles(const std::string& temporary_folder) {
-  std::vector<std::string> files;
-  const char* runtime = std::getenv("XDG_RUNTIME_DIR");
-  if (runtime != nullptr && runtime[0] == '/' && IsPrivateFolder(runtime)) {
-    files.push_back(std::string(runtime) + "/norvick-lorimet.lock");
+std::string UserNumber() { return std::to_string(static_cast<unsigned long>(getuid())); }
+
+// The folder that lasts as long as the user is logged on; empty when there is none. A start that
+// was not told of it, by su or cron, finds the one that the others have.
+std::string RuntimeFolder(const std::string& runtime_root) {
+  const char* named = std::getenv("XDG_RUNTIME_DIR");
+  if (named != nullptr && named[0] == '/' && IsPrivateFolder(named)) {
+    return named;
   }
-  const std::string fallback =
-      temporary_folder + "/norvick-lorimet-" + std::to_string(static_cast<unsigned long>(getuid()));
-  mkdir(fallback.c_str(), 0700);
-  if (IsPrivateFolder(fallback)) {
-    files.push_back(fallback + "/lock");
+  const std::string folder = runtime_root + "/" + UserNumber();
+  return IsPrivateFolder(folder) ? folder : std::string();
+}
+
+// This machine's own file in a folder that machines may share.
+std::string MachineFile(const std::string& folder) {
+  std::array<char, 256> host{};
+  gethostname(host.data(), host.size() - 1);
+  return folder + "/instance-" + host.data() + ".lock";
+}
+
+// Where the locks lie; the claim needs all of them. A folder that somebody else prepared does not
+// count. Another user can take the name in the temporary folder at any time, and so the user's own
+// folder has a lock too.
+std::vector<std::string> LockFiles(const std::string& temporary_folder,
+                                   const std::string& runtime_root) {
+  const std::string runtime = RuntimeFolder(runtime_root);
+  if (!runtime.empty()) {
+    return {runtime + "/norvick-lorimet.lock"};
+  }
+  std::vector<std::string> files;
+  const std::string temporary = temporary_folder + "/norvick-lorimet-" + UserNumber();
+  mkdir(temporary.c_str(), 0700);
+  if (IsPrivateFolder(temporary)) {
+    files.push_back(temporary + "/lock");
+  }
+  const std::string own = ConfigFolder() + "/norvick-lorimet";
+  if (MakeFolder(own) && IsPrivateFolder(own)) {
+    files.push_back(MachineFile(own));
   }
   return files;
 }
@@ -101,26 +128,28 @@ void Reap(pid_t child) {
 
 }  // namespace
 
-PosixProcess::PosixProcess(std::string temporary_folder)
-    : temporary_folder_(std::move(temporary_folder)), executable_(ExecutablePath()) {}
+PosixProcess::PosixProcess(std::string temporary_folder, std::string runtime_root)
+    : temporary_folder_(std::move(temporary_folder)),
+      runtime_root_(std::move(runtime_root)),
+      executable_(ExecutablePath()) {}
 
 bool PosixProcess::ClaimSingleInstance() {
-  if (instance_lock_.IsOpen()) {
+  if (!instance_locks_.empty()) {
     return true;
   }
-  for (const std::string& file : LockFiles(temporary_folder_)) {
+  std::vector<FileDescriptor> locks;
+  for (const std::string& file : LockFiles(temporary_folder_, runtime_root_)) {
     FileDescriptor lock(open(file.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600));
     if (!lock.IsOpen()) {
       continue;
     }
     if (flock(lock.Get(), LOCK_EX | LOCK_NB) == 0) {
-      instance_lock_ = std::move(lock);
-      return true;
-    }
-    if (errno == EWOULDBLOCK) {
+      locks.push_back(std::move(lock));
+    } else if (errno == EWOULDBLOCK) {
       return false;
     }
   }
+  instance_locks_ = std::move(locks);
   return true;
 }
 

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "adapters/posix/file_descriptor.h"
 #include "platform/process.h"
@@ -11,8 +12,10 @@ namespace lorimet {
 
 class PosixProcess : public Process {
  public:
-  // `temporary_folder` takes the lock of a user who has no runtime folder.
-  explicit PosixProcess(std::string temporary_folder = "/tmp");
+  // `runtime_root` holds the users' runtime folders, and `temporary_folder` takes the lock of a
+  // user who has none.
+  explicit PosixProcess(std::string temporary_folder = "/tmp",
+                        std::string runtime_root = "/run/user");
 
   // The claim is a lock that the kernel takes back when the process ends, however it ends. Where no
   // place for the lock can be had nothing can be known of other instances, and the claim is
@@ -27,8 +30,9 @@ class PosixProcess : public Process {
 
  private:
   std::string temporary_folder_;
+  std::string runtime_root_;
   std::string executable_;
-  FileDescriptor instance_lock_;
+  std::vector<FileDescriptor> instance_locks_;
 };
 
 // The folder that a program of this executable works in: its own, or under a system prefix the

@@ -13,14 +13,20 @@ namespace {
 class LoadedLibrary : public SharedLibrary {
  public:
   explicit LoadedLibrary(void* handle) : handle_(handle) {}
-  ~LoadedLibrary() override { dlclose(handle_); }
+  ~LoadedLibrary() override {
+    if (!kept_) {
+      dlclose(handle_);
+    }
+  }
   LoadedLibrary(const LoadedLibrary&) = delete;
   LoadedLibrary& operator=(const LoadedLibrary&) = delete;
 
+  void Keep() override { kept_ = true; }
   void* Symbol(const std::string& name) override { return dlsym(handle_, name.c_str()); }
 
  private:
   void* handle_;
+  bool kept_ = false;
 };
 
 }  // namespace

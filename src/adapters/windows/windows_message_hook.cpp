@@ -11,6 +11,10 @@ namespace {
 // The window's property that leads from the system's call back to its hook.
 constexpr char kHookProperty[] = "NorvickLorimetHook";
 
+// A message queue holds no more, so this many are all that had been posted when the dropping began;
+// a library that floods the queue ends it too.
+constexpr int kQueueLimit = 10'000;
+
 HWND Window(std::uintptr_t window) { return reinterpret_cast<HWND>(window); }
 
 // A window made for wide characters keeps them: the narrow call would have the system turn what the
@@ -93,7 +97,10 @@ std::intptr_t WindowsMessageHook::CallProcedure(WindowProcedure* previous, std::
 void WindowsMessageHook::DropPending() {
   MSG dropped{};
   for (const std::uint32_t message : registered_) {
-    while (PeekMessageA(&dropped, Window(window_), message, message, PM_REMOVE | PM_NOYIELD)) {
+    int left = kQueueLimit;
+    while (left > 0 &&
+           PeekMessageA(&dropped, Window(window_), message, message, PM_REMOVE | PM_NOYIELD)) {
+      --left;
     }
   }
 }

@@ -2,7 +2,7 @@
 
 #include <windows.h>
 
-#include <lmcons.h>
+#include <sddl.h>
 #include <shellapi.h>
 
 #include <array>
@@ -18,18 +18,30 @@ constexpr DWORD kElevationRequired = 740;
 
 HANDLE Mutex(std::uintptr_t mutex) { return reinterpret_cast<HANDLE>(mutex); }
 
-// A backslash in the user's name would be taken for a namespace's end.
-std::string InstanceName() {
-  std::array<char, UNLEN + 1> user{};
-  DWORD size = static_cast<DWORD>(user.size());
-  std::string name = GetUserNameA(user.data(), &size) ? user.data() : "";
-  for (char& character : name) {
-    if (character == '\\') {
-      character = '_';
-    }
+// The security identifier of the user whom this process belongs to, as text; empty when the system
+// does not tell.
+std::string UserSid() {
+  HANDLE token = nullptr;
+  if (!OpenProcessToken(GetCurrentProcess(), TOKEN_QUERY, &token)) {
+    return {};
   }
-  return "Local\\NorvickLorimet-" + name;
+  alignas(TOKEN_USER) std::array<char, sizeof(TOKEN_USER) + SECURITY_MAX_SID_SIZE> buffer{};
+  DWORD size = 0;
+  char* text = nullptr;
+  std::string sid;
+  if (GetTokenInformation(token, TokenUser, buffer.data(), static_cast<DWORD>(buffer.size()),
+                          &size) &&
+      ConvertSidToStringSidA(reinterpret_cast<const TOKEN_USER*>(buffer.data())->User.Sid, &text)) {
+    sid = text;
+    LocalFree(text);
+  }
+  CloseHandle(token);
+  return sid;
 }
+
+// One instance a user on this machine, whatever session the user has logged on to: the adapter is
+// the machine's.
+std::string InstanceName() { return "Global\\NorvickLorimet-" + UserSid(); }
 
 // A program that asks for more rights is started by the shell, which asks the user for them.
 bool StartElevated(const std::wstring& program, const std::string& arguments) {

@@ -11,16 +11,22 @@ namespace {
 class LoadedLibrary : public SharedLibrary {
  public:
   explicit LoadedLibrary(HMODULE handle) : handle_(handle) {}
-  ~LoadedLibrary() override { FreeLibrary(handle_); }
+  ~LoadedLibrary() override {
+    if (!kept_) {
+      FreeLibrary(handle_);
+    }
+  }
   LoadedLibrary(const LoadedLibrary&) = delete;
   LoadedLibrary& operator=(const LoadedLibrary&) = delete;
 
+  void Keep() override { kept_ = true; }
   void* Symbol(const std::string& name) override {
     return reinterpret_cast<void*>(GetProcAddress(handle_, name.c_str()));
   }
 
  private:
   HMODULE handle_;
+  bool kept_ = false;
 };
 
 // The variable's value; empty when it is not set.
