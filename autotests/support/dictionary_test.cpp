@@ -294,14 +294,18 @@ TEST_F(SelectLanguageTest, OpensTheDictionaryFirst) {
   EXPECT_TRUE(program.support->dictionary.IsOpen());
 }
 
-TEST_F(SelectLanguageTest, StartsInTheStoredLanguageOrNative) {
-  for (const int stored : {0, 1, 2, 3, 4, 10, 11, 255}) {
-    SetLanguage(stored);
-    Main().Load();
-    EXPECT_EQ(program.support->dictionary.Language(), stored <= 10 ? stored : 0) << stored;
-    Main().Unload();
-  }
-  registry.Remove(RegistryHive::kCurrentUser, kProductKey, "Language");
+class StartLanguageTest : public SelectLanguageTest, public testing::WithParamInterface<int> {};
+
+TEST_P(StartLanguageTest, IsTheStoredOneOrNative) {
+  const int stored = GetParam();
+  SetLanguage(stored);
+  Main().Load();
+  EXPECT_EQ(program.support->dictionary.Language(), stored <= 10 ? stored : 0);
+}
+
+INSTANTIATE_TEST_SUITE_P(Stored, StartLanguageTest, testing::Values(0, 1, 2, 3, 4, 10, 11, 255));
+
+TEST_F(SelectLanguageTest, StartsNativeWithNothingStored) {
   Main().Load();
   EXPECT_EQ(program.support->dictionary.Language(), 0);
 }
