@@ -13,6 +13,7 @@
 #include "adapters/headless/xml_reader.h"
 #include "autotests/common/program_fixture.h"
 #include "session/session_part.h"
+#include "support/support_part.h"
 
 namespace lorimet::testing_support {
 namespace {
@@ -243,6 +244,17 @@ TEST_F(CommandsTest, TheDatalogItemStopsAtItsFirstUseAndTogglesFromThenOn) {
     EXPECT_EQ(Main().mnuUtility[2].Caption(), "Stop &Datalog Only");
     EXPECT_EQ(link.TakeCalls(), Calls{"start recording"});
   }
+}
+
+TEST_F(CommandsTest, TheDatalogItemSpeaksTheUsersLanguage) {
+  program.support->dictionary.SetLanguage(kFrench);
+  const auto& rows = translations.Rows(kFrench);
+  Main().mnuUtility[2].UserClick();
+  EXPECT_EQ(Main().mnuUtility[2].Caption(), rows.at("Start &Datalog Only"));
+  Main().mnuUtility[2].UserClick();
+  EXPECT_EQ(Main().mnuUtility[2].Caption(), rows.at("Stop &Datalog Only"));
+  EXPECT_NE(Main().mnuUtility[2].Caption(), "Stop &Datalog Only");
+  EXPECT_EQ(link.TakeCalls(), (Calls{"stop recording", "start recording"}));
 }
 
 TEST_F(CommandsTest, LongRunningScreensCanCloseTheCommandsAndTheUtilityMenuStaysGrey) {

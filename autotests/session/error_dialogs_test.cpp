@@ -156,8 +156,8 @@ TEST_F(ConnectErrorDialogTest, IsBuiltAnewForEachFailure) {
   Show([](frmRP1210Err& dialog) {
     dialog.cmdDetails.UserClick();
     dialog.cmdOK.UserClick();
+    EXPECT_FALSE(dialog.Loaded());
   });
-  EXPECT_FALSE(program.support->rp1210_error.Loaded());
   program.support->rp1210_error.lngRP1210Err = 2;
   Show([](frmRP1210Err& dialog) {
     EXPECT_EQ(dialog.Height(), 1812);
@@ -165,8 +165,8 @@ TEST_F(ConnectErrorDialogTest, IsBuiltAnewForEachFailure) {
     dialog.cmdDetails.UserClick();
     EXPECT_EQ(dialog.Height(), 3732);  // the flag began anew too
     dialog.UserClose();
+    EXPECT_FALSE(dialog.Loaded());
   });
-  EXPECT_FALSE(program.support->rp1210_error.Loaded());
 }
 
 }  // namespace

@@ -78,6 +78,47 @@ TEST_F(RestartTest, ADisconnectThatFailsEndsTheRestartAndLeavesThePointer) {
   EXPECT_EQ(link.TakeCalls(), (Calls{"Connect", "ReadStaticData", "StartSession 83", "Password"}));
 }
 
+TEST_F(RestartTest, ThePointerIsTheHourglassFromTheConnectionToTheIdentity) {
+  Start();
+  EXPECT_EQ(Main().Pointer(), MousePointer::kArrow);
+  link.on_connect = [&] { EXPECT_EQ(Main().Pointer(), MousePointer::kArrow); };
+  link.on_static_read = [&] {
+    EXPECT_EQ(Main().Pointer(), MousePointer::kHourglass);
+    Ecu().nLinkJobDone.Store(-1);
+  };
+  Main().RestartECU();
+  EXPECT_EQ(Main().Pointer(), MousePointer::kArrow);
+  link.on_connect = nullptr;
+  link.answers["Connect"] = {128};
+  desktop.OnModal("frmRP1210Err", [](Form& form) { form.Unload(); });
+  Main().SetMousePointer(MousePointer::kHourglass);
+  Main().RestartECU();
+  EXPECT_EQ(Main().Pointer(), MousePointer::kArrow);
+  EXPECT_EQ(desktop.TakeBoxes().size(), 1u);
+}
+
+TEST_F(RestartTest, ItsErrorsAreToldInTheUsersLanguage) {
+  SetLanguage(kFrench);
+  Start();
+  const auto& rows = translations.Rows(kFrench);
+  link.answers["Disconnect"] = {-1};
+  Main().RestartECU();
+  link.answers["Connect"] = {128};
+  desktop.OnModal("frmRP1210Err", [](Form& form) { form.Unload(); });
+  Main().RestartECU();
+  const Boxes boxes = desktop.TakeBoxes();
+  ASSERT_EQ(boxes.size(), 2u);
+  EXPECT_EQ(boxes[0].text,
+            rows.at("Please check the connection and make sure the cable is properly connected.  "
+                    "Click the \"Restart\" button to try again."));
+  EXPECT_EQ(boxes[1].text, rows.at("Please check to make sure the device drivers and libraries are "
+                                   "correctly installed."));
+  for (const MessageBox& box : boxes) {
+    EXPECT_EQ(box.title, rows.at("ERROR: Unable to connect to the device"));
+    EXPECT_NE(box.title, "ERROR: Unable to connect to the device");
+  }
+}
+
 TEST_F(RestartTest, AnyResultOfTheDisconnectButZeroIsAFailure) {
   for (const std::int32_t result : {1, -1, 65536, INT32_MIN}) {
     Main().Load();

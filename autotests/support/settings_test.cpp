@@ -128,6 +128,25 @@ TEST_F(SettingsTest, AreReadEachFromItsHive) {
   EXPECT_EQ(settings.GetLanguage(), 3);
 }
 
+TEST_F(SettingsTest, ANumberOfAnOddSizeGivesTheDefaultsForAllButTheDevice) {
+  const Bytes kSixBytes = {0x11, 0x22, 0x33, 0x44, 0x55, 0x66};
+  for (const char* name : {"Vendor", "DeviceID", "Protocol", "Language"})
+    registry.SetRaw(kUser, kProductKey, name, {kRegDword, kSixBytes});
+  registry.SetRaw(kMachine, kProductKey, "HelpDir", {kRegDword, kSixBytes});
+  EXPECT_EQ(settings.GetVendor(), "");
+  EXPECT_EQ(settings.GetProtocol(), "-1");
+  EXPECT_EQ(settings.GetLanguage(), -1);
+  EXPECT_EQ(settings.GetHelpDir(), "");
+  EXPECT_EQ(ErrorOf([&] { settings.GetDeviceID(); }), 6);
+}
+
+TEST_F(SettingsTest, AProgramWhosePathIsANumberOfAnOddSizeIsNotInstalled) {
+  HeadlessProcess process;
+  registry.SetRaw(kMachine, std::string(kAppPathsKey) + "Hubrest.exe", "",
+                  {kRegDword, {0x11, 0x22, 0x33, 0x44, 0x55, 0x66}});
+  EXPECT_EQ(RunApp(settings, process, "Hubrest.exe", "NO"), 2);
+}
+
 TEST_F(SettingsTest, AreReadAnewAtEveryCall) {
   registry.SetText(kUser, kProductKey, "Vendor", "one");
   EXPECT_EQ(settings.GetVendor(), "one");

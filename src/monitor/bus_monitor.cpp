@@ -1,30 +1,11 @@
 #include "monitor/bus_monitor.h"
 
-#include <algorithm>
-#include <vector>
-
 #include "platform/process.h"
+#include "session/library_text.h"
 #include "session/link_library.h"
 #include "support/text.h"
 
 namespace lorimet {
-namespace {
-
-constexpr std::size_t kTextBufferSize = 1024;
-
-std::vector<char> BufferOf(const std::string& text) {
-  const std::string bytes = ToCp1252(text);
-  std::vector<char> buffer(std::max(bytes.size() + 1, kTextBufferSize), '\0');
-  std::ranges::copy(bytes, buffer.begin());
-  return buffer;
-}
-
-std::string TextOf(const std::vector<char>& buffer) {
-  return FromCp1252(UntilNul(std::string_view(buffer.data(), buffer.size())));
-}
-
-}  // namespace
-
 void BusMonitor::SetDatalogInfo(const std::string& file, const std::string& comments) {
   strDatalogFile_ = file;
   strDatalogComments_ = comments;
@@ -33,11 +14,11 @@ void BusMonitor::SetDatalogInfo(const std::string& file, const std::string& comm
 bool BusMonitor::MonitorStartRecord() {
   if (strDatalogFile_.empty())
     SetDatalogInfo(process_.ProgramFolder() + kPathSeparator + "Default.txt", "");
-  std::vector<char> file = BufferOf(strDatalogFile_);
-  std::vector<char> comments = BufferOf(strDatalogComments_);
-  const std::int32_t result = link_.BusMonitorStartRecord(file.data(), comments.data(), 0);
-  strDatalogFile_ = TextOf(file);
-  strDatalogComments_ = TextOf(comments);
+  LibraryText file(strDatalogFile_);
+  LibraryText comments(strDatalogComments_);
+  const std::int32_t result = link_.BusMonitorStartRecord(file.Data(), comments.Data(), 0);
+  strDatalogFile_ = file.Text();
+  strDatalogComments_ = comments.Text();
   return result != 0;
 }
 

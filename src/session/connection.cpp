@@ -1,12 +1,11 @@
 #include "session/connection.h"
 
-#include <algorithm>
 #include <string>
-#include <vector>
 
 #include "platform/controls.h"
 #include "platform/desktop.h"
 #include "platform/runtime_error.h"
+#include "session/library_text.h"
 #include "session/link_library.h"
 #include "session/link_messages.h"
 #include "session/session_state.h"
@@ -19,25 +18,8 @@
 namespace lorimet {
 namespace {
 
-constexpr std::size_t kTextBufferSize = 1024;
 constexpr std::size_t kErrorTextLength = 1024;
 constexpr std::int32_t kHighestClientId = 127;  // RP1210: client identifiers are 0 to 127
-
-// A setting as the writable buffer that the library is given, and back.
-class TextBuffer {
- public:
-  explicit TextBuffer(const std::string& text) : bytes_(kTextBufferSize, '\0') {
-    const std::string encoded = ToCp1252(text);
-    std::copy_n(encoded.begin(), std::min(encoded.size(), kTextBufferSize - 1), bytes_.begin());
-  }
-  char* Data() { return bytes_.data(); }
-  std::string Text() const {
-    return FromCp1252(UntilNul(std::string_view(bytes_.data(), bytes_.size())));
-  }
-
- private:
-  std::vector<char> bytes_;
-};
 
 void ReadSettings(Settings& settings, SessionRecords& records) {
   records.vendor = settings.GetVendor();
@@ -47,8 +29,8 @@ void ReadSettings(Settings& settings, SessionRecords& records) {
 
 std::int32_t CallConnect(const ConnectionParts& parts) {
   SessionRecords& records = parts.records;
-  TextBuffer protocol(records.protocol);
-  TextBuffer vendor(records.vendor);
+  LibraryText protocol(records.protocol);
+  LibraryText vendor(records.vendor);
   const std::int32_t result =
       parts.link.Connect(protocol.Data(), static_cast<std::uint32_t>(parts.messages.MainWindow()),
                          vendor.Data(), records.device_id, records.lECUFamily, &records.before_2,

@@ -1,6 +1,7 @@
 #include "session/link_messages.h"
 
 #include <array>
+#include <limits>
 
 #include "platform/desktop.h"
 #include "session/ecu_data.h"
@@ -88,6 +89,8 @@ void LinkMessages::ShowLinkError(std::int32_t status) {
 
 void LinkMessages::RunOdrStep() {
   const std::int16_t step = ecu_data_.nODRUploadStep.Load();
+  // A step that the call cannot carry is no step; the status is dropped.
+  if (step < 0 || step > std::numeric_limits<std::uint8_t>::max()) return;
   const bool named = step >= 1 && step <= static_cast<int>(kUploadSteps.size());
   if (show_upload_step)
     show_upload_step(named ? kUploadSteps[static_cast<std::size_t>(step) - 1] : "", step);

@@ -75,14 +75,25 @@ std::string Settings::ReadText(RegistryHive hive, const std::string& name,
   return value;
 }
 
-std::string Settings::GetVendor() { return ReadText(RegistryHive::kCurrentUser, "Vendor", ""); }
+std::string Settings::ReadTextOrDefault(RegistryHive hive, const std::string& name,
+                                        const std::string& fallback) {
+  try {
+    return ReadText(hive, name, fallback);
+  } catch (const RuntimeError&) {
+    return fallback;  // a number whose size is none of a number's
+  }
+}
+
+std::string Settings::GetVendor() {
+  return ReadTextOrDefault(RegistryHive::kCurrentUser, "Vendor", "");
+}
 
 std::int16_t Settings::GetDeviceID() {
   return ToInteger(StrictNumber(ReadText(RegistryHive::kCurrentUser, "DeviceID", "-1")));
 }
 
 std::string Settings::GetProtocol() {
-  return ReadText(RegistryHive::kCurrentUser, "Protocol", "-1");
+  return ReadTextOrDefault(RegistryHive::kCurrentUser, "Protocol", "-1");
 }
 
 std::int16_t Settings::GetLanguage() {
@@ -93,7 +104,9 @@ std::int16_t Settings::GetLanguage() {
   }
 }
 
-std::string Settings::GetHelpDir() { return ReadText(RegistryHive::kLocalMachine, "HelpDir", ""); }
+std::string Settings::GetHelpDir() {
+  return ReadTextOrDefault(RegistryHive::kLocalMachine, "HelpDir", "");
+}
 
 void Settings::SaveLanguage(std::int16_t language) {
   WriteRegDword(kProductKey, "Language", language);
@@ -102,8 +115,12 @@ void Settings::SaveLanguage(std::int16_t language) {
 std::int16_t RunApp(Settings& settings, Process& process, const std::string& file_name,
                     const std::string& arguments) {
   std::string path;
-  if (!settings.ReadRegString(RegistryHive::kLocalMachine, kAppPathsKey + file_name, "", path))
-    return 2;
+  try {
+    if (!settings.ReadRegString(RegistryHive::kLocalMachine, kAppPathsKey + file_name, "", path))
+      return 2;
+  } catch (const RuntimeError&) {
+    return 2;  // a number in the path's place, of a size that none has
+  }
   if (!process.FileExists(path)) return 1;
   return process.Start(path, arguments) ? 0 : 1;
 }

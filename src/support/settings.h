@@ -40,7 +40,10 @@ class Settings {
   void SaveLanguage(std::int16_t language);
 
  private:
+  // Raises for a number of an odd size, which ReadTextOrDefault takes for none.
   std::string ReadText(RegistryHive hive, const std::string& name, const std::string& fallback);
+  std::string ReadTextOrDefault(RegistryHive hive, const std::string& name,
+                                const std::string& fallback);
 
   Registry& registry_;
 };
