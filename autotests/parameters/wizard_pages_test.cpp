@@ -928,8 +928,7 @@ TEST_F(SavingTest, FailedSaveToFileSaysWhyAndKeepsThePage) {
   desktop.AnswerFileDialog("/no/such/folder/x.ecu");
   Press(Last().cmdSaveToFile);
   EXPECT_TRUE(Last().Loaded());
-  EXPECT_EQ(Last().txtStatus.Text(),
-            "The file was not saved: it cannot be written. (/no/such/folder/x.ecu)");
+  EXPECT_EQ(Last().txtStatus.Text(), "The file was not saved: it cannot be written.");
   Press(Last().cmdSaveToFile);  // cancelled
   EXPECT_EQ(Last().txtStatus.Text(), "");
   Speak(kFrench);

@@ -88,14 +88,15 @@ std::string ParameterFile::Get(const std::string& section, const std::string& ke
 
 void ParameterFile::Put(const std::string& section, const std::string& key,
                         const std::string& value) {
-  Expect(kNotWritten, path_);
+  Expect(kNotWritten, "");
   if (!file_.WriteString(section, key, value, path_))
     throw RuntimeError(ErrorNumber::kPathFileAccessError);
 }
 
 std::string ParameterFile::FailureText(const Dictionary& dictionary) const {
   if (failure_.reason == nullptr) return {};
-  return dictionary.Translate(failure_.reason) + " (" + failure_.place + ")";
+  const std::string reason = dictionary.Translate(failure_.reason);
+  return failure_.place.empty() ? reason : reason + " (" + failure_.place + ")";
 }
 
 bool ParameterFile::Try(void (ParameterFile::*transfer)(const std::string&),
@@ -212,7 +213,7 @@ void ParameterFile::Write(const std::string& path) {
     file_.Flush();
     throw;
   }
-  Expect(kNotWritten, path_);
+  Expect(kNotWritten, "");
   if (!file_.Flush()) throw RuntimeError(ErrorNumber::kPathFileAccessError);
 }
 
