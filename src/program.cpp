@@ -22,7 +22,8 @@ Program::Program(const Ports& ports)
       parameters(std::make_unique<ParametersPart>(ports, *support, *session, *faults)),
       monitor(std::make_unique<MonitorPart>(ports, *support, *session)),
       tests(std::make_unique<TestsPart>(ports, *support, *session)),
-      reports(std::make_unique<ReportsPart>(*support, *session)) {
+      reports(
+          std::make_unique<ReportsPart>(ports, *support, *session, *faults, *parameters, *tests)) {
   // A desktop can have seen another program's end.
   ports.desktop.life = {};
 }

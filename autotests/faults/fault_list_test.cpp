@@ -308,7 +308,9 @@ TEST_F(FaultListTest, RepairBoxTakesNoKeys) {
   EXPECT_FALSE(List().txtRepair.UserKeyDown({'A', 0}));
 }
 
-TEST_F(FaultListTest, ReportsAreDisabledUntilThereIsOne) {
+TEST_F(FaultListTest, ReportsAreDisabledWhereThereIsNone) {
+  List().save_report = nullptr;
+  List().print_report = nullptr;
   Open();
   EXPECT_FALSE(List().cmdSave.Enabled());
   EXPECT_FALSE(List().cmdPrint.Enabled());

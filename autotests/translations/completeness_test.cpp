@@ -52,6 +52,15 @@ const std::set<std::string>& UntranslatedFiles() {
 
 const std::set<std::string>& UntranslatedTexts() {
   static const std::set<std::string> texts = {
+      // The end-of-line report: its outcomes, the name of a file, a box, and a text that is looked
+      // up with the path behind it.
+      "Not Tested",
+      "Not Calibrated",
+      "Calibration Failed",
+      "End-of-Line Report",
+      "Cannot save.",
+      "The ECU information has not been successfully read.",
+      "File saved successfully in ",
       // The steps of an upload, in the link library's words.
       "Saving Long Term Memory",
       "Saving Lining Wear Memory",

@@ -11,7 +11,7 @@
 namespace lorimet {
 
 enum class Modality { kModeless, kModal };
-enum class MousePointer { kDefault = 0, kArrow = 1, kHourglass = 11 };
+enum class MousePointer { kDefault = 0, kArrow = 1, kHourglass = 11, kArrowHourglass = 13 };
 // Why a form is asked to unload.
 enum class UnloadMode { kControlMenu = 0, kCode = 1 };
 

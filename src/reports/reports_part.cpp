@@ -1,14 +1,45 @@
 #include "reports/reports_part.h"
 
+#include "faults/faults_part.h"
+#include "parameters/parameters_part.h"
+#include "session/ports.h"
 #include "session/session_part.h"
 #include "support/support_part.h"
+#include "tests/tests_part.h"
 
 namespace lorimet {
+namespace {
 
-ReportsPart::ReportsPart(SupportPart& support, SessionPart& session) {
+// Kinds of the printed report.
+constexpr std::int16_t kFaultReport = 0;
+constexpr std::int16_t kEndOfLineReport = -1;
+
+}  // namespace
+
+ReportsPart::ReportsPart(const Ports& ports, SupportPart& support, SessionPart& session,
+                         FaultsPart& faults, ParametersPart& parameters, TestsPart& tests)
+    : report{ports.desktop,
+             ports.clock,
+             ports.process,
+             ports.text_files,
+             ports.printer,
+             support.dictionary,
+             session.main_form,
+             session.main_form.txtError,
+             session.records,
+             faults.faults,
+             faults.fault_table,
+             tests.test_results,
+             parameters.image.strTrailerVIN} {
+  const auto save = [this] { SaveEOLReport(report); };
+  const auto print = [this](std::int16_t kind) {
+    return [this, kind] { PrintEOLReport(report, kind); };
+  };
+  faults.fault_list.save_report = save;
+  faults.fault_list.print_report = print(kFaultReport);
   CommandActions& actions = session.main_form.actions;
-  actions.save_report = support.NotBuilt("Save Fault and Sensor\\Valve Test Information");
-  actions.print_report = support.NotBuilt("Print Fault and Sensor\\Valve Test Information");
+  actions.save_report = save;
+  actions.print_report = print(kEndOfLineReport);
   actions.save_eeprom = support.NotBuilt("Save &EEPROM Data");
   actions.show_odr_overview = support.NotBuilt("&Display ODR Overview Data");
   actions.export_odr = support.NotBuilt("&Export ODR Data");
