@@ -3217,5 +3217,17 @@ frenado&#13;
         <source>There is no printer here.  The pages are in </source>
         <translation>Aquí no hay impresora. Las páginas están en </translation>
     </message>
+    <message>
+        <source>Modulator H1</source>
+        <translation>Modulador H1</translation>
+    </message>
+    <message>
+        <source>Modulator H2</source>
+        <translation>Modulador H2</translation>
+    </message>
+    <message>
+        <source>Trailer Plan</source>
+        <translation>Plano del remolque</translation>
+    </message>
 </context>
 </TS>

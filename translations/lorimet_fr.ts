@@ -3217,5 +3217,17 @@ freinage&#13;
         <source>There is no printer here.  The pages are in </source>
         <translation>Il n'y a pas d'imprimante ici. Les pages sont dans </translation>
     </message>
+    <message>
+        <source>Modulator H1</source>
+        <translation>Modulateur H1</translation>
+    </message>
+    <message>
+        <source>Modulator H2</source>
+        <translation>Modulateur H2</translation>
+    </message>
+    <message>
+        <source>Trailer Plan</source>
+        <translation>Plan de la remorque</translation>
+    </message>
 </context>
 </TS>

@@ -51,6 +51,8 @@ class Faults {
   std::int16_t GetFaultCount();
   // Asks the ECU to erase its faults. 0, with FaultData emptied, or -1 with it as it was.
   std::int16_t ClearFaults();
+  // Forgets the records of the last reading.
+  void EmptyFaultData() { ResizeFaultData(0); }
   // Fills the grid, active faults first, then stored ones, each in the ECU's order. An empty store
   // leaves the grid as it is. A run-time error is shown in two boxes, the store left as it stands.
   void FillFaultGrid(DataGrid& grid, TextBox& repair);
