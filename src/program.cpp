@@ -21,7 +21,7 @@ Program::Program(const Ports& ports)
       faults(std::make_unique<FaultsPart>(ports, *support, *session)),
       parameters(std::make_unique<ParametersPart>(ports, *support, *session, *faults)),
       monitor(std::make_unique<MonitorPart>(ports, *support, *session)),
-      tests(std::make_unique<TestsPart>(ports, *support, *session)),
+      tests(std::make_unique<TestsPart>(ports, *support, *session, *faults, *parameters)),
       reports(
           std::make_unique<ReportsPart>(ports, *support, *session, *faults, *parameters, *tests)) {
   // A desktop can have seen another program's end.

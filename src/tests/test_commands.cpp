@@ -11,16 +11,17 @@ namespace {
 
 constexpr std::uint32_t kResetPause = 200;  // ms after the reset that ends a calibration
 
-// The tests whose outcome is told.
+// The tests whose outcome is told; of the lamp test only a failure is, by the sign-off.
 struct TestWords {
   const char* passed;
   const char* failed;
 };
-constexpr std::array<TestWords, 3> kWords = {{
+constexpr std::array<TestWords, 4> kWords = {{
     {"Pressure Test Passed.", "Pressure Test Failed.  Please resolve issues and run test again."},
     {"Redundancy Test Passed.",
      "Redundancy Test Failed.  Please resolve issues and run test again."},
     {"Sensor Test Passed.", "Sensor Test Failed.  Please resolve issues and run test again."},
+    {"", "Lamp Test Failed.  Please resolve issues and run test again."},
 }};
 
 }  // namespace
@@ -78,13 +79,20 @@ void TestCommands::RunSensorTestFromToolbar() {
 }
 
 void TestCommands::ShowTestResult(VehicleTest test, std::int16_t result) {
-  const bool passed = result == kTestPassed;
-  const TestWords& words = kWords[static_cast<std::size_t>(test)];
+  if (result != kTestPassed) return ShowTestFailed(parts_.desktop, parts_.dictionary, test);
   MessageBox box;
-  box.text = parts_.dictionary.Translate(passed ? words.passed : words.failed);
-  box.title = parts_.dictionary.Translate(passed ? "Test Passed" : "Test Failed!");
-  box.icon = passed ? BoxIcon::kInformation : BoxIcon::kCritical;
+  box.text = parts_.dictionary.Translate(kWords[static_cast<std::size_t>(test)].passed);
+  box.title = parts_.dictionary.Translate("Test Passed");
+  box.icon = BoxIcon::kInformation;
   parts_.desktop.ShowMessageBox(box);
+}
+
+void ShowTestFailed(Desktop& desktop, const Dictionary& dictionary, VehicleTest test) {
+  MessageBox box;
+  box.text = dictionary.Translate(kWords[static_cast<std::size_t>(test)].failed);
+  box.title = dictionary.Translate("Test Failed!");
+  box.icon = BoxIcon::kCritical;
+  desktop.ShowMessageBox(box);
 }
 
 }  // namespace lorimet

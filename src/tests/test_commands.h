@@ -59,4 +59,8 @@ class TestCommands {
   TestCommandParts parts_;
 };
 
+// "Pressure Test Failed.  Please resolve issues and run test again." and its box, for the tests
+// from kPressure to kLamp.
+void ShowTestFailed(Desktop& desktop, const Dictionary& dictionary, VehicleTest test);
+
 }  // namespace lorimet
