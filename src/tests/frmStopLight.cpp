@@ -31,6 +31,8 @@ void frmStopLight::OnLoad() {
   nLightState_ = kOff;
   Timer1.SetEnabled(false);
   Timer1.SetInterval(kInterval);
+  // Where a key that is pressed by habit lights nothing.
+  Command1.SetFocus();
 }
 
 // The first command goes out on the next tick, and every tick repeats it.
