@@ -37,6 +37,8 @@ ReportsPart::ReportsPart(const Ports& ports, SupportPart& support, SessionPart& 
   };
   faults.fault_list.save_report = save;
   faults.fault_list.print_report = print(kFaultReport);
+  tests.sign_off.save_report = save;
+  tests.sign_off.print_report = print(kEndOfLineReport);
   CommandActions& actions = session.main_form.actions;
   actions.save_report = save;
   actions.print_report = print(kEndOfLineReport);
