@@ -12,6 +12,7 @@
 #include "parameters/parameters_part.h"
 #include "session/session_part.h"
 #include "support/support_part.h"
+#include "tests/tests_part.h"
 
 namespace lorimet::testing_support {
 namespace {
@@ -100,6 +101,7 @@ class EveryScreenTest : public ProgramTest {
 TEST_F(EveryScreenTest, ShowsNoEnglishInFrench) {
   SupportPart& support = *program.support;
   ParametersPart& parameters = *program.parameters;
+  TestsPart& tests = *program.tests;
   desktop.OnModal("frmNotBuilt", [&](Form& form) {
     EXPECT_NE(form.Caption(), "Pressure Test");
     form.Unload();
@@ -120,6 +122,13 @@ TEST_F(EveryScreenTest, ShowsNoEnglishInFrench) {
       &parameters.speed_switch,
       &parameters.load_sensing_page,
       &parameters.overturn_guard_page,
+      &tests.pressure_test,
+      &tests.redundancy_test,
+      &tests.sensor_test,
+      &tests.lamp_test,
+      &tests.suspension_calibration,
+      &tests.stop_light,
+      &tests.eol_bit,
   };
   for (Form* form : forms) {
     form->Load();
