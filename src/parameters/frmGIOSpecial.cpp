@@ -8,8 +8,6 @@
 namespace lorimet {
 namespace {
 
-using namespace parameter;
-
 constexpr int kSpeedSwitchBox = 2;
 
 // A box shows as checked when all its bytes are these.
@@ -20,17 +18,17 @@ struct Mark {
 };
 // clang-format off
 constexpr Mark kMarks[] = {
-    {0, kSuspensionLaden,       54},
-    {0, kSuspensionUnladen,     10},
-    {0, kHydraulicPin1,        147},
-    {0, kHydraulicPin2,        145},
-    {1, kConstantPowerPin,     161},
-    {1, kSharedPin,             65},
-    {2, kTurnOnSpeed,           21},
-    {2, kSpeedSwitch,            1},
-    {2, kTurnOffSpeed,           0},
-    {2, kSpeedSwitchMode,        1},
-    {2, kSpeedSwitchKind,        7},
+    {0, parameter::kSuspensionLaden,       54},
+    {0, parameter::kSuspensionUnladen,     10},
+    {0, parameter::kHydraulicPin1,        147},
+    {0, parameter::kHydraulicPin2,        145},
+    {1, parameter::kConstantPowerPin,     161},
+    {1, parameter::kSharedPin,             65},
+    {2, parameter::kTurnOnSpeed,           21},
+    {2, parameter::kSpeedSwitch,            1},
+    {2, parameter::kTurnOffSpeed,           0},
+    {2, parameter::kSpeedSwitchMode,        1},
+    {2, parameter::kSpeedSwitchKind,        7},
 };
 
 // What a box writes when the dialog is closed.
@@ -40,41 +38,41 @@ struct SpecialWrite {
   FieldWrite write;
 };
 constexpr SpecialWrite kSpecialWrites[] = {
-    {0, true,  SetBits(kHydraulicSensor)},
-    {0, true,  PutByte(kGuardOptions,         160)},
-    {0, true,  PutByte(kHydraulicPin1,        147)},
-    {0, true,  PutByte(kHydraulicPin2,        145)},
-    {0, false, ClearBits(kHydraulicSensor)},
-    {0, false, PutByte(kGuardOptions,         176)},
-    {0, false, PutByte(kHydraulicPin1,          0)},
-    {0, false, PutByte(kHydraulicPin2,          0)},
+    {0, true,  SetBits(parameter::kHydraulicSensor)},
+    {0, true,  PutByte(parameter::kGuardOptions,         160)},
+    {0, true,  PutByte(parameter::kHydraulicPin1,        147)},
+    {0, true,  PutByte(parameter::kHydraulicPin2,        145)},
+    {0, false, ClearBits(parameter::kHydraulicSensor)},
+    {0, false, PutByte(parameter::kGuardOptions,         176)},
+    {0, false, PutByte(parameter::kHydraulicPin1,          0)},
+    {0, false, PutByte(parameter::kHydraulicPin2,          0)},
 
-    {1, true,  PutByte(kSharedPin,             65)},
-    {1, true,  PutByte(kConstantPowerPin,     161)},
-    {1, true,  SetBits(kConstantPower)},
-    {1, false, PutByte(kConstantPowerPin,       0)},
-    {1, false, ClearBits(kConstantPower)},
+    {1, true,  PutByte(parameter::kSharedPin,             65)},
+    {1, true,  PutByte(parameter::kConstantPowerPin,     161)},
+    {1, true,  SetBits(parameter::kConstantPower)},
+    {1, false, PutByte(parameter::kConstantPowerPin,       0)},
+    {1, false, ClearBits(parameter::kConstantPower)},
 
-    {2, true,  PutByte(kSpeedSwitch,            1)},
-    {2, true,  PutByte(kSpeedSwitchMode,        1)},
-    {2, true,  PutByte(kSpeedSwitchKind,        7)},
-    {2, true,  PutByte(kSpeedSwitchPin,       177)},
-    {2, false, PutByte(kSpeedSwitch,            0)},
-    {2, false, PutByte(kTurnOnSpeed,           15)},
-    {2, false, PutByte(kTurnOffSpeed,          10)},
-    {2, false, PutByte(kSpeedSwitchMode,        2)},
-    {2, false, PutByte(kSpeedSwitchPin,         0)},
+    {2, true,  PutByte(parameter::kSpeedSwitch,            1)},
+    {2, true,  PutByte(parameter::kSpeedSwitchMode,        1)},
+    {2, true,  PutByte(parameter::kSpeedSwitchKind,        7)},
+    {2, true,  PutByte(parameter::kSpeedSwitchPin,       177)},
+    {2, false, PutByte(parameter::kSpeedSwitch,            0)},
+    {2, false, PutByte(parameter::kTurnOnSpeed,           15)},
+    {2, false, PutByte(parameter::kTurnOffSpeed,          10)},
+    {2, false, PutByte(parameter::kSpeedSwitchMode,        2)},
+    {2, false, PutByte(parameter::kSpeedSwitchPin,         0)},
 };
 
 // What is written in every case, the suspension pressures first of all.
 constexpr FieldWrite kAlways[] = {
-    PutByte(kSuspensionUnladen,     10),
-    PutByte(kSuspensionLaden,       54),
-    PutByte(Connector(39),         209),
-    PutByte(Connector(40),         211),
-    PutByte(Connector(41),         212),
-    PutByte(GioValue(35),            3),
-    PutByte(GioValue(36),            3),
+    PutByte(parameter::kSuspensionUnladen,     10),
+    PutByte(parameter::kSuspensionLaden,       54),
+    PutByte(parameter::Connector(39),         209),
+    PutByte(parameter::Connector(40),         211),
+    PutByte(parameter::Connector(41),         212),
+    PutByte(parameter::GioValue(35),            3),
+    PutByte(parameter::GioValue(36),            3),
 };
 // clang-format on
 

@@ -22,7 +22,8 @@ std::string PressureOf(const MemoryWord& word, const char* unknown) {
 // Error 6 from 90 psi on, whose counts do not fit.
 BytePair CountsOf(std::int16_t psi) {
   const std::int16_t counts = ToInteger(psi / kPsi * kCounts);
-  return {ToByte(counts / 256), ToByte(counts % 256)};
+  const int high = counts / 256;
+  return {ToByte(high), ToByte(counts % 256)};
 }
 
 std::int16_t WholePsi(const TextBox& field) { return ToInteger(NumericValue(field.Text())); }

@@ -7,14 +7,12 @@
 namespace lorimet {
 namespace {
 
-using namespace parameter;
-
 constexpr int kRows = 5;  // of the axle definition
 constexpr const char* kBlank = " ";
 
 // The diagram row of an axle by the number of axles, one to three; -1 is not drawn.
 // clang-format off
-constexpr int kDiagramRow[kAxles][3] = {
+constexpr int kDiagramRow[parameter::kAxles][3] = {
     { 1,  1, 0},
     {-1,  2, 1},
     {-1, -1, 2},
@@ -136,7 +134,7 @@ void frmOVGParm1::LoadABSSystem() {
 }
 
 void frmOVGParm1::LoadAxles() {
-  for (int axle = 0; axle < kAxles; ++axle) {
+  for (int axle = 0; axle < parameter::kAxles; ++axle) {
     const auto at = static_cast<std::size_t>(axle);
     const std::int16_t sensors = parts_.ecu_data.nAxleSensors[at].Load();
     if (sensors == 1) optSensorCD[axle].SetValue(true);
@@ -151,11 +149,12 @@ void frmOVGParm1::LoadAxles() {
 void frmOVGParm1::LoadStopLightCable() {
   const ParameterImage& image = parts_.image;
   const bool present = image.EOL9.bNumBytes != 0;
-  const bool configured = present && kStopLightInstalled.In(image) != 0 &&
-                          kStopLightLetter.In(image) == 'I' && kStopLightMode.In(image) == 3 &&
-                          kStopLightPin.In(image) > 0 && kStopLightOption.In(image) != 0;
+  const bool configured =
+      present && parameter::kStopLightInstalled.In(image) != 0 &&
+      parameter::kStopLightLetter.In(image) == 'I' && parameter::kStopLightMode.In(image) == 3 &&
+      parameter::kStopLightPin.In(image) > 0 && parameter::kStopLightOption.In(image) != 0;
   frameSLAC.SetEnabled(present);
-  const int item = kStopLightPin.In(image) == 177 ? 1 : 0;
+  const int item = parameter::kStopLightPin.In(image) == 177 ? 1 : 0;
   optSLAC[configured ? item : 2].SetValue(true);
   parts_.image.bStopLightCable = configured;
 }
@@ -168,13 +167,13 @@ void frmOVGParm1::OnQueryUnload(bool& cancel, UnloadMode) {
 
 void frmOVGParm1::OnVehicleType(int index) {
   if (bLoading) return;
-  kVehicleType.Put(parts_.image, index);
+  parameter::kVehicleType.Put(parts_.image, index);
 }
 
 void frmOVGParm1::OnModularMounting() {
   if (bLoading) return;
-  kMounting.Put(parts_.image, 0);
-  kRearMounted.Put(parts_.image, chkModularMounting.Value() ? 0 : 1);
+  parameter::kMounting.Put(parts_.image, 0);
+  parameter::kRearMounted.Put(parts_.image, chkModularMounting.Value() ? 0 : 1);
   ShowMounting();
   UpdateDisplay();
 }
@@ -189,14 +188,14 @@ void frmOVGParm1::OnABSSystem(int index) {
     optSensorEF[0].SetEnabled(true);
     optSensorEF[1].SetEnabled(true);
   }
-  kAbsSystem.Put(parts_.image, index);
+  parameter::kAbsSystem.Put(parts_.image, index);
   UpdateDisplay();
 }
 
 void frmOVGParm1::OnSuspensionType(int index) {
   if (bLoading) return;
-  kMechanical.Put(parts_.image, index);
-  kSuspensionInputs.Put(parts_.image, 0);
+  parameter::kMechanical.Put(parts_.image, index);
+  parameter::kSuspensionInputs.Put(parts_.image, 0);
   ApplySuspension(index == 1);
 }
 
@@ -239,11 +238,11 @@ void frmOVGParm1::OnStopLightCable(int) {
 
 void frmOVGParm1::ApplySuspension(bool mechanical) {
   ParameterImage& image = parts_.image;
-  kPathSensing.Put(image, mechanical ? 1 : 0);
-  kBellowsSensing.Put(image, mechanical ? 0 : 1);
+  parameter::kPathSensing.Put(image, mechanical ? 1 : 0);
+  parameter::kBellowsSensing.Put(image, mechanical ? 0 : 1);
   const bool one_modulator = parts_.ecu_data.bNumModulators.Load() == 1;
   const int sensor = one_modulator ? 20 : 148;
-  kSuspensionPin.Put(image, mechanical ? sensor : 0);
+  parameter::kSuspensionPin.Put(image, mechanical ? sensor : 0);
 }
 
 // --- The diagram ---------------------------------------------------------------------------------
@@ -305,11 +304,11 @@ void frmOVGParm1::StoreAxle(int axle) {
   int sensors = 0;
   if (optSensorCD[axle].Value() && optSensorCD[axle].Enabled()) sensors += 1;
   if (optSensorEF[axle].Value() && optSensorEF[axle].Enabled()) sensors += 2;
-  AxleSensors(axle).Put(parts_.image, sensors);
+  parameter::AxleSensors(axle).Put(parts_.image, sensors);
   int lift = 0;
   if (chkLiftAxle1[axle].Value()) lift += 1;
   if (chkLiftAxle2[axle].Value()) lift += 3;
-  AxleLift(axle).Put(parts_.image, lift);
+  parameter::AxleLift(axle).Put(parts_.image, lift);
 }
 
 void frmOVGParm1::TellChoices() {
@@ -325,7 +324,7 @@ void frmOVGParm1::TellChoices() {
 }
 
 void frmOVGParm1::OnNext() {
-  for (int axle = 0; axle < kAxles; ++axle) StoreAxle(axle);
+  for (int axle = 0; axle < parameter::kAxles; ++axle) StoreAxle(axle);
   ApplySuspension(optSuspensionType[1].Value());
   Hide();
   if (parts_.ecu_data.bNumModulators.Load() == 1)

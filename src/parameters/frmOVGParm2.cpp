@@ -10,8 +10,6 @@
 namespace lorimet {
 namespace {
 
-using namespace parameter;
-
 constexpr double kAnything = 1e300;
 constexpr int kRows = 5;
 constexpr const char* kControlPressureUnladen = "94";  // psi
@@ -144,12 +142,12 @@ void frmOVGParm2::ShowDiagram() {
 
 void frmOVGParm2::ShowIdentity() {
   const ParameterImage& image = parts_.image;
-  txtProdYear.SetText(PackedText(kProductionCentury.In(image)) +
-                      PackedText(kProductionYear.In(image)));
-  txtProdWeek.SetText(PackedText(kProductionWeek.In(image)));
-  txtTrailerVIN.SetText(BlockText(image, kVehicleId));
-  txtManufacturer.SetText(BlockText(image, kManufacturer));
-  txtTrailerType.SetText(BlockText(image, kTrailerType));
+  txtProdYear.SetText(PackedText(parameter::kProductionCentury.In(image)) +
+                      PackedText(parameter::kProductionYear.In(image)));
+  txtProdWeek.SetText(PackedText(parameter::kProductionWeek.In(image)));
+  txtTrailerVIN.SetText(BlockText(image, parameter::kVehicleId));
+  txtManufacturer.SetText(BlockText(image, parameter::kManufacturer));
+  txtTrailerType.SetText(BlockText(image, parameter::kTrailerType));
 }
 
 void frmOVGParm2::ShowSuspensionKind() {
@@ -165,26 +163,27 @@ void frmOVGParm2::ShowSuspensionKind() {
 
 void frmOVGParm2::ShowAxle(int i) {
   const ParameterImage& image = parts_.image;
-  txtAxleLoadUnladen[i].SetText(AxleLoadText(AxleLoadUnladen(i).In(image)));
-  txtAxleLoadLaden[i].SetText(AxleLoadText(AxleLoadLaden(i).In(image)));
+  txtAxleLoadUnladen[i].SetText(AxleLoadText(parameter::AxleLoadUnladen(i).In(image)));
+  txtAxleLoadLaden[i].SetText(AxleLoadText(parameter::AxleLoadLaden(i).In(image)));
   if (bAirSuspension_) {
-    txtSuspensionPressUnladen[i].SetText(PressureText(kSuspensionUnladen.In(image)));
-    txtSuspensionPressLaden[i].SetText(PressureText(kSuspensionLaden.In(image)));
+    txtSuspensionPressUnladen[i].SetText(PressureText(parameter::kSuspensionUnladen.In(image)));
+    txtSuspensionPressLaden[i].SetText(PressureText(parameter::kSuspensionLaden.In(image)));
   } else {
     txtSuspensionPressUnladen[i].SetText("0");
-    txtSuspensionPressLaden[i].SetText(LengthText(kSuspensionPath.In(image)));
-    txtLeverLength[i].SetText(LengthText(kLeverLength.In(image)));
+    txtSuspensionPressLaden[i].SetText(LengthText(parameter::kSuspensionPath.In(image)));
+    txtLeverLength[i].SetText(LengthText(parameter::kLeverLength.In(image)));
   }
-  txtBrakingPressLadenPm_AN[i].SetText(PressureTextPmAn(kBrakingLadenPmAn.In(image)));
-  txtBrakingPressLadenPm_K1[i].SetText(PressureText(kBrakingLadenPmK1.In(image)));
-  txtBrakingPressLadenPm_Max[i].SetText(PressureText(kBrakingLadenPmMax.In(image)));
-  txtBrakingPressUnladen[i].SetText(PressureText(kBrakingUnladen.In(image)));
+  txtBrakingPressLadenPm_AN[i].SetText(PressureTextPmAn(parameter::kBrakingLadenPmAn.In(image)));
+  txtBrakingPressLadenPm_K1[i].SetText(PressureText(parameter::kBrakingLadenPmK1.In(image)));
+  txtBrakingPressLadenPm_Max[i].SetText(PressureText(parameter::kBrakingLadenPmMax.In(image)));
+  txtBrakingPressUnladen[i].SetText(PressureText(parameter::kBrakingUnladen.In(image)));
 }
 
 void frmOVGParm2::ShowControlPressures() {
   txtControlPressureUnladen[0].SetText(kControlPressureUnladen);
   for (int i = 0; i < txtControlPressureLaden.Size(); ++i)
-    txtControlPressureLaden[i].SetText(ControlPressureText(kControlPressure[i].In(parts_.image)));
+    txtControlPressureLaden[i].SetText(
+        ControlPressureText(parameter::kControlPressure[i].In(parts_.image)));
 }
 
 void frmOVGParm2::Next() {
@@ -199,51 +198,52 @@ void frmOVGParm2::Next() {
 
 // Always all three: the empty rows of axles that are not there clear their loads.
 void frmOVGParm2::StoreAxleLoads() {
-  for (int a = 0; a < kAxles; ++a) {
-    AxleLoadUnladen(a).Put(parts_.image, AxleLoadPair(txtAxleLoadUnladen[a].Text()));
-    AxleLoadLaden(a).Put(parts_.image, AxleLoadPair(txtAxleLoadLaden[a].Text()));
+  for (int a = 0; a < parameter::kAxles; ++a) {
+    parameter::AxleLoadUnladen(a).Put(parts_.image, AxleLoadPair(txtAxleLoadUnladen[a].Text()));
+    parameter::AxleLoadLaden(a).Put(parts_.image, AxleLoadPair(txtAxleLoadLaden[a].Text()));
   }
 }
 
 void frmOVGParm2::StoreSuspension() {
   ParameterImage& image = parts_.image;
   if (bAirSuspension_) {
-    kSuspensionUnladen.Put(image, UnladenSuspensionByte(txtSuspensionPressUnladen[0].Text()));
-    kSuspensionLaden.Put(image, PressureByte(txtSuspensionPressLaden[0].Text()));
+    parameter::kSuspensionUnladen.Put(image,
+                                      UnladenSuspensionByte(txtSuspensionPressUnladen[0].Text()));
+    parameter::kSuspensionLaden.Put(image, PressureByte(txtSuspensionPressLaden[0].Text()));
     return;
   }
-  kSuspensionPath.Put(image, LengthPair(txtSuspensionPressLaden[0].Text()));
-  kLeverLength.Put(image, LengthPair(txtLeverLength[0].Text()));
+  parameter::kSuspensionPath.Put(image, LengthPair(txtSuspensionPressLaden[0].Text()));
+  parameter::kLeverLength.Put(image, LengthPair(txtLeverLength[0].Text()));
 }
 
 void frmOVGParm2::StoreBrakingPressures() {
   ParameterImage& image = parts_.image;
-  kBrakingLadenPmAn.Put(image, PressureByte(txtBrakingPressLadenPm_AN[0].Text()));
-  kBrakingLadenPmK1.Put(image, PressureByte(txtBrakingPressLadenPm_K1[0].Text()));
-  kBrakingLadenPmMax.Put(image, PressureByte(txtBrakingPressLadenPm_Max[0].Text()));
-  kBrakingUnladen.Put(image, PressureByte(txtBrakingPressUnladen[0].Text()));
+  parameter::kBrakingLadenPmAn.Put(image, PressureByte(txtBrakingPressLadenPm_AN[0].Text()));
+  parameter::kBrakingLadenPmK1.Put(image, PressureByte(txtBrakingPressLadenPm_K1[0].Text()));
+  parameter::kBrakingLadenPmMax.Put(image, PressureByte(txtBrakingPressLadenPm_Max[0].Text()));
+  parameter::kBrakingUnladen.Put(image, PressureByte(txtBrakingPressUnladen[0].Text()));
 }
 
 void frmOVGParm2::StoreProductionDate() {
   // In single-byte characters, so that any letter counts as one.
   const std::string year = ToCp1252(txtProdYear.Text());
-  kProductionCentury.Put(parts_.image, Packed(Front(year, 2)));
-  kProductionYear.Put(parts_.image, Packed(Back(year, 2)));
+  parameter::kProductionCentury.Put(parts_.image, Packed(Front(year, 2)));
+  parameter::kProductionYear.Put(parts_.image, Packed(Back(year, 2)));
   // A single digit is the left and the right one: "7" is 0x77.
-  kProductionWeek.Put(parts_.image, Packed(ToCp1252(txtProdWeek.Text())));
+  parameter::kProductionWeek.Put(parts_.image, Packed(ToCp1252(txtProdWeek.Text())));
 }
 
 void frmOVGParm2::StoreIdentity() {
   ParameterImage& image = parts_.image;
   image.strTrailerVIN = txtTrailerVIN.Text();
   const std::string vehicle_id = ToCp1252(Trim(txtTrailerVIN.Text()));
-  StoreBlockText(image, kVehicleId, vehicle_id);
+  StoreBlockText(image, parameter::kVehicleId, vehicle_id);
   parts_.ecu_data.VehicleId.Store(vehicle_id, ' ');
-  const std::string manufacturer = FieldOf(txtManufacturer.Text(), kManufacturer);
-  StoreBlockText(image, kManufacturer, manufacturer);
+  const std::string manufacturer = FieldOf(txtManufacturer.Text(), parameter::kManufacturer);
+  StoreBlockText(image, parameter::kManufacturer, manufacturer);
   parts_.ecu_data.Manufacturer.Store(manufacturer);
-  const std::string type = FieldOf(txtTrailerType.Text(), kTrailerType);
-  StoreBlockText(image, kTrailerType, type);
+  const std::string type = FieldOf(txtTrailerType.Text(), parameter::kTrailerType);
+  StoreBlockText(image, parameter::kTrailerType, type);
   parts_.ecu_data.TrailerType.Store(type);
 }
 

@@ -12,8 +12,6 @@
 namespace lorimet {
 namespace {
 
-using namespace parameter;
-
 // Items of optOVGStatus.
 constexpr int kNotAvailable = 0;
 constexpr int kOff = 1;
@@ -54,23 +52,25 @@ void frmOVGParm3::OnLoad() {
   CenterOnScreen();
   const ParameterImage& image = parts_.image;
   optOVGStatus[kNotAvailable].SetEnabled(false);
-  const bool on = kOverturnGuard.In(image) != 0;
-  const bool twin = kTwinTyres.In(image) != 0;
+  const bool on = parameter::kOverturnGuard.In(image) != 0;
+  const bool twin = parameter::kTwinTyres.In(image) != 0;
   optOVGStatus[!on ? kOff : twin ? kTwinTires : kSingleTires].SetValue(true);
   if (parts_.choices.two_sensors) {
     txtTireSize[1].SetEnabled(false);
     txtNumTeeth[1].SetEnabled(false);
   }
   for (int i = 0; i < 2; ++i) {
-    txtTireSize[i].SetText(TyreText(kTyreSize[i].In(image)));
-    txtNumTeeth[i].SetText(std::to_string(kNumTeeth[i].In(image)));
+    txtTireSize[i].SetText(TyreText(parameter::kTyreSize[i].In(image)));
+    txtNumTeeth[i].SetText(std::to_string(parameter::kNumTeeth[i].In(image)));
   }
 }
 
 void frmOVGParm3::GetSettingsFromGUI() {
   StoreOverturnGuard();
-  for (int i = 0; i < 2; ++i) kTyreSize[i].Put(parts_.image, TyreByte(txtTireSize[i].Text()));
-  for (int i = 0; i < 2; ++i) kNumTeeth[i].Put(parts_.image, TeethByte(txtNumTeeth[i].Text()));
+  for (int i = 0; i < 2; ++i)
+    parameter::kTyreSize[i].Put(parts_.image, TyreByte(txtTireSize[i].Text()));
+  for (int i = 0; i < 2; ++i)
+    parameter::kNumTeeth[i].Put(parts_.image, TeethByte(txtNumTeeth[i].Text()));
   StoreStopLight();
 }
 
@@ -78,29 +78,29 @@ void frmOVGParm3::GetSettingsFromGUI() {
 void frmOVGParm3::StoreOverturnGuard() {
   const bool twin = optOVGStatus[kTwinTires].Value();
   const bool on = twin || optOVGStatus[kSingleTires].Value();
-  kOverturnGuard.Put(parts_.image, on ? 1 : 0);
-  if (on) kTwinTyres.Put(parts_.image, twin ? 1 : 0);
+  parameter::kOverturnGuard.Put(parts_.image, on ? 1 : 0);
+  if (on) parameter::kTwinTyres.Put(parts_.image, twin ? 1 : 0);
 }
 
 void frmOVGParm3::StoreStopLight() {
   ParameterImage& image = parts_.image;
   const StopLightCable cable = parts_.choices.stop_light;
   if (cable != StopLightCable::kNone) {
-    kStopLightInstalled.Put(image, 1);
-    kStopLightLetter.Put(image, 'I');
-    kStopLightMode.Put(image, 3);
-    kStopLightPin.Put(image, cable == StopLightCable::kLevel2Output ? 177 : 65);
-    kSharedOutput.Put(image, 0);
-    kStopLightOption.Put(image, 1);
+    parameter::kStopLightInstalled.Put(image, 1);
+    parameter::kStopLightLetter.Put(image, 'I');
+    parameter::kStopLightMode.Put(image, 3);
+    parameter::kStopLightPin.Put(image, cable == StopLightCable::kLevel2Output ? 177 : 65);
+    parameter::kSharedOutput.Put(image, 0);
+    parameter::kStopLightOption.Put(image, 1);
     return;
   }
   // What the page of the functions has put into these two bytes is given up.
   const bool shared = parts_.ecu_data.bNumModulators.Load() > 1;
-  kOutputOptions.Put(image, 0);
-  kSharedOutput.Put(image, shared ? 1 : 0);
-  kSharedPin.Put(image, shared ? 65 : 0);
-  kStopLightPin.Put(image, 0);
-  kStopLightMode.Put(image, 7);
+  parameter::kOutputOptions.Put(image, 0);
+  parameter::kSharedOutput.Put(image, shared ? 1 : 0);
+  parameter::kSharedPin.Put(image, shared ? 65 : 0);
+  parameter::kStopLightPin.Put(image, 0);
+  parameter::kStopLightMode.Put(image, 7);
 }
 
 void frmOVGParm3::SaveToEcu() {

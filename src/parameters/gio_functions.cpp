@@ -11,8 +11,6 @@
 namespace lorimet {
 namespace {
 
-using namespace parameter;
-
 constexpr std::uint8_t kNoConnector = 255;
 
 struct GioWrite {
@@ -24,61 +22,61 @@ struct GioWrite {
 // not checked.
 // clang-format off
 constexpr GioWrite kGioWrites[] = {
-    {0, PutByte(kGioMask2,               6)},
-    {0, PutByte(kOutputOptions,        128)},
-    {0, PutByte(kSharedPin,             65)},
-    {0, PutByte(Connector(39),         209)},
-    {0, PutByte(Connector(40),         211)},
-    {0, PutByte(Connector(41),         212)},
-    {0, PutByte(Connector(103),        161)},
+    {0, PutByte(parameter::kGioMask2,               6)},
+    {0, PutByte(parameter::kOutputOptions,        128)},
+    {0, PutByte(parameter::kSharedPin,             65)},
+    {0, PutByte(parameter::Connector(39),         209)},
+    {0, PutByte(parameter::Connector(40),         211)},
+    {0, PutByte(parameter::Connector(41),         212)},
+    {0, PutByte(parameter::Connector(103),        161)},
 
-    {1, SetBits(kGioMask1,            0xF8)},
-    {1, PutByte(GioValue(35),            7)},
-    {1, PutByte(GioValue(38),            0)},
-    {1, PutByte(kSharedPin,              0)},
-    {1, PutByte(Connector(89),         179)},
-    {1, PutByte(Connector(99),         177)},
+    {1, SetBits(parameter::kGioMask1,            0xF8)},
+    {1, PutByte(parameter::GioValue(35),            7)},
+    {1, PutByte(parameter::GioValue(38),            0)},
+    {1, PutByte(parameter::kSharedPin,              0)},
+    {1, PutByte(parameter::Connector(89),         179)},
+    {1, PutByte(parameter::Connector(99),         177)},
 
-    {2, SetBits(kGioMask2,            0x02)},
-    {2, PutByte(kSharedPin,              0)},
-    {2, PutByte(Connector(105),         65)},
+    {2, SetBits(parameter::kGioMask2,            0x02)},
+    {2, PutByte(parameter::kSharedPin,              0)},
+    {2, PutByte(parameter::Connector(105),         65)},
 
-    {3, PutByte(kSharedPin,              0)},
+    {3, PutByte(parameter::kSharedPin,              0)},
 
-    {4, PutByte(Connector(39),           0)},
-    {4, PutByte(Connector(40),           0)},
-    {4, PutByte(Connector(41),           0)},
-    {4, PutByte(kGioMask1,             224)},
-    {4, PutByte(kGioMask2,               3)},
-    {4, PutByte(Connector(91),         145)},
-    {4, PutByte(Connector(94),         177)},
+    {4, PutByte(parameter::Connector(39),           0)},
+    {4, PutByte(parameter::Connector(40),           0)},
+    {4, PutByte(parameter::Connector(41),           0)},
+    {4, PutByte(parameter::kGioMask1,             224)},
+    {4, PutByte(parameter::kGioMask2,               3)},
+    {4, PutByte(parameter::Connector(91),         145)},
+    {4, PutByte(parameter::Connector(94),         177)},
 
-    {5, PutByte(kGioMask1,             248)},
-    {5, PutByte(kGioMask2,               3)},
-    {5, SetBits(kHydraulicSensor)},
-    {5, PutByte(Connector(91),         145)},
-    {5, PutByte(Connector(94),         177)},
-    {5, PutByte(Connector(85),         161)},
+    {5, PutByte(parameter::kGioMask1,             248)},
+    {5, PutByte(parameter::kGioMask2,               3)},
+    {5, SetBits(parameter::kHydraulicSensor)},
+    {5, PutByte(parameter::Connector(91),         145)},
+    {5, PutByte(parameter::Connector(94),         177)},
+    {5, PutByte(parameter::Connector(85),         161)},
 
-    {6, PutByte(kOutputOptions,        128)},
-    {6, PutByte(kGioMask1,             248)},
-    {6, PutByte(kGioMask2,               1)},
-    {6, PutByte(Connector(93),         145)},
-    {6, PutByte(Connector(96),         161)},
-    {6, PutByte(Connector(98),         147)},
-    {6, PutByte(GioValue(35),            3)},
-    {6, PutByte(GioValue(36),            3)},
+    {6, PutByte(parameter::kOutputOptions,        128)},
+    {6, PutByte(parameter::kGioMask1,             248)},
+    {6, PutByte(parameter::kGioMask2,               1)},
+    {6, PutByte(parameter::Connector(93),         145)},
+    {6, PutByte(parameter::Connector(96),         161)},
+    {6, PutByte(parameter::Connector(98),         147)},
+    {6, PutByte(parameter::GioValue(35),            3)},
+    {6, PutByte(parameter::GioValue(36),            3)},
 
-    {8, ClearBits(kSpecialFunctions)},
-    {8, PutByte(kGuardOptions,         176)},
-    {8, PutByte(kHydraulicPin1,          0)},
-    {8, PutByte(kHydraulicPin2,          0)},
-    {8, PutByte(kConstantPowerPin,       0)},
-    {8, ClearBits(kSpeedSwitchBit)},
-    {8, PutByte(kTurnOnSpeed,           15)},
-    {8, PutByte(kTurnOffSpeed,          10)},
-    {8, PutByte(kSpeedSwitchMode,        2)},
-    {8, PutByte(kSpeedSwitchPin,         0)},
+    {8, ClearBits(parameter::kSpecialFunctions)},
+    {8, PutByte(parameter::kGuardOptions,         176)},
+    {8, PutByte(parameter::kHydraulicPin1,          0)},
+    {8, PutByte(parameter::kHydraulicPin2,          0)},
+    {8, PutByte(parameter::kConstantPowerPin,       0)},
+    {8, ClearBits(parameter::kSpeedSwitchBit)},
+    {8, PutByte(parameter::kTurnOnSpeed,           15)},
+    {8, PutByte(parameter::kTurnOffSpeed,          10)},
+    {8, PutByte(parameter::kSpeedSwitchMode,        2)},
+    {8, PutByte(parameter::kSpeedSwitchPin,         0)},
 };
 // clang-format on
 
@@ -176,17 +174,17 @@ void ApplyFunction(int item, ParameterImage& image) {
 void ApplyGioFunctions(const GioChoice& chosen, ParameterImage& image) {
   // The lift axle's dialog has stored what the user confirmed; the tag axle's recipe, which comes
   // first, has values of its own in the same place.
-  const BytePair lowering = kLoweringPressure.In(image);
-  const BytePair lifting = kLiftingPressure.In(image);
-  for (int i = kFirstGioConnector; i <= kLastGioConnector; ++i)
-    Connector(i).Put(image, kNoConnector);
-  kGioMask1.Put(image, 0);
-  kGioMask2.Put(image, 0);
+  const BytePair lowering = parameter::kLoweringPressure.In(image);
+  const BytePair lifting = parameter::kLiftingPressure.In(image);
+  for (int i = parameter::kFirstGioConnector; i <= parameter::kLastGioConnector; ++i)
+    parameter::Connector(i).Put(image, kNoConnector);
+  parameter::kGioMask1.Put(image, 0);
+  parameter::kGioMask2.Put(image, 0);
   for (int item = 0; item < kGioFunctionCount; ++item)
     if (chosen[static_cast<std::size_t>(item)] != (item == kGioSpecial)) ApplyFunction(item, image);
   if (!chosen[kGioLiftAxle]) return;
-  kLoweringPressure.Put(image, lowering);
-  kLiftingPressure.Put(image, lifting);
+  parameter::kLoweringPressure.Put(image, lowering);
+  parameter::kLiftingPressure.Put(image, lifting);
 }
 
 }  // namespace lorimet

@@ -67,7 +67,6 @@ class InputGate : public QObject {
       case QEvent::ContextMenu:
       case QEvent::DragEnter:
       case QEvent::Drop:
-        return true;
       // Not every event loop can leave these out by itself.
       case QEvent::SockAct:
         return true;
