@@ -6,6 +6,9 @@
 #include <poll.h>
 #include <signal.h>
 #include <stdlib.h>
+#include <sys/socket.h>
+#include <sys/time.h>
+#include <sys/un.h>
 #include <unistd.h>
 
 #include <array>
@@ -163,6 +166,69 @@ TEST_F(LibraryTest, TakesCommandsBeforeItConnects) {
   Control("failure no_adapter times=1\n");
   EXPECT_EQ(Connect(), 142);
   EXPECT_EQ(Connect(), 0);
+}
+
+TEST_F(LibraryTest, AnswersEachCommandWithItsNumberConnectedOrNot) {
+  Control("get flag\nfly\n");
+  EXPECT_TRUE(Eventually([&] { return Contents("control.done") == "2\n"; }))
+      << "nobody has called the library yet";
+  EXPECT_EQ(Contents("control.answers"), "1 ok 2\n2 unknown command 'fly'\n");
+  ASSERT_EQ(Connect(), 0);
+  Control("flag 7\nget flag\n");
+  EXPECT_TRUE(Eventually([&] { return Contents("control.done") == "4\n"; }));
+  EXPECT_EQ(Contents("control.answers"), "1 ok 2\n2 unknown command 'fly'\n3 ok\n4 ok 7\n");
+  Control("after 0.1 supply lots\n");
+  EXPECT_TRUE(Eventually(
+      [&] { return Contents("control.errors").find("supply: 'lots'") != std::string::npos; }));
+}
+
+TEST_F(LibraryTest, ItsTimeRunsFromTheLoadingOn) {
+  int asked = 0;
+  const auto time = [&] {
+    Control("get time\n");
+    const std::string number = std::to_string(++asked) + " ok ";
+    std::string answers;
+    EXPECT_TRUE(Eventually([&] {
+      answers = Contents("control.answers");
+      return answers.find(number) != std::string::npos && answers.ends_with('\n');
+    }));
+    return std::stod(answers.substr(answers.find(number) + number.size()));
+  };
+  const double first = time();
+  EXPECT_TRUE(Eventually([&] { return time() > first + 0.1; }));
+}
+
+TEST_F(LibraryTest, ASocketBesideTheControlFileServesToo) {
+  sockaddr_un address = {};
+  address.sun_family = AF_UNIX;
+  const std::string name = folder_ / "control.socket";
+  ASSERT_LT(name.size(), sizeof address.sun_path);
+  name.copy(address.sun_path, name.size());
+  const int client = socket(AF_UNIX, SOCK_STREAM, 0);
+  ASSERT_EQ(connect(client, reinterpret_cast<sockaddr*>(&address), sizeof address), 0);
+  timeval limit = {20, 0};
+  setsockopt(client, SOL_SOCKET, SO_RCVTIMEO, &limit, sizeof limit);
+  const auto expect = [&](const std::string& text, const std::string& expected) {
+    EXPECT_EQ(send(client, text.data(), text.size(), MSG_NOSIGNAL),
+              static_cast<ssize_t>(text.size()));
+    std::string answer;
+    while (answer.size() < expected.size()) {
+      char bytes[256];
+      const ssize_t count = recv(client, bytes, sizeof bytes, 0);
+      if (count <= 0) break;
+      answer.append(bytes, static_cast<std::size_t>(count));
+    }
+    EXPECT_EQ(answer, expected);
+  };
+  expect("flag 9\nget fl", "1 ok\n");
+  expect("ag\nfly\n", "2 ok 9\n3 unknown command 'fly'\n");
+  const int other = socket(AF_UNIX, SOCK_STREAM, 0);
+  ASSERT_EQ(connect(other, reinterpret_cast<sockaddr*>(&address), sizeof address), 0);
+  close(other);
+  expect("get flag\n", "4 ok 9\n");  // one that goes leaves the others
+  Unload();
+  EXPECT_FALSE(std::filesystem::exists(name));
+  close(client);
 }
 
 TEST_F(LibraryTest, StartsAsTheScenarioOfTheEnvironment) {

@@ -60,7 +60,7 @@ std::string RunWhen(Simulation& s, const Words& words) {
   };
   const auto compare = std::find_if(words.begin(), words.end(), is_compare);
   if (words.end() - compare < 3 || compare == words.begin())
-    return "use: when NAME =|!=|<|<=|>|>= VALUE COMMAND";
+    return "'when' needs a name, a comparison, a value and a command";
   const Words looked(words.begin(), compare);
   Condition condition{{}, *compare, *(compare + 1)};
   for (const std::string& word : looked)

@@ -16,6 +16,8 @@ enum class SensorState { kWell, kNone, kHigh };
 struct PressureSensorDefect {
   SensorState state = SensorState::kWell;
   double offset = 0;  // psi
+
+  bool operator==(const PressureSensorDefect&) const = default;
 };
 
 struct ModulatorDefect {
@@ -24,6 +26,8 @@ struct ModulatorDefect {
   double residual = 0;  // psi, never below
   double slow = 1;      // all times times this
   double leak = 0;      // psi a second while applied
+
+  bool operator==(const ModulatorDefect&) const = default;
 };
 
 // The pneumatic path of a modulator.
@@ -31,6 +35,8 @@ struct RedundancyDefect {
   bool blocked = false;
   double kinked = 0;  // time constant in seconds; 0: the healthy one
   double offset = 0;  // psi less
+
+  bool operator==(const RedundancyDefect&) const = default;
 };
 
 enum class SpeedSensorState { kWell, kOpen, kShort, kShort12V, kDead, kErratic };
@@ -38,6 +44,8 @@ enum class SpeedSensorState { kWell, kOpen, kShort, kShort12V, kDead, kErratic }
 struct SpeedSensorDefect {
   SpeedSensorState state = SpeedSensorState::kWell;
   double gap = 1;  // the share of the speed that is told
+
+  bool operator==(const SpeedSensorDefect&) const = default;
 };
 
 struct Defects {
@@ -62,6 +70,8 @@ struct Defects {
   bool lamp_shorted = false;
   bool height_sensor_open = false;
   bool stop_lights_dead = false;
+
+  bool operator==(const Defects&) const = default;
 };
 
 // Puts a defect into the trailer: its name, where, and "key=value" options. The result is empty, or

@@ -135,6 +135,7 @@ constexpr Row kRows[] = {
     {"load", 0, "", LORIMET32_SEE(Text(s.trailer.Load().Load()))},
     {"bellows", 0, "", LORIMET32_SEE(Text(s.trailer.BellowsPressure()))},
     {"wheel", 2, "N speed|brake|turnable", LookWheel},
+    {"parking_brake", 0, "", LORIMET32_SEE(Text(s.trailer.ParkingBrake(), "on", "off"))},
     {"speed", 0, "", LORIMET32_SEE(Text(s.trailer.Road().Speed()))},
     {"distance", 1, "odometer|trip|next_service", LookDistance},
     {"volts", 0, "", LORIMET32_SEE(Text(s.trailer.Electric().Volts()))},

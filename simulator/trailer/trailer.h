@@ -88,6 +88,7 @@ class Trailer {
 
   // --- What a person does to the trailer.
   void SetParkingBrake(bool on) { parking_brake_ = on; }
+  bool ParkingBrake() const { return parking_brake_; }
   void SetResetSeconds(double seconds) { restart_steps_ = StepsIn(seconds); }
   // Makes the ECU complain whatever the parameters say.
   void ForceError(int byte, int bit, bool on);
