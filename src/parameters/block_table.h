@@ -76,9 +76,11 @@ inline constexpr auto kBlocksInOrder = [] {
 }();
 
 template <std::uint8_t BlockRow::*kPlace>
-inline constexpr bool kOrderIsWhole = std::ranges::count(kBlocksInOrder<kPlace>,
-                                                         static_cast<const BlockRow*>(nullptr)) ==
-                                      0;
+inline constexpr bool kOrderIsWhole = [] {
+  for (std::size_t place = 1; place <= kBlocksInOrder<kPlace>.size(); ++place)
+    if (std::ranges::count(kBlockTable, place, kPlace) != 1) return false;
+  return true;
+}();
 static_assert(kOrderIsWhole<&BlockRow::ecu_read> && kOrderIsWhole<&BlockRow::ecu_write> &&
               kOrderIsWhole<&BlockRow::file_read> && kOrderIsWhole<&BlockRow::file_write>);
 
