@@ -7,7 +7,9 @@
 #include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTimer>
+#include <filesystem>
 #include <functional>
+#include <string>
 
 #include "adapters/headless/headless_ports.h"
 #include "autotests/common/fake_link.h"
@@ -171,6 +173,35 @@ TEST_F(TestScreenWindows, EnterCommandsNothingUnlessAButtonHasTheFocus) {
     EXPECT_TRUE(!on_button || focus->objectName() == "Command1") << screen->Name();
     EXPECT_TRUE(screen->Loaded()) << screen->Name();
     EXPECT_EQ(link.TakeCalls(), std::vector<std::string>{}) << screen->Name();
+    screen->Unload();
+  }
+}
+
+// A run that is under way is not lost by a key.
+TEST_F(TestScreenWindows, EscapeClosesNoTest) {
+  for (Form* screen : All()) {
+    Open(*screen);
+    Press(windows.Window(*screen), Qt::Key_Escape);
+    for (QLineEdit* line : windows.Window(*screen)->findChildren<QLineEdit*>())
+      if (line->isVisible() && line->isEnabled()) Press(line, Qt::Key_Escape);
+    EXPECT_TRUE(screen->Loaded()) << screen->Name();
+    screen->Unload();
+  }
+}
+
+TEST_F(TestScreenWindows, EveryScreenHasItsPageOfTheHelp) {
+  for (const Form* screen : All())
+    for (const char* language : {"en", "fr", "es"})
+      EXPECT_TRUE(std::filesystem::exists(std::string(LORIMET_SOURCE_ROOT "/help/") + language +
+                                          "/" + screen->help_page))
+          << screen->Name();
+}
+
+TEST_F(TestScreenWindows, EveryScreenOpensInTheMiddle) {
+  for (Form* screen : All()) {
+    Open(*screen);
+    EXPECT_EQ(screen->Left(), (windows.ScreenWidth() - screen->Width()) / 2) << screen->Name();
+    EXPECT_EQ(screen->Top(), (windows.ScreenHeight() - screen->Height()) / 2) << screen->Name();
     screen->Unload();
   }
 }

@@ -13,6 +13,7 @@ constexpr int kInterval = 800;  // ms
 
 frmLampTest::frmLampTest(const TestParts& parts)
     : Form(parts.desktop, "frmLampTest"), parts_(parts) {
+  help_page = "lamp_test.html";
   cmdYes.on_click = [this] { Answer(kTestPassed); };
   cmdNo.on_click = [this] { Answer(kTestFailed); };
   Timer1.on_tick = [this] { OnTick(); };

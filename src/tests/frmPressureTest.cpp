@@ -25,6 +25,7 @@ constexpr const char* kMask = "##0.0";
 
 frmPressureTest::frmPressureTest(const TestParts& parts)
     : Form(parts.desktop, "frmPressureTest"), parts_(parts) {
+  help_page = "pressure_test.html";
   cmdStart.on_click = [this] { Start(); };
   cmdCancel.on_click = [this] { Unload(); };
   cmdOK.on_click = cmdCancel.on_click;

@@ -28,6 +28,7 @@ constexpr const char* kMask = "##0.0";
 
 frmRedundancyTest::frmRedundancyTest(const TestParts& parts)
     : Form(parts.desktop, "frmRedundancyTest"), parts_(parts) {
+  help_page = "redundancy_test.html";
   cmdStart.on_click = [this] { Start(); };
   cmdStop.on_click = [this] { Stop(); };
   cmdClose.on_click = [this] { Close(); };

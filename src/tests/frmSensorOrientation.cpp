@@ -55,6 +55,7 @@ bool HasRow(int step) { return step >= 1 && step <= kRows; }
 
 frmSensorOrientation::frmSensorOrientation(const TestParts& parts)
     : Form(parts.desktop, "frmSensorOrientation"), parts_(parts) {
+  help_page = "sensor_test.html";
   StartButton.on_click = [this] { Start(); };
   StopButton.on_click = [this] { Stop(); };
   CloseButton.on_click = [this] { Close(); };

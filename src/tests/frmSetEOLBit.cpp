@@ -13,6 +13,7 @@ constexpr std::int32_t kNoAnswer = 1;  // of an ECU that does not answer
 
 frmSetEOLBit::frmSetEOLBit(Desktop& desktop, Dictionary& dictionary, const EolFlagParts& parts)
     : Form(desktop, "frmSetEOLBit"), dictionary_(dictionary), parts_(parts) {
+  help_page = "eol_flag.html";
   cmdSetStatusFlag.on_click = [this] { Set(1); };
   cmdClearStatusFlag.on_click = [this] { Set(0); };
   cmdClose.on_click = [this] { Unload(); };

@@ -15,6 +15,7 @@ constexpr std::int16_t kOn = 1;
 
 frmStopLight::frmStopLight(Desktop& desktop, Dictionary& dictionary, LinkLibrary& link)
     : Form(desktop, "frmStopLight"), dictionary_(dictionary), link_(link) {
+  help_page = "stop_light.html";
   cmdTrl1On.on_click = [this] { Switch(kOn); };
   cmdTrl1Off.on_click = [this] { Switch(kOff); };
   Command1.on_click = [this] {

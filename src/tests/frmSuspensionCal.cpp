@@ -23,6 +23,7 @@ constexpr std::uint8_t kNoReading = 0xFF;  // in both bytes
 
 frmSuspensionCal::frmSuspensionCal(const TestParts& parts, Faults& faults)
     : Form(parts.desktop, "frmSuspensionCal"), parts_(parts), faults_(faults) {
+  help_page = "suspension_calibration.html";
   cmdCalHgtSensor.OnClick([this](int index) { Calibrate(index); });
   cmdClose.on_click = [this] { Close(); };
   Timer1.on_tick = [this] { OnTick(); };
