@@ -61,7 +61,7 @@ class DesktopProgram {
     notifier_ = std::make_unique<QSocketNotifier>(hook.ReadDescriptor(), QSocketNotifier::Read);
     QObject::connect(notifier_.get(), &QSocketNotifier::activated, notifier_.get(), [this] {
       // Statuses of a program that has failed stay in the pipe.
-      notifier_->setEnabled(!desktop.Failed());
+      notifier_->setEnabled(!desktop.life.Failed());
       desktop.RunEvent([this] { hook.Drain(); });
     });
 #endif

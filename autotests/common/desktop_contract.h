@@ -92,7 +92,7 @@ TYPED_TEST_P(DesktopContract, ErrorOfAnEventThatCodeRaisesCanBeTrappedThere) {
   });
   EXPECT_EQ(this->log, (std::vector<std::string>{"trapped 6"}));
   EXPECT_TRUE(this->told.empty());
-  EXPECT_FALSE(this->stage.desktop.Failed());
+  EXPECT_FALSE(this->stage.desktop.life.Failed());
 }
 
 TYPED_TEST_P(DesktopContract, ErrorThatNobodyTrapsReachesTheTopAndNobodyGoesOn) {
@@ -105,7 +105,7 @@ TYPED_TEST_P(DesktopContract, ErrorThatNobodyTrapsReachesTheTopAndNobodyGoesOn) 
   });
   EXPECT_TRUE(this->log.empty());
   EXPECT_EQ(this->told, std::vector<int>{6});
-  EXPECT_TRUE(this->stage.desktop.Failed());
+  EXPECT_TRUE(this->stage.desktop.life.Failed());
 }
 
 TYPED_TEST_P(DesktopContract, ErrorOfAFocusEventThatCodeRaisesPassesThroughThatCode) {

@@ -32,7 +32,7 @@ void Desktop::Flush() {
 }
 
 void Desktop::RunEvent(const std::function<void()>& handler) {
-  if (failed_) return;
+  if (life.Failed()) return;
   const Restore depth(event_depth_, event_depth_ + 1);
   const bool outermost = event_depth_ == 1;
   std::exception_ptr unhandled;
@@ -58,10 +58,11 @@ void Desktop::RunEvent(const std::function<void()>& handler) {
 }
 
 void Desktop::Fail(const RuntimeError& error) {
-  if (std::exchange(failed_, true)) return;
+  if (life.Unwinding()) return;
+  life.Fail();
   ticks_.clear();
   on_unhandled_error(error);
-  told_ = true;
+  life.Unwind();
   EndLoops();
 }
 
@@ -78,13 +79,13 @@ void Desktop::RunLoop(Loop kind, const std::function<void()>& loop) {
       error_ = std::current_exception();
     }
   }
-  if (below > 0 && (error_ != nullptr || told_)) throw Unwinding{};
+  if (below > 0 && (error_ != nullptr || life.Unwinding())) throw Unwinding{};
 }
 
 // --- Ticks -------------------------------------------------------------------------------------
 
 void Desktop::PostTick(Ticker& timer) {
-  if (failed_ || std::ranges::find(ticks_, &timer) != ticks_.end()) return;
+  if (life.Failed() || std::ranges::find(ticks_, &timer) != ticks_.end()) return;
   ticks_.push_back(&timer);
   TickPosted();
 }

@@ -140,8 +140,6 @@ class Desktop {
   void Flush();
   // Runs an event's handler and flushes behind it; nothing once the program has failed.
   void RunEvent(const std::function<void()>& handler);
-  // An error has reached the top.
-  bool Failed() const { return failed_; }
 
   // A timer's interval has passed: its tick is posted, unless one is posted already.
   void PostTick(Ticker& timer);
@@ -182,8 +180,6 @@ class Desktop {
   std::exception_ptr error_;      // what unwinds
   int event_depth_ = 0;           // within the running loop
   int standing_loops_ = 0;
-  bool failed_ = false;
-  bool told_ = false;  // the top has taken the error
 };
 
 }  // namespace lorimet

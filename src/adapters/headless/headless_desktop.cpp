@@ -168,7 +168,7 @@ void HeadlessDesktop::RunModal(Form& form) {
 void HeadlessDesktop::StandModally(Form& form) {
   if (auto action = TakeFirst(on_modal_[form.Name()])) RunEvent([&] { (*action)(form); });
   const std::uint64_t patience = clock_.Milliseconds() + kPatience;
-  while (form.Visible() && !Failed()) {
+  while (form.Visible() && !life.Failed()) {
     const auto next = NextDue();
     if (!next || clock_.Milliseconds() > patience)
       throw std::logic_error("the modal form " + form.Name() + " stays open: nobody acts on it");

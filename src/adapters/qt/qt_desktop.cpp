@@ -158,7 +158,7 @@ void QtDesktop::RunModal(Form& form) {
     QEventLoop loop;
     modal_loops_.push_back({&form, &loop});
     // A form that is hidden and shown again goes on; an application that quits ends all loops.
-    while (form.Visible() && !Failed() && loop.exec() != -1) {
+    while (form.Visible() && !life.Failed() && loop.exec() != -1) {
     }
     modal_loops_.pop_back();
   });
