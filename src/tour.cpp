@@ -70,7 +70,6 @@ class Tour {
     waited_.start();
     timer_.start(kLookInterval);
   }
-  bool Failed() const { return failed_; }
 
  private:
   // --- The words of the plan.
@@ -96,9 +95,10 @@ class Tour {
     if (!wrong.isEmpty())
       Fail(QString("%1 shows %2 in an error state: %3").arg(file, window, wrong));
   }
-  void Fail(const QString& why) {
+  [[noreturn]] static void Fail(const QString& why) {
     std::fprintf(stderr, "    %s\n", qPrintable(why));
-    failed_ = true;
+    std::fflush(nullptr);
+    std::_Exit(1);
   }
   void Pause(int milliseconds) {
     auto since = std::make_shared<QElapsedTimer>();
@@ -278,7 +278,6 @@ class Tour {
     }
     if (waited_.elapsed() > kPatience)
       Fail(QString("The tour cannot go on: it waits for ") + steps_.front().what);
-    if (failed_) std::_Exit(1);
     if (!steps_.front().ready()) return;
     const Step step = std::move(steps_.front());
     steps_.pop_front();
@@ -294,7 +293,6 @@ class Tour {
   QElapsedTimer waited_;
   std::deque<Step> steps_;
   int pictures_ = 0;
-  bool failed_ = false;
 };
 
 // The language as the settings store it.
@@ -337,13 +335,12 @@ int main(int argc, char** argv) {
   QApplication application(argc, argv);
   QApplication::setQuitOnLastWindowClosed(false);
   lorimet::ApplyStyle(application);
-  lorimet::DesktopProgram desktop_program;
-  Tour tour(desktop_program.desktop, folder, folder + "/operator.txt",
-            [&](const std::string& text) {
-              return desktop_program.program.support->dictionary.Translate(text);
+  // Never deleted, as in the program itself.
+  static auto* const desktop_program = new lorimet::DesktopProgram;
+  Tour tour(desktop_program->desktop, folder, folder + "/operator.txt",
+            [](const std::string& text) {
+              return desktop_program->program.support->dictionary.Translate(text);
             });
   tour.Begin();
-  if (desktop_program.program.Start() == lorimet::EntryResult::kRunning)
-    desktop_program.desktop.Run();
-  return tour.Failed() ? 1 : desktop_program.program.ExitStatus();
+  return desktop_program->Run();
 }
