@@ -78,6 +78,9 @@ class DesktopTest : public testing::Test {
  public:
   // Delivers an event as the window system does.
   static void Send(QWidget* widget, QEvent& event);
+  static void Click(QWidget* widget);
+  static void Press(QWidget* widget, int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier,
+                    const QString& text = {});
   // Lets everything that is pending happen.
   static void Pump();
   // Runs `action` from the event loop once the next modal window stands.
@@ -87,10 +90,7 @@ class DesktopTest : public testing::Test {
   DesktopTest();
   ~DesktopTest() override;
 
-  static void Click(QWidget* widget);
   static void DoubleClick(QWidget* widget);
-  static void Press(QWidget* widget, int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier,
-                    const QString& text = {});
   static void Type(QWidget* widget, const QString& text);
 
   template <typename Widget>

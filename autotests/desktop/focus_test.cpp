@@ -63,6 +63,18 @@ TEST_F(FocusTest, SetFocusFromCodeMovesTheKeyboard) {
   EXPECT_EQ(form.log, (Log{"+name"}));
 }
 
+TEST_F(FocusTest, TabulatorSkipsAFieldThatIsNoTabStopAndTheMouseDoesNot) {
+  for (const bool stop : {true, false}) {
+    desktop.RunEvent([&] { form.txtLast.SetTabStop(stop); });
+    form.optChoice[0].SetFocus();
+    road::Key(desktop.Window(form), Qt::Key_Backtab, Qt::ShiftModifier);
+    const Control* before = stop ? &form.txtLast : &form.txtNotes;
+    EXPECT_EQ(form.FocusedControl(), before);
+    road::Click(Find<QLineEdit>(form, "txtLast"));
+    EXPECT_EQ(form.FocusedControl(), &form.txtLast);
+  }
+}
+
 TEST_F(FocusTest, FieldThatWasJustEnabledTakesTheFocus) {
   desktop.RunEvent([this] { form.txtName.SetEnabled(false); });
   desktop.RunEvent([this] {

@@ -7,6 +7,8 @@
 #include <QPushButton>
 #include <QRadioButton>
 
+#include <string>
+
 #include "autotests/desktop/screens_fixture.h"
 
 namespace lorimet {
@@ -234,6 +236,32 @@ TEST_F(ScreenKeysTest, TabEntersAGroupOfOptionsAtTheSelectedOne) {
         entries << option->objectName();
     }
     EXPECT_EQ(entries, QStringList{QStringLiteral("optVehicleType_%1").arg(selected)});
+  }
+}
+
+TEST_F(ScreenKeysTest, VoltageSourceShowsAStateAndTakesNoInput) {
+  frmZeltMain& main = program.session->main_form;
+  const auto button = [&](int index) {
+    return Find<QRadioButton>(main, ("optVoltageSource_" + std::to_string(index)).c_str());
+  };
+  const auto shown_is = [&](int index) {
+    return main.optVoltageSource[index].Value() && !main.optVoltageSource[1 - index].Value() &&
+           button(index)->isChecked() && !button(1 - index)->isChecked();
+  };
+  for (const int selected : {0, 1}) {
+    desktop.RunEvent([&] { main.optVoltageSource[selected].SetValue(true); });
+    ASSERT_TRUE(shown_is(selected));
+    QRadioButton* other = button(1 - selected);
+    road::Click(other);
+    EXPECT_TRUE(shown_is(selected));
+    // As a robot does that hands the events to the widget itself.
+    DesktopTest::Click(other);
+    DesktopTest::Press(other, Qt::Key_Space, Qt::NoModifier, " ");
+    DesktopTest::Press(button(selected), Qt::Key_Right);
+    EXPECT_TRUE(shown_is(selected));
+    EXPECT_FALSE(button(0)->hasFocus() || button(1)->hasFocus());
+    // Nor does the tabulator enter them.
+    for (const int index : {0, 1}) EXPECT_EQ(button(index)->focusPolicy(), Qt::NoFocus) << index;
   }
 }
 

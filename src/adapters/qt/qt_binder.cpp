@@ -134,14 +134,41 @@ class CheckBoxBinding : public AbstractButtonBinding {
   QCheckBox* widget_;
 };
 
+// Keeps mouse and keyboard from a widget that only shows, whichever way they reach it; what it does
+// not take goes on to the widgets around it.
+class InputBarrier : public QObject {
+ public:
+  explicit InputBarrier(QWidget* widget) : QObject(widget) { widget->installEventFilter(this); }
+  bool eventFilter(QObject* /*object*/, QEvent* event) override {
+    switch (event->type()) {
+      case QEvent::MouseButtonPress:
+      case QEvent::MouseButtonRelease:
+      case QEvent::MouseButtonDblClick:
+      case QEvent::TouchBegin:
+      case QEvent::KeyPress:
+      case QEvent::KeyRelease:
+      case QEvent::Shortcut:
+        event->ignore();
+        return true;
+      default:
+        return false;
+    }
+  }
+};
+
 // The option buttons of one array stand in one group of the toolkit's, so that the arrow keys walk
-// through them. Which one is selected is the controls' business.
+// through them. Which one is selected is the controls' business. Those that the designer gave no
+// focus show a state and take no input.
 class OptionBinding : public AbstractButtonBinding {
  public:
   OptionBinding(OptionButton& option, QRadioButton* widget, const BindingSite& site)
-      : AbstractButtonBinding(option, widget), option_(option), widget_(widget) {
+      : AbstractButtonBinding(option, widget),
+        option_(option),
+        widget_(widget),
+        takes_input_(widget->focusPolicy() != Qt::NoFocus) {
     JoinGroup(site.window);
     SetEntry();
+    if (!takes_input_) new InputBarrier(widget);
     QObject::connect(widget, &QRadioButton::toggled, site.lifetime,
                      [&option, dispatch = site.dispatch](bool checked) {
                        if (checked) dispatch([&option] { option.UserClick(); });
@@ -152,6 +179,7 @@ class OptionBinding : public AbstractButtonBinding {
     if (changes & Control::kValue) MirrorValue();
     if (changes & (Control::kValue | Control::kEnabled)) SetEntry();
   }
+  bool TakesFocus() const override { return takes_input_; }
 
  private:
   void MirrorValue() {
@@ -165,6 +193,7 @@ class OptionBinding : public AbstractButtonBinding {
 
   // The Tab key enters a group at its selected button, and anywhere while none is selected.
   void SetEntry() {
+    if (!takes_input_) return;
     const QAbstractButton* selected = widget_->group()->checkedButton();
     if (selected != nullptr && !selected->isEnabled()) selected = nullptr;
     for (QAbstractButton* button : widget_->group()->buttons()) {
@@ -190,6 +219,7 @@ class OptionBinding : public AbstractButtonBinding {
 
   OptionButton& option_;
   QRadioButton* widget_;
+  const bool takes_input_;
 };
 
 class PictureBinding : public WidgetBinding {
