@@ -433,8 +433,11 @@ class LayerCheckTest(unittest.TestCase):
         self.clocks()
         self.ports("`platform/clock.h` | sleeps | `QtClock`, real | `Stopped`")
         self.assert_clean()
+
+    def test_a_cell_of_the_table_of_ports_that_names_no_class_is_found(self):
+        self.clocks()
         self.ports("`platform/clock.h` | sleeps | `QtClock` | not yet")
-        self.assert_clean()
+        self.assert_finds("ARCHITECTURE.md:12: ports", "platform/clock.h")
 
     def test_a_port_or_a_side_that_is_not_there_is_found(self):
         self.clocks()

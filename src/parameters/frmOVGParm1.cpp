@@ -63,8 +63,8 @@ frmOVGParm1::frmOVGParm1(const WizardParts& parts)
 // --- Loading -------------------------------------------------------------------------------------
 
 void frmOVGParm1::OnLoad() {
-  bLoading = true;
-  nAxlePos = {};
+  bLoading_ = true;
+  nAxlePos_ = {};
   parts_.dictionary.TranslateForm(*this);
   CenterOnScreen();
   Select(optVehicleType, parts_.ecu_data.nVehicleType.Load());
@@ -75,7 +75,7 @@ void frmOVGParm1::OnLoad() {
   Select(optSuspensionType, parts_.ecu_data.nMechanicalSuspension.Load());
   LoadAxles();
   LoadStopLightCable();
-  bLoading = false;
+  bLoading_ = false;
   TellChoices();
 }
 
@@ -101,14 +101,14 @@ void frmOVGParm1::LoadNumAxles() {
   }
   if (n == 1) {
     optABSSystem[1].SetEnabled(false);
-    nAxlePos[0] = 1;
+    nAxlePos_[0] = 1;
   } else if (n == 2) {
-    nAxlePos[0] = 1;
-    nAxlePos[1] = 2;
+    nAxlePos_[0] = 1;
+    nAxlePos_[1] = 2;
   } else if (n == 3) {
-    nAxlePos[0] = 0;
-    nAxlePos[1] = 1;
-    nAxlePos[2] = 2;
+    nAxlePos_[0] = 0;
+    nAxlePos_[1] = 1;
+    nAxlePos_[2] = 2;
   }
 }
 
@@ -139,7 +139,7 @@ void frmOVGParm1::LoadAxles() {
     const std::int16_t sensors = parts_.ecu_data.nAxleSensors[at].Load();
     if (sensors == 1) optSensorCD[axle].SetValue(true);
     if (sensors == 2) optSensorEF[axle].SetValue(true);
-    if (sensors == 1 || sensors == 2) DisplayAxle(nAxlePos[at], sensors);
+    if (sensors == 1 || sensors == 2) DisplayAxle(nAxlePos_[at], sensors);
     const std::int16_t lift = parts_.ecu_data.nAxleLift[at].Load();
     if (lift == 1) chkLiftAxle1[axle].SetValue(true);
     if (lift == 3) chkLiftAxle2[axle].SetValue(true);
@@ -160,18 +160,18 @@ void frmOVGParm1::LoadStopLightCable() {
 }
 
 void frmOVGParm1::OnQueryUnload(bool& cancel, UnloadMode) {
-  if (bLoading) cancel = true;
+  if (bLoading_) cancel = true;
 }
 
 // --- Choices -------------------------------------------------------------------------------------
 
 void frmOVGParm1::OnVehicleType(int index) {
-  if (bLoading) return;
+  if (bLoading_) return;
   parameter::kVehicleType.Put(parts_.image, index);
 }
 
 void frmOVGParm1::OnModularMounting() {
-  if (bLoading) return;
+  if (bLoading_) return;
   parameter::kMounting.Put(parts_.image, 0);
   parameter::kRearMounted.Put(parts_.image, chkModularMounting.Value() ? 0 : 1);
   ShowMounting();
@@ -193,7 +193,7 @@ void frmOVGParm1::OnABSSystem(int index) {
 }
 
 void frmOVGParm1::OnSuspensionType(int index) {
-  if (bLoading) return;
+  if (bLoading_) return;
   parameter::kMechanical.Put(parts_.image, index);
   parameter::kSuspensionInputs.Put(parts_.image, 0);
   ApplySuspension(index == 1);
@@ -210,15 +210,15 @@ void frmOVGParm1::OnNumAxles(int index) {
       for (auto& option : optSensorEF) option->SetEnabled(false);
     }
     HideAxle(0);
-    nAxlePos[0] = 1;
+    nAxlePos_[0] = 1;
     HideAxle(2);
   } else {
     optABSSystem[1].SetEnabled(true);
     if (index == 1) HideAxle(0);
     const std::int16_t first = index == 1 ? 1 : 0;
-    nAxlePos[0] = first;
-    nAxlePos[1] = static_cast<std::int16_t>(first + 1);
-    if (index != 1) nAxlePos[2] = 2;
+    nAxlePos_[0] = first;
+    nAxlePos_[1] = static_cast<std::int16_t>(first + 1);
+    if (index != 1) nAxlePos_[2] = 2;
   }
   UpdateDisplay();
   const bool with_ef = index != 0 && parts_.ecu_data.bNumModulators.Load() > 1;
@@ -273,7 +273,7 @@ void frmOVGParm1::DisplayAxle(int nPos, int nSensors) {
 }
 
 void frmOVGParm1::UpdateDisplay() {
-  if (bLoading) return;
+  if (bLoading_) return;
   for (int row = 0; row < 3; ++row) HideAxle(row);
   DisplayAxle(1, 0);
   int last = 0;
@@ -312,7 +312,7 @@ void frmOVGParm1::StoreAxle(int axle) {
 }
 
 void frmOVGParm1::TellChoices() {
-  if (bLoading) return;
+  if (bLoading_) return;
   SystemChoices& choices = parts_.choices;
   choices.air_suspension = optSuspensionType[0].Value();
   choices.two_sensors = optABSSystem[0].Value() || optABSSystem[4].Value();

@@ -88,8 +88,8 @@ class frmOVGParm1 : public Form {
   void StoreAxle(int axle);
 
   WizardParts parts_;
-  bool bLoading = false;
-  std::array<std::int16_t, 4> nAxlePos{};
+  bool bLoading_ = false;
+  std::array<std::int16_t, 4> nAxlePos_{};
 };
 
 }  // namespace lorimet

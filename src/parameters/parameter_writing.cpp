@@ -11,6 +11,7 @@
 #include "platform/clock.h"
 #include "platform/desktop.h"
 #include "platform/forms.h"
+#include "session/ecu_routines.h"
 #include "session/link_library.h"
 #include "support/dictionary.h"
 #include "support/text.h"
@@ -18,7 +19,6 @@
 namespace lorimet {
 namespace {
 
-constexpr std::uint8_t kChecksumRoutine = 0x05;
 constexpr std::uint8_t kParameterErrors = 0x29;  // local id of the error bytes
 constexpr int kLastErrorByte = 19;               // byte 20 is never reported
 
@@ -90,7 +90,7 @@ void WriteParmsToECU(const WritingParts& parts) {
   parts.clock.Sleep(kAccessWait);
   ShowStatus(parts, "Updating Checksums");
   std::uint8_t nothing = 0;
-  link.Trailer_ABS_KWP_StartRoutineByLocId(kChecksumRoutine, 0, &nothing);
+  link.Trailer_ABS_KWP_StartRoutineByLocId(kFinishRoutine, 0, &nothing);
   parts.clock.Sleep(kChecksumWait);
   ShowStatus(parts, "Clearing Faults");
   parts.faults.ClearFaults();

@@ -5,7 +5,8 @@
 
 namespace lorimet {
 
-constexpr std::uint8_t kFinishRoutine = 0x05;       // closes the operation before it; no data
+constexpr std::uint8_t kFinishRoutine =
+    0x05;  // closes the operation before it, sums up written parameters; no data
 constexpr std::uint8_t kSetPressure = 0x06;         // channel, pressure twice, 1000: low byte first
 constexpr std::uint8_t kWarningLampRoutine = 0x07;  // state, 1000
 constexpr std::uint8_t kSelectBrakeMode = 0x37;     // 0, 0, mode
