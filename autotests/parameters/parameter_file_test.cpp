@@ -12,6 +12,7 @@
 #include <sstream>
 
 #include "autotests/common/program_fixture.h"
+#include "autotests/platform/file_faults.h"
 #include "parameters/block_table.h"
 #include "parameters/parameters_part.h"
 #include "session/session_part.h"
@@ -175,6 +176,15 @@ TEST_F(ParameterFileTest, DialogsAskAsTheyShould) {
   EXPECT_TRUE(dialogs[1].file_must_exist);
 }
 
+TEST_F(ParameterFileTest, FiltersOfTheSaveDialogAreInTheUsersLanguage) {
+  program.support->dictionary.Open();
+  program.support->dictionary.SetLanguage(kFrench);
+  FillImage();
+  WriteFile();
+  EXPECT_EQ(desktop.TakeFileDialogs().at(0).filter,
+            "ECU (*.ecu)|*.ecu|Texte (*.txt)|*.txt|Tous les fichiers (*.*)|*.*");
+}
+
 TEST_F(ParameterFileTest, ProposesTheVehicleThenTheSerialNumberThenAPlainName) {
   const auto proposed = [&] {
     EXPECT_FALSE(program.parameters->parameter_file.WriteParmsToFile());
@@ -301,9 +311,13 @@ TEST_F(ParameterFileTest, FolderInPlaceOfAFileNeitherReadsNorIsWritten) {
 }
 
 TEST_F(ParameterFileTest, FileWithoutPermissionNeitherReadsNorIsWritten) {
-  if (::geteuid() == 0) GTEST_SKIP() << "everything is permitted to root";
   FillImage();
   std::ofstream(Path(), std::ios::binary) << Whole("");
+  if (::geteuid() == 0) {
+    fs::permissions(fs::path(Path()).parent_path(), fs::perms::all);
+    ASSERT_EQ(::chown(Path().c_str(), 65534, 65534), 0);
+  }
+  const OrdinaryUser user;
   fs::permissions(Path(), fs::perms::none);
   EXPECT_FALSE(ReadFile());
   EXPECT_FALSE(WriteFile());

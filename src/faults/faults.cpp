@@ -9,6 +9,7 @@
 #include "platform/runtime_error.h"
 #include "session/link_library.h"
 #include "support/dictionary.h"
+#include "support/message_boxes.h"
 #include "support/numbers.h"
 #include "support/text.h"
 
@@ -88,15 +89,13 @@ std::vector<std::string> Faults::RowOf(const FaultRecord& record, int number) co
 
 void Faults::ShowFillError(std::int32_t number, const std::string& description,
                            const Progress& progress) {
-  MessageBox box;
-  box.title = "ERROR";
-  box.text = std::to_string(number) + ":  " + description;
-  desktop_.ShowMessageBox(box);
-  box.text = std::string("Error in insert fault record.") + kCrLf +
-             "iCol = " + std::to_string(progress.pass) + kCrLf +
-             "iNbrOfRows = " + std::to_string(progress.records) + kCrLf +
-             "iRow = " + std::to_string(progress.record);
-  desktop_.ShowMessageBox(box);
+  ShowPlainBox(desktop_, std::to_string(number) + ":  " + description, "ERROR");
+  ShowPlainBox(desktop_,
+               std::string("Error in insert fault record.") + kCrLf +
+                   "iCol = " + std::to_string(progress.pass) + kCrLf +
+                   "iNbrOfRows = " + std::to_string(progress.records) + kCrLf +
+                   "iRow = " + std::to_string(progress.record),
+               "ERROR");
 }
 
 }  // namespace lorimet

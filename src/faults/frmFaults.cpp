@@ -8,6 +8,7 @@
 #include "platform/runtime_error.h"
 #include "session/link_library.h"
 #include "support/dictionary.h"
+#include "support/message_boxes.h"
 #include "support/numbers.h"
 #include "support/settings.h"
 #include "support/text.h"
@@ -92,10 +93,11 @@ void frmFaults::OnHyperlink(int row) {
   try {
     OpenManual(row);
   } catch (const RuntimeError& error) {
-    MessageBox box;
-    box.text = Name() + kCrLf + "Func: grdFaults_OnHyperLinkEditStartClick" + kCrLf + "Error = 0x" +
-               HexText(static_cast<std::uint32_t>(error.Number())) + kCrLf + error.Description();
-    parts_.desktop.ShowMessageBox(box);
+    ShowPlainBox(parts_.desktop,
+                 Name() + kCrLf + "Func: grdFaults_OnHyperLinkEditStartClick" + kCrLf +
+                     "Error = 0x" + HexText(static_cast<std::uint32_t>(error.Number())) + kCrLf +
+                     error.Description(),
+                 "");
   }
 }
 

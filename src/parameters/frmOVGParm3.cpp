@@ -8,6 +8,7 @@
 #include "platform/desktop.h"
 #include "session/ecu_data.h"
 #include "support/dictionary.h"
+#include "support/message_boxes.h"
 
 namespace lorimet {
 namespace {
@@ -118,10 +119,7 @@ void frmOVGParm3::SaveToFile() {
     return;
   }
   txtStatus.SetText(" ");
-  MessageBox box;
-  box.text = "Write to file complete.";
-  box.title = "Parameter Data";
-  parts_.desktop.ShowMessageBox(box);
+  ShowPlainBox(parts_.desktop, "Write to file complete.", "Parameter Data");
   Close();
 }
 

@@ -15,6 +15,7 @@
 #include "platform/process.h"
 #include "platform/profile_file.h"
 #include "session/ecu_data.h"
+#include "support/dates.h"
 #include "support/dictionary.h"
 #include "support/file_names.h"
 #include "support/numbers.h"
@@ -72,15 +73,16 @@ std::string KeyOf(int index) { return "P_" + FormatNumber(index, "#000"); }
 
 // English month names, whatever the system's language: the file is read on other machines.
 std::string DateText(const std::tm& now) {
-  constexpr std::array<const char*, 12> kMonths = {"January",   "February", "March",    "April",
-                                                   "May",       "June",     "July",     "August",
-                                                   "September", "October",  "November", "December"};
-  return std::string(kMonths[static_cast<std::size_t>(std::clamp(now.tm_mon, 0, 11))]) + " " +
-         std::to_string(now.tm_mday) + ", " + FormatNumber(now.tm_year + 1900, "0000") + " " +
-         FormatNumber(now.tm_hour, "00") + ":" + FormatNumber(now.tm_min, "00");
+  return std::string(MonthName(now.tm_mon)) + " " + std::to_string(now.tm_mday) + ", " +
+         FormatNumber(now.tm_year + 1900, "0000") + " " + FormatNumber(now.tm_hour, "00") + ":" +
+         FormatNumber(now.tm_min, "00");
 }
 
 }  // namespace
+
+std::string ParameterFile::Translated(const char* text) const {
+  return translate ? translate(text) : text;
+}
 
 std::string ParameterFile::Get(const std::string& section, const std::string& key) {
   return file_.GetString(section, key, "", kAnswerSize, path_);
@@ -190,7 +192,7 @@ bool ParameterFile::WriteParmsToFile() {
   dialog.default_extension = ".ecu";
   dialog.file_name = Proposal();
   dialog.initial_directory = process_.ProgramFolder();
-  dialog.filter = "ECU (*.ecu)|*.ecu|Text (*.txt)|*.txt|All Files (*.*)|*.*";
+  dialog.filter = "ECU (*.ecu)|*.ecu|" + Translated("Text (*.txt)|*.txt|All Files (*.*)|*.*");
   dialog.path_must_exist = true;
   const std::optional<std::string> path = desktop_.ShowFileDialog(dialog);
   if (!path || path->empty()) return false;

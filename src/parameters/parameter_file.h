@@ -1,6 +1,7 @@
 // The parameter file: the image in the sections and keys of an INI-style text.
 #pragma once
 
+#include <functional>
 #include <string>
 #include <utility>
 
@@ -39,6 +40,9 @@ class ParameterFile {
   // Empty after a success and after a cancel.
   std::string FailureText(const Dictionary& dictionary) const;
 
+  // Plug: words of the dialogs in the user's language; without it they are English.
+  std::function<std::string(const std::string&)> translate;
+
  private:
   void Read(const std::string& path);
   void ReadFileData(const std::string& strWhichParm, ParmBlock& block);
@@ -53,6 +57,7 @@ class ParameterFile {
   void Write(const std::string& path);
   void WriteFileData(const std::string& strWhichParm, const ParmBlock& block);
   void WriteVehicleData(const std::string& section);
+  std::string Translated(const char* text) const;
   std::string Proposal() const;
   std::string DataVersion() const;
 

@@ -14,6 +14,7 @@
 #include "session/ecu_routines.h"
 #include "session/link_library.h"
 #include "support/dictionary.h"
+#include "support/message_boxes.h"
 #include "support/text.h"
 
 namespace lorimet {
@@ -28,13 +29,6 @@ constexpr std::uint32_t kClearWait = 2000;
 constexpr std::uint32_t kResetWait = 3000;
 
 // The boxes of this sequence are shown as they stand, without the dictionary.
-void ShowPlainBox(Desktop& desktop, const std::string& text, const std::string& title) {
-  MessageBox box;
-  box.text = text;
-  box.title = title;
-  desktop.ShowMessageBox(box);
-}
-
 void ShowStatus(const WritingParts& parts, const char* text) {
   parts.status.SetText(parts.dictionary.Translate(text));
   parts.desktop.Repaint();

@@ -25,6 +25,9 @@ ParametersPart::ParametersPart(const Ports& ports, SupportPart& support, Session
       speed_switch(wizard),
       load_sensing_page(wizard),
       overturn_guard_page(wizard, ports.clock, faults.faults, parameter_file, found) {
+  parameter_file.translate = [this](const std::string& text) {
+    return wizard.dictionary.Translate(text);
+  };
   frmZeltMain& main_form = session.main_form;
   main_form.reset_results.push_back([this] {
     image.strTrailerVIN.clear();

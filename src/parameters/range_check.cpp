@@ -4,16 +4,14 @@
 #include "platform/desktop.h"
 #include "platform/forms.h"
 #include "support/dictionary.h"
+#include "support/message_boxes.h"
 #include "support/numbers.h"
 
 namespace lorimet {
 
 void ShowPlainMessage(const Form& form, const Dictionary& dictionary, const char* text,
                       const char* title) {
-  MessageBox box;
-  box.text = dictionary.Translate(text);
-  box.title = dictionary.Translate(title);
-  form.GetDesktop().ShowMessageBox(box);
+  ShowPlainBox(form.GetDesktop(), dictionary.Translate(text), dictionary.Translate(title));
 }
 
 void RangeChecks::WatchFocus(TextBox& field) {

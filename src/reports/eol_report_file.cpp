@@ -16,6 +16,7 @@
 #include "session/session_state.h"
 #include "support/dictionary.h"
 #include "support/file_names.h"
+#include "support/message_boxes.h"
 #include "support/numbers.h"
 #include "support/text.h"
 #include "tests/test_results.h"
@@ -187,15 +188,6 @@ void ReportFile::WriteSensors() {
   }
 }
 
-void ShowNoName(Desktop& desktop) {
-  MessageBox box;
-  box.text =
-      std::string("Cannot save.") + kCrLf + "The ECU information has not been successfully read.";
-  box.title = "Information";
-  box.icon = BoxIcon::kWarning;
-  desktop.ShowMessageBox(box);
-}
-
 void ShowSaveError(Dictionary& dictionary, const RuntimeError& error) {
   dictionary.ShowMessageBox(dictionary.Translate("An error occurred while saving") + ":  " +
                                 std::to_string(error.Number()) + kCrLf + error.Description(),
@@ -212,7 +204,10 @@ void SaveEOLReport(const ReportParts& parts) {
   parts.main_form.SetMousePointer(MousePointer::kHourglass);
   const std::optional<std::string> stem = ReportStem(parts.strTrailerVIN, parts.records.ecu_data);
   if (!stem) {
-    ShowNoName(parts.desktop);
+    ShowPlainBox(
+        parts.desktop,
+        std::string("Cannot save.") + kCrLf + "The ECU information has not been successfully read.",
+        "Information", BoxIcon::kWarning);
     return;
   }
   const std::string path = parts.process.ProgramFolder() + kPathSeparator + *stem + ".txt";

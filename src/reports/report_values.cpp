@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "session/ecu_data.h"
+#include "support/dates.h"
 #include "support/dictionary.h"
 #include "support/numbers.h"
 #include "support/text.h"
@@ -13,11 +14,6 @@ namespace {
 
 constexpr std::string_view kPartNumberMask = "###-###-###-#";
 constexpr std::size_t kSerialInName = 12;
-
-constexpr std::array<const char*, 12> kMonths = {
-    "January", "February", "March",     "April",   "May",      "June",
-    "July",    "August",   "September", "October", "November", "December",
-};
 
 // A field whose first byte is 0 is not known.
 template <std::size_t N>
@@ -70,8 +66,8 @@ std::array<ReportHeaderLine, 9> ReportHeader(const ECUData& ecu_data, Configurat
 }
 
 std::string ReportDate(const std::tm& now, const Dictionary& dictionary) {
-  return dictionary.Translate(kMonths[static_cast<std::size_t>(now.tm_mon)]) + " " +
-         std::to_string(now.tm_mday) + ", " + FormatNumber(now.tm_year + 1900, "0000");
+  return dictionary.Translate(MonthName(now.tm_mon)) + " " + std::to_string(now.tm_mday) + ", " +
+         FormatNumber(now.tm_year + 1900, "0000");
 }
 
 std::string ReportTime(const std::tm& now) {

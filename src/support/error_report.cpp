@@ -2,16 +2,14 @@
 
 #include <string>
 
+#include "support/message_boxes.h"
 #include "support/text.h"
 
 namespace lorimet {
 
 void ShowErrorReport(Desktop& desktop, const RuntimeError& error) {
   if (error.Number() == kObjectError) return;
-  MessageBox box;
-  box.title = "Error";
-  box.text = std::to_string(error.Number()) + ":  " + error.Description();
-  desktop.ShowMessageBox(box);
+  ShowPlainBox(desktop, std::to_string(error.Number()) + ":  " + error.Description(), "Error");
 }
 
 MessageBox UnhandledErrorBox(const RuntimeError& error) {

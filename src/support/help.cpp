@@ -4,6 +4,7 @@
 #include "platform/forms.h"
 #include "platform/runtime_error.h"
 #include "support/dictionary.h"
+#include "support/message_boxes.h"
 #include "support/settings.h"
 #include "support/text.h"
 
@@ -33,9 +34,7 @@ void Help::Show(const std::string& title, HelpCommand command, const std::string
   try {
     viewer_.Show(HelpFile_, command, key);
   } catch (const RuntimeError& error) {
-    MessageBox box;
-    box.text = error.Description();
-    desktop_.ShowMessageBox(box);
+    ShowPlainBox(desktop_, error.Description(), "");
   }
 }
 

@@ -6,6 +6,7 @@
 #include "session/link_library.h"
 #include "support/dictionary.h"
 #include "support/error_report.h"
+#include "support/message_boxes.h"
 #include "support/numbers.h"
 #include "tests/test_results.h"
 #include "tests/test_routines.h"
@@ -74,11 +75,10 @@ void frmSuspensionCal::Calibrate(int index) {
   faults_.EmptyFaultData();
   SetMousePointer(MousePointer::kArrow);
   const Dictionary& dictionary = parts_.dictionary;
-  MessageBox box;
-  box.title = dictionary.Translate("Height Sensor Calibration");
-  box.text = status == 0 ? dictionary.Translate("Height Sensor Calibration Successful.")
-                         : dictionary.Translate("Height Sensor Calibration Failed!!");
-  parts_.desktop.ShowMessageBox(box);
+  ShowPlainBox(parts_.desktop,
+               status == 0 ? dictionary.Translate("Height Sensor Calibration Successful.")
+                           : dictionary.Translate("Height Sensor Calibration Failed!!"),
+               dictionary.Translate("Height Sensor Calibration"));
   // The program may have been closed while the box stood.
   if (Loaded()) Close();
 }

@@ -9,6 +9,7 @@
 #include "session/frmZeltMain.h"
 #include "session/link_library.h"
 #include "support/dictionary.h"
+#include "support/message_boxes.h"
 #include "support/text.h"
 #include "tests/test_commands.h"
 #include "tests/test_results.h"
@@ -133,11 +134,7 @@ bool SignOffProcedure::Fail(VehicleTest test) {
 }
 
 bool SignOffProcedure::Fail(const char* text, const char* title) {
-  MessageBox box;
-  box.title = Translated(title);
-  box.text = Translated(text);
-  box.icon = BoxIcon::kCritical;
-  parts_.desktop.ShowMessageBox(box);
+  ShowPlainBox(parts_.desktop, Translated(text), Translated(title), BoxIcon::kCritical);
   return false;
 }
 

@@ -5,6 +5,7 @@
 #include "session/frmZeltMain.h"
 #include "session/link_library.h"
 #include "support/dictionary.h"
+#include "support/message_boxes.h"
 
 namespace lorimet {
 namespace {
@@ -80,19 +81,14 @@ void TestCommands::RunSensorTestFromToolbar() {
 
 void TestCommands::ShowTestResult(VehicleTest test, std::int16_t result) {
   if (result != kTestPassed) return ShowTestFailed(parts_.desktop, parts_.dictionary, test);
-  MessageBox box;
-  box.text = parts_.dictionary.Translate(kWords[static_cast<std::size_t>(test)].passed);
-  box.title = parts_.dictionary.Translate("Test Passed");
-  box.icon = BoxIcon::kInformation;
-  parts_.desktop.ShowMessageBox(box);
+  ShowPlainBox(parts_.desktop,
+               parts_.dictionary.Translate(kWords[static_cast<std::size_t>(test)].passed),
+               parts_.dictionary.Translate("Test Passed"), BoxIcon::kInformation);
 }
 
 void ShowTestFailed(Desktop& desktop, const Dictionary& dictionary, VehicleTest test) {
-  MessageBox box;
-  box.text = dictionary.Translate(kWords[static_cast<std::size_t>(test)].failed);
-  box.title = dictionary.Translate("Test Failed!");
-  box.icon = BoxIcon::kCritical;
-  desktop.ShowMessageBox(box);
+  ShowPlainBox(desktop, dictionary.Translate(kWords[static_cast<std::size_t>(test)].failed),
+               dictionary.Translate("Test Failed!"), BoxIcon::kCritical);
 }
 
 }  // namespace lorimet
