@@ -8,13 +8,10 @@
 namespace lorimet::simulator {
 
 void Modulator::Command(double target, double slow) {
-  if (std::abs(target - commanded_) <= kDeadTimeChange) {
-    commanded_ = target;
-    waited_ = 0;
-  } else if (++waited_ > StepsIn(kDeadTimeSeconds * slow)) {
-    commanded_ = target;
-    waited_ = 0;
-  }
+  const bool at_once = std::abs(target - commanded_) <= kDeadTimeChange;
+  if (!at_once && ++waited_ <= StepsIn(kDeadTimeSeconds * slow)) return;
+  commanded_ = target;
+  waited_ = 0;
 }
 
 void Modulator::ChooseValve() {
