@@ -12,6 +12,7 @@
 #include "adapters/headless/recording_printer.h"
 #include "adapters/posix/posix_profile_file.h"
 #include "autotests/common/fake_link.h"
+#include "autotests/places.h"
 #include "platform/runtime_error.h"
 #include "program.h"
 #include "session/ecu_data.h"
@@ -63,7 +64,7 @@ class ProgramTest : public testing::Test {
   HeadlessMessageHook hook;
   HeadlessProcess process;
   RecordingHelpViewer help_viewer;
-  TsTranslations translations{LORIMET_SOURCE_ROOT "/translations"};
+  TsTranslations translations{InSource("translations")};
   PosixProfileFile profile_file;
   MemoryTextFiles text_files;
   RecordingPrinter printer;

@@ -10,6 +10,7 @@
 #include <string>
 
 #include "autotests/desktop/screens_fixture.h"
+#include "autotests/places.h"
 
 namespace lorimet {
 namespace {
@@ -198,9 +199,8 @@ TEST_F(ScreenKeysTest, F1OpensTheScreensPage) {
     EXPECT_EQ(call.key, form->help_page) << form->Name();
     EXPECT_EQ(call.command, form->help_page.empty() ? HelpCommand::kContents : HelpCommand::kPage);
     for (const char* language : {"en", "fr", "es"})
-      EXPECT_TRUE(form->help_page.empty() ||
-                  QFile::exists(QString::fromStdString(std::string(LORIMET_SOURCE_ROOT) + "/help/" +
-                                                       language + "/" + call.key)))
+      EXPECT_TRUE(form->help_page.empty() || QFile::exists(QString::fromStdString(
+                                                 InSource("help/") + language + "/" + call.key)))
           << language << "/" << call.key;
   }
   EXPECT_EQ(program.faults->fault_list.help_page, "faults.html");

@@ -18,6 +18,7 @@
 #include "adapters/qt/qt_desktop.h"
 #include "autotests/common/fake_link.h"
 #include "autotests/desktop/desktop_fixture.h"
+#include "autotests/places.h"
 #include "faults/faults_part.h"
 #include "parameters/parameters_part.h"
 #include "platform/runtime_error.h"
@@ -96,7 +97,7 @@ class ScreensTest : public testing::Test {
   HeadlessProcess process;
   testing_support::FakeLink link;
   RecordingHelpViewer help_viewer;
-  TsTranslations translations{LORIMET_SOURCE_ROOT "/translations"};
+  TsTranslations translations{InSource("translations")};
   PosixProfileFile profile_file;
   MemoryTextFiles text_files;
   RecordingPrinter printer;

@@ -14,6 +14,7 @@
 #include "adapters/headless/headless_ports.h"
 #include "autotests/common/fake_link.h"
 #include "autotests/desktop/desktop_fixture.h"
+#include "autotests/places.h"
 #include "faults/fault_table.h"
 #include "faults/faults.h"
 #include "session/ecu_data.h"
@@ -73,7 +74,7 @@ class TestScreenWindows : public DesktopTest {
   FakeLink link;
   VirtualClock clock;
   QtDesktop windows;
-  TsTranslations translations{LORIMET_SOURCE_ROOT "/translations"};
+  TsTranslations translations{InSource("translations")};
   Dictionary dictionary{translations, windows};
   ECUData ecu{};
   TestResults results;
@@ -192,8 +193,7 @@ TEST_F(TestScreenWindows, EscapeClosesNoTest) {
 TEST_F(TestScreenWindows, EveryScreenHasItsPageOfTheHelp) {
   for (const Form* screen : All())
     for (const char* language : {"en", "fr", "es"})
-      EXPECT_TRUE(std::filesystem::exists(std::string(LORIMET_SOURCE_ROOT "/help/") + language +
-                                          "/" + screen->help_page))
+      EXPECT_TRUE(std::filesystem::exists(InSource("help/") + language + "/" + screen->help_page))
           << screen->Name();
 }
 

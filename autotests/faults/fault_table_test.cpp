@@ -1,4 +1,5 @@
 #include "faults/fault_table.h"
+#include "autotests/places.h"
 
 #include "faults/fault_catalogue.h"
 
@@ -27,7 +28,7 @@ struct ListedFault {
 
 // One fault a line: SID, FMI, description, blink code, repair index.
 std::vector<ListedFault> ReadListing() {
-  std::ifstream file(LORIMET_AUTOTESTS_DIR "/faults/fault_listing.txt");
+  std::ifstream file(InSource("autotests/faults/fault_listing.txt"));
   std::vector<ListedFault> faults;
   std::string line;
   while (std::getline(file, line)) {

@@ -1,4 +1,5 @@
 #include "faults/repair_instructions.h"
+#include "autotests/places.h"
 
 #include "faults/fault_catalogue.h"
 #include "platform/desktop.h"
@@ -31,7 +32,7 @@ struct ListedInstruction {
 // One instruction a line: index, number of faults that point at it, text; the line "other" stands
 // for every index that is not listed.
 std::map<int, ListedInstruction> ReadListing() {
-  std::ifstream file(LORIMET_AUTOTESTS_DIR "/faults/repair_listing.txt");
+  std::ifstream file(InSource("autotests/faults/repair_listing.txt"));
   std::map<int, ListedInstruction> instructions;
   std::string line;
   while (std::getline(file, line)) {

@@ -1,5 +1,6 @@
 // What the library found, while a parameter file stands in its place in the ECU's record.
 #include "parameters/found_configuration.h"
+#include "autotests/places.h"
 
 #include <cstring>
 
@@ -30,7 +31,7 @@ class FoundConfigurationTest : public WizardFormTest {
   }
   // Opens the file of a 2S/1M trailer and closes its wizard.
   void OpenAndCloseFile(const char* name = "flatbed_2s1m") {
-    desktop.AnswerFileDialog(std::string(LORIMET_SOURCE_ROOT "/docs/samples/") + name + ".ecu");
+    desktop.AnswerFileDialog(InSource("docs/samples/") + name + ".ecu");
     desktop.OnModal("frmOVGParm1", [](Form& form) { form.UserClose(); });
     Main().mnuSystem[1].UserClick();
   }

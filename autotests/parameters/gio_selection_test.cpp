@@ -4,6 +4,7 @@
 #include <sstream>
 
 #include "autotests/parameters/wizard_fixture.h"
+#include "autotests/places.h"
 #include "parameters/block_table.h"
 #include "parameters/function_blocks.h"
 #include "parameters/gio_functions.h"
@@ -22,7 +23,7 @@ struct ListedWrite {
 };
 
 std::vector<ListedWrite> ReadListing() {
-  std::ifstream file(LORIMET_AUTOTESTS_DIR "/parameters/gio_recipe_listing.txt");
+  std::ifstream file(InSource("autotests/parameters/gio_recipe_listing.txt"));
   std::vector<ListedWrite> rows;
   ListedWrite row;
   while (file >> row.item >> row.block >> row.index >> row.operation >> row.value)

@@ -5,6 +5,7 @@
 #include <sstream>
 
 #include "autotests/parameters/wizard_fixture.h"
+#include "autotests/places.h"
 
 namespace lorimet::testing_support {
 namespace {
@@ -14,7 +15,7 @@ constexpr int kTwipsPerPixel = 15;
 // The names of the widgets that are read-only.
 std::set<std::string> ReadOnlyFields(const std::string& form) {
   std::stringstream stream;
-  stream << std::ifstream(LORIMET_SOURCE_ROOT "/src/parameters/" + form + ".ui").rdbuf();
+  stream << std::ifstream(InSource("src/parameters/") + form + ".ui").rdbuf();
   const std::string text = stream.str();
   std::set<std::string> names;
   const std::string mark = "name=\"readOnly\"><bool>true";

@@ -1,4 +1,5 @@
 #include "parameters/parameter_errors.h"
+#include "autotests/places.h"
 
 #include <gtest/gtest.h>
 
@@ -15,7 +16,7 @@ namespace {
 
 // One message a line: byte, bit, text.
 std::map<std::pair<int, int>, std::string> ReadListing() {
-  std::ifstream file(LORIMET_AUTOTESTS_DIR "/parameters/parameter_error_listing.txt");
+  std::ifstream file(InSource("autotests/parameters/parameter_error_listing.txt"));
   std::map<std::pair<int, int>, std::string> messages;
   std::string line;
   while (std::getline(file, line)) {

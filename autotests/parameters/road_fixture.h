@@ -14,6 +14,7 @@
 #include "autotests/common/gestures.h"
 #include "autotests/common/program_fixture.h"
 #include "autotests/common/simulated_link.h"
+#include "autotests/places.h"
 #include "parameters/parameters_part.h"
 #include "session/session_part.h"
 
@@ -101,7 +102,7 @@ class RoadFixture : public Base {
   HeadlessMessageHook hook;
   HeadlessProcess process;
   RecordingHelpViewer help_viewer;
-  TsTranslations translations{LORIMET_SOURCE_ROOT "/translations"};
+  TsTranslations translations{InSource("translations")};
   PosixProfileFile profile_file;
   MemoryTextFiles text_files;
   RecordingPrinter printer;

@@ -10,13 +10,14 @@
 #include <tuple>
 
 #include "autotests/parameters/road_fixture.h"
+#include "autotests/places.h"
 #include "parameters/parameters_part.h"
 #include "session/session_part.h"
 
 namespace lorimet::testing_support {
 namespace {
 
-const std::filesystem::path kSamples = LORIMET_SOURCE_ROOT "/docs/samples";
+const std::filesystem::path kSamples = InSource("docs/samples");
 
 struct Sample {
   const char* name;

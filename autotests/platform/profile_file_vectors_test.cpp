@@ -3,6 +3,7 @@
 #include "adapters/windows/windows_profile_file.h"
 #else
 #include "adapters/posix/posix_profile_file.h"
+#include "autotests/places.h"
 #endif
 
 #include <gtest/gtest.h>
@@ -84,7 +85,7 @@ Bytes FileCell(const std::string& cell) {
 }
 
 std::vector<Vector> ReadVectors() {
-  std::ifstream file(LORIMET_AUTOTESTS_DIR "/platform/profile_file_vectors.txt");
+  std::ifstream file(InSource("autotests/platform/profile_file_vectors.txt"));
   std::vector<Vector> vectors;
   std::string text;
   for (int line = 1; std::getline(file, text); ++line) {

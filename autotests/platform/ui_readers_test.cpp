@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "adapters/headless/ui_design.h"
+#include "autotests/places.h"
 
 namespace lorimet {
 namespace {
@@ -38,7 +39,7 @@ TEST(UiReaders, SeeTheSameWidgetsAndActionsInEveryWindow) {
       if (name != form) seen.push_back(form + " " + control.widget_class + " " + name);
   std::sort(seen.begin(), seen.end());
   ASSERT_GT(seen.size(), 100u);
-  EXPECT_EQ(LinesOf("python3 -B '" LORIMET_SOURCE_ROOT "/tools/layer_check.py' --drawn"), seen);
+  EXPECT_EQ(LinesOf("python3 -B '" + InSource("tools/layer_check.py") + "' --drawn"), seen);
 }
 
 }  // namespace

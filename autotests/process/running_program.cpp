@@ -1,4 +1,5 @@
 #include "autotests/process/running_program.h"
+#include "autotests/places.h"
 
 #include <fcntl.h>
 #include <poll.h>
@@ -51,7 +52,7 @@ ProcessTest::ProcessTest() {
       {"XDG_CACHE_HOME", MakePrivate(folder / "cache")},
       {"QT_QPA_PLATFORM", "offscreen"},
       {"QT_QPA_GENERIC_PLUGINS", "lorimet_window_probe"},
-      {"QT_PLUGIN_PATH", LORIMET_BINARY_DIR "/autotests"},
+      {"QT_PLUGIN_PATH", InBuild("autotests")},
       {"LORIMET32", kLibrary},
       {"LORIMET32_CONTROL", folder / "control"},
       {"LORIMET_RECORDED_LIBRARY", kLibrary},
@@ -119,7 +120,7 @@ void ProcessTest::Run::Become(const std::map<std::string, std::string>& variable
   for (const char* name : {"LORIMET32_SCENARIO", "LORIMET32_STATE", "LC_ALL", "LANGUAGE"})
     unsetenv(name);
   for (const auto& [name, value] : variables) setenv(name.c_str(), value.c_str(), 1);
-  execl(LORIMET_BINARY_DIR "/lorimet", "lorimet", nullptr);
+  execl(InBuild("lorimet").c_str(), "lorimet", nullptr);
   _exit(127);
 }
 

@@ -10,6 +10,7 @@
 #include <string>
 #include <vector>
 
+#include "autotests/places.h"
 #include "autotests/platform/native_fixture.h"
 
 namespace lorimet {
@@ -20,12 +21,10 @@ bool Eventually(const std::function<bool()>& condition);
 // What one user has: settings, the lock of the single instance, the simulated trailer.
 class ProcessTest : public testing::Test {
  protected:
-  static constexpr const char* kLibrary = LORIMET_BINARY_DIR "/libLorimet32.so";
-  static constexpr const char* kRecorder =
-      LORIMET_BINARY_DIR "/autotests/liblorimet_link_recorder.so";
+  static inline const std::string kLibrary = InBuild("libLorimet32.so");
+  static inline const std::string kRecorder = InBuild("autotests/liblorimet_link_recorder.so");
 
-  static constexpr const char* kStubborn =
-      LORIMET_BINARY_DIR "/autotests/liblorimet_stubborn_library.so";
+  static inline const std::string kStubborn = InBuild("autotests/liblorimet_stubborn_library.so");
 
   ProcessTest();
 

@@ -5,6 +5,7 @@
 #include <fstream>
 #include <sstream>
 
+#include "autotests/places.h"
 #include "autotests/reports/report_fixture.h"
 #include "support/text.h"
 
@@ -14,7 +15,7 @@ namespace {
 const std::string kFolder = "/opt/lorimet";
 
 std::string Golden(const std::string& name) {
-  std::ifstream file(LORIMET_AUTOTESTS_DIR "/reports/golden/" + name, std::ios::binary);
+  std::ifstream file(InSource("autotests/reports/golden/") + name, std::ios::binary);
   EXPECT_TRUE(file) << name;
   std::ostringstream text;
   text << file.rdbuf();

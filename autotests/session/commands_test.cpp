@@ -1,4 +1,5 @@
 // The command tree: what each command of the menu and the toolbar does, in its order.
+#include "autotests/places.h"
 #include "session/command_routing.h"
 
 #include <gtest/gtest.h>
@@ -214,7 +215,7 @@ TEST_F(CommandsTest, WhileARestartRunsTheToolbarDoesNothing) {
 
 // The toolbar's actions in the order of its design; a separator is "-".
 Calls DrawnToolbar() {
-  std::ifstream file(LORIMET_SOURCE_ROOT "/src/session/frmZeltMain.ui");
+  std::ifstream file(InSource("src/session/frmZeltMain.ui"));
   const std::string text{std::istreambuf_iterator<char>(file), {}};
   XmlReader reader(text);
   Calls actions;

@@ -2,6 +2,7 @@
 #include <iterator>
 #include <set>
 
+#include "autotests/places.h"
 #include "autotests/simulator/link_fixture.h"
 
 namespace lorimet::simulator {
@@ -23,7 +24,7 @@ TEST_F(FailureModesTest, TheTableNamesEveryModeInItsOrderAndOnce) {
 }
 
 TEST_F(FailureModesTest, EveryModeOperationAndCommandIsInTheDocument) {
-  std::ifstream file(LORIMET_SOURCE_ROOT "/docs/simulator.md");
+  std::ifstream file(InSource("docs/simulator.md"));
   const std::string text((std::istreambuf_iterator<char>(file)), std::istreambuf_iterator<char>());
   for (const FailureFacts& facts : FailureTable())
     EXPECT_NE(text.find("`" + std::string(facts.name) + "`"), std::string::npos) << facts.name;

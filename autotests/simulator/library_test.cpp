@@ -23,6 +23,7 @@
 #include <thread>
 #include <vector>
 
+#include "autotests/places.h"
 #include "session/ecu_data.h"
 #include "session/lorimet32.h"
 
@@ -54,7 +55,7 @@ class LibraryTest : public testing::Test {
   }
 
   void Load() {
-    library_ = dlopen(LORIMET_BINARY_DIR "/libLorimet32.so", RTLD_NOW | RTLD_LOCAL);
+    library_ = dlopen(InBuild("libLorimet32.so").c_str(), RTLD_NOW | RTLD_LOCAL);
     ASSERT_NE(library_, nullptr) << dlerror();
   }
   void Unload() {
@@ -233,7 +234,7 @@ TEST_F(LibraryTest, ASocketBesideTheControlFileServesToo) {
 
 TEST_F(LibraryTest, StartsAsTheScenarioOfTheEnvironment) {
   Unload();
-  setenv("LORIMET32_SCENARIO", LORIMET_SOURCE_ROOT "/simulator/scenarios/healthy_2s1m.scenario", 1);
+  setenv("LORIMET32_SCENARIO", InSource("simulator/scenarios/healthy_2s1m.scenario").c_str(), 1);
   Load();
   ASSERT_EQ(Connect(), 0);
   Call("Trailer_ABS_QOR_ReadStaticData");

@@ -2,6 +2,7 @@
 #include <fstream>
 #include <map>
 
+#include "autotests/places.h"
 #include "autotests/simulator/link_fixture.h"
 
 namespace lorimet::simulator {
@@ -31,7 +32,7 @@ bool ParseDeclaration(const std::string& line, std::string& name, Declared& decl
 
 // The fields as the record's own header declares them.
 std::map<std::string, Declared> DeclaredFields() {
-  std::ifstream header(LORIMET_SOURCE_ROOT "/src/session/ecu_data.h");
+  std::ifstream header(InSource("src/session/ecu_data.h"));
   EXPECT_TRUE(header.good());
   std::map<std::string, Declared> fields;
   bool inside = false;

@@ -1,3 +1,4 @@
+#include "autotests/places.h"
 #include "autotests/simulator/link_fixture.h"
 
 namespace lorimet::simulator {
@@ -128,7 +129,7 @@ TEST_F(RecordTest, TextsOfAnAnswerAreCutAtTheContractsBuffer) {
 
 TEST_F(RecordTest, AnotherScenarioIsAnotherTrailerOnTheSameLink) {
   ConnectAndRead();
-  const std::string file = LORIMET_SOURCE_ROOT "/simulator/scenarios/healthy_2s1m.scenario";
+  const std::string file = InSource("simulator/scenarios/healthy_2s1m.scenario");
   EXPECT_NE(link_->Command("scenario /no/such/file"), "");
   ASSERT_EQ(link_->Command("scenario " + file), "");
   EXPECT_TRUE(link_->Connected());

@@ -1,4 +1,5 @@
 #include "simulator/trailer/scenario.h"
+#include "autotests/places.h"
 
 #include <filesystem>
 #include <fstream>
@@ -47,8 +48,7 @@ TEST(CommandWordsTest, AreNumbersAsAWholeOnly) {
 
 TEST(ScenarioTest, EveryFileOfTheRepositoryIsValid) {
   int files = 0;
-  for (const auto& entry :
-       std::filesystem::directory_iterator(LORIMET_SOURCE_ROOT "/simulator/scenarios")) {
+  for (const auto& entry : std::filesystem::directory_iterator(InSource("simulator/scenarios"))) {
     std::ifstream file(entry.path());
     const std::string text((std::istreambuf_iterator<char>(file)),
                            std::istreambuf_iterator<char>());

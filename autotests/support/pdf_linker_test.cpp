@@ -1,5 +1,6 @@
 // The vocabulary of the reserved link to a manual.
 #include "support/pdf_linker.h"
+#include "autotests/places.h"
 
 #include <gtest/gtest.h>
 
@@ -24,7 +25,7 @@ class PdfLinkerTest : public testing::Test {
  protected:
   VirtualClock clock;
   HeadlessDesktop desktop{clock};
-  TsTranslations translations{LORIMET_SOURCE_ROOT "/translations"};
+  TsTranslations translations{InSource("translations")};
   Dictionary dictionary{translations, desktop};
 };
 

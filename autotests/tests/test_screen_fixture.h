@@ -11,6 +11,7 @@
 #include "adapters/headless/headless_desktop.h"
 #include "adapters/headless/headless_ports.h"
 #include "autotests/common/fake_link.h"
+#include "autotests/places.h"
 #include "faults/fault_table.h"
 #include "faults/faults.h"
 #include "session/ecu_data.h"
@@ -103,7 +104,7 @@ class TestScreenTest : public testing::Test {
   SequenceClock clock{link};
   HeadlessDesktop desktop{clock};
   Sequence sequence{link, desktop};
-  TsTranslations translations{LORIMET_SOURCE_ROOT "/translations"};
+  TsTranslations translations{InSource("translations")};
   Dictionary dictionary{translations, desktop};
   ECUData ecu{};
   TestResults results;

@@ -15,6 +15,7 @@
 #include <vector>
 
 #include "adapters/headless/ui_design.h"
+#include "autotests/places.h"
 #include "autotests/translations/source_literals.h"
 #include "autotests/translations/translation_rows.h"
 #include "faults/fault_catalogue.h"
@@ -112,7 +113,7 @@ struct NeededText {
 };
 
 void CollectSources(std::vector<NeededText>& needed) {
-  const std::filesystem::path root = LORIMET_SOURCE_ROOT "/src";
+  const std::filesystem::path root = InSource("src");
   for (const auto& entry : std::filesystem::recursive_directory_iterator(root)) {
     const std::string file = entry.path().lexically_relative(root).generic_string();
     const std::string extension = entry.path().extension().string();
@@ -166,8 +167,7 @@ TEST(Translations, NameOnlyTextsThatStandUntranslatedSomewhere) {
   for (const std::string& text : UntranslatedTexts())
     EXPECT_TRUE(all.contains(text)) << "\"" << text << "\" stands nowhere";
   for (const std::string& file : UntranslatedFiles())
-    EXPECT_TRUE(std::filesystem::exists(std::filesystem::path(LORIMET_SOURCE_ROOT "/src") / file))
-        << file;
+    EXPECT_TRUE(std::filesystem::exists(std::filesystem::path(InSource("src")) / file)) << file;
 }
 
 TEST(Translations, HaveTheSameKeysInEveryLanguageEachOnce) {

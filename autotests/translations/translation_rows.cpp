@@ -1,4 +1,5 @@
 #include "autotests/translations/translation_rows.h"
+#include "autotests/places.h"
 
 #include <algorithm>
 #include <cctype>
@@ -69,7 +70,7 @@ std::string ReadFile(const std::filesystem::path& path) {
 }
 
 std::vector<TranslationRow> RowsOf(const std::string& language) {
-  const std::string xml = ReadFile(LORIMET_SOURCE_ROOT "/translations/lorimet_" + language + ".ts");
+  const std::string xml = ReadFile(InSource("translations/lorimet_") + language + ".ts");
   XmlReader reader(xml);
   std::vector<TranslationRow> rows;
   std::string value;
@@ -90,7 +91,7 @@ std::vector<TranslationRow> RowsOf(const std::string& language) {
 
 std::vector<HelpText> HelpTextsOf(const std::string& language) {
   std::vector<HelpText> texts;
-  const std::filesystem::path folder = LORIMET_SOURCE_ROOT "/help/" + language;
+  const std::filesystem::path folder = InSource("help/") + language;
   for (const auto& entry : std::filesystem::directory_iterator(folder))
     ReadHelpPage(entry.path(), texts);
   return texts;

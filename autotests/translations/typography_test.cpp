@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "autotests/places.h"
 #include "autotests/translations/translation_rows.h"
 
 namespace lorimet::testing_support {
@@ -131,7 +132,7 @@ TEST(Typography, ABlankStandsBeforeALineBreakWhereTheEnglishHasOne) {
 TEST(Typography, TheHelpsGlossaryIsSorted) {
   static const std::regex first_cell("<tr><td>([^<]*)</td>");
   for (const std::string language : {"en", "fr", "es"}) {
-    const std::string page = ReadFile(LORIMET_SOURCE_ROOT "/help/" + language + "/glossary.html");
+    const std::string page = ReadFile(InSource("help/") + language + "/glossary.html");
     const std::string table = page.substr(0, page.find("</table>"));
     std::vector<std::string> terms;
     for (std::sregex_iterator at(table.begin(), table.end(), first_cell), end; at != end; ++at)
