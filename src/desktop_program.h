@@ -107,7 +107,7 @@ class DesktopProgram {
                    profile_file, text_files, printer}};
 
  private:
-  // Nothing of what stands on the stack may run again.
+  // Nothing of what is on the stack may run again.
   [[noreturn]] void EndAtOnce() const {
     std::fflush(nullptr);
     std::_Exit(program.ExitStatus());

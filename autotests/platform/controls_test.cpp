@@ -7,12 +7,14 @@
 #include <vector>
 
 #include "adapters/headless/headless_desktop.h"
+#include "autotests/common/gestures.h"
 #include "platform/forms.h"
 #include "platform/runtime_error.h"
 
 namespace lorimet {
 namespace {
 
+using testing_support::ErrorOf;
 using Log = std::vector<std::string>;
 
 class SampleForm : public Form {
@@ -42,14 +44,6 @@ class ControlsTest : public testing::Test {
     return [this, what] { log.push_back(what); };
   }
   Log Take() { return std::exchange(log, {}); }
-  static std::int32_t ErrorOf(const auto& action) {
-    try {
-      action();
-    } catch (const RuntimeError& error) {
-      return error.Number();
-    }
-    return 0;
-  }
 
   VirtualClock clock;
   HeadlessDesktop desktop{clock};

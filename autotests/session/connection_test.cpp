@@ -209,7 +209,7 @@ TEST_F(FailureTest, ARestartHooksOnTopOfTheHookAndMessagesStillReachTheWindow) {
   hook.Post(-500);
   desktop.DoEvents();
   EXPECT_EQ(desktop.Beeps(), 1);
-  // The removal puts the own procedure back, and messages still reach the window.
+  // The removal puts the window's procedure back, and messages still reach the window.
   Main().RestartECU();
   EXPECT_EQ(hook.Send(0x0011, 0, 1), 2);
   EXPECT_EQ(hook.ReachedOriginal(), (std::vector<std::uint32_t>{0x0010, 0x0011}));

@@ -10,22 +10,16 @@
 #include <optional>
 #include <string>
 
+#include "autotests/common/gestures.h"
 #include "platform/runtime_error.h"
 
 namespace lorimet {
 namespace {
 
+using testing_support::ErrorOf;
+
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
 constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
-
-std::int32_t ErrorOf(const auto& action) {
-  try {
-    action();
-  } catch (const RuntimeError& error) {
-    return error.Number();
-  }
-  return 0;
-}
 
 TEST(FormatNumber, FollowsItsMask) {
   struct Row {

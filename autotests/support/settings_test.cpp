@@ -9,10 +9,13 @@
 #include <vector>
 
 #include "adapters/headless/headless_ports.h"
+#include "autotests/common/gestures.h"
 #include "platform/runtime_error.h"
 
 namespace lorimet {
 namespace {
+
+using testing_support::ErrorOf;
 
 constexpr auto kUser = RegistryHive::kCurrentUser;
 constexpr auto kMachine = RegistryHive::kLocalMachine;
@@ -78,14 +81,6 @@ class SettingsTest : public testing::Test {
     std::string value = before;
     const bool read = settings.ReadRegString(kUser, "Key", "Value", value);
     return (read ? "" : "(false)") + value;
-  }
-  std::int32_t ErrorOf(const auto& action) {
-    try {
-      action();
-    } catch (const RuntimeError& error) {
-      return error.Number();
-    }
-    return 0;
   }
 
   WatchedRegistry registry;

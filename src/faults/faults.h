@@ -54,13 +54,13 @@ class Faults {
   // Forgets the records of the last reading.
   void EmptyFaultData() { ResizeFaultData(0); }
   // Fills the grid, active faults first, then stored ones, each in the ECU's order. An empty store
-  // leaves the grid as it is. A run-time error is shown in two boxes, the store left as it stands.
+  // leaves the grid as it is. A run-time error is shown in two boxes, the store left as it is.
   void FillFaultGrid(DataGrid& grid, TextBox& repair);
   // Deletes all rows and empties the repair box.
   void ClearFaultGrid(DataGrid& grid, TextBox& repair);
 
  private:
-  // Where a filling stands, for the report of an error in it.
+  // How far a filling has come, for the report of an error in it.
   struct Progress {
     int pass = 0;
     int records = 0;

@@ -1,4 +1,4 @@
-// What the library has found out about the connected trailer, while a parameter file stands in its
+// What the library has found out about the connected trailer, while a parameter file is in its
 // place in the ECU's record.
 #pragma once
 

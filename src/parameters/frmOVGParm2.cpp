@@ -56,7 +56,7 @@ frmOVGParm2::frmOVGParm2(const WizardParts& parts)
   cmdNext.on_click = [this] {
     if (checks_.Accept()) Next();
   };
-  // Both drop what stands in the field that is left.
+  // Both drop what is in the field that is left.
   cmdPrev.causes_validation = cmdClose.causes_validation = false;
   cmdPrev.on_click = [this] { Previous(); };
   cmdClose.on_click = [this] { Close(); };

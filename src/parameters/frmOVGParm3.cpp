@@ -42,7 +42,7 @@ frmOVGParm3::frmOVGParm3(const WizardParts& parts, Clock& clock, Faults& faults,
   };
   bind(cmdSaveToECU, &frmOVGParm3::SaveToEcu);
   bind(cmdSaveToFile, &frmOVGParm3::SaveToFile);
-  // Both drop what stands in the field that is left.
+  // Both drop what is in the field that is left.
   cmdPrev.causes_validation = cmdClose.causes_validation = false;
   cmdPrev.on_click = [this] { Previous(); };
   cmdClose.on_click = [this] { Close(); };

@@ -25,7 +25,7 @@ constexpr int kGioFunctionCount = 9;
 using GioChoice = std::array<bool, kGioFunctionCount>;
 
 // Clears the function mask and the connectors and applies the functions that are chosen on top of
-// what stands in the function blocks; a later function overwrites an earlier one's bytes. The
+// what the function blocks hold; a later function overwrites an earlier one's bytes. The
 // special functions act when they are not chosen: their own dialog has written them otherwise.
 void ApplyGioFunctions(const GioChoice& chosen, ParameterImage& image);
 

@@ -1,4 +1,4 @@
-// The byte map: what stands where in the blocks of the parameter image.
+// The byte map: which byte of which block of the parameter image means what.
 #pragma once
 
 #include "parameters/block_fields.h"

@@ -31,7 +31,7 @@ std::int32_t ReadBlock(LinkLibrary& link, std::uint8_t local_id, ParmBlock& bloc
                        bool forget_count) {
   return TryLinkCall([&] {
     if (forget_count) block.bNumBytes = 0;
-    // The library writes where the block's bytes stand, so a short answer leaves the tail.
+    // The library writes where the block's bytes are, so a short answer leaves the tail.
     std::array<std::uint8_t, kReadBufferSize> buffer{};
     std::ranges::copy(block.DataArr, buffer.begin());
     std::uint8_t count = block.bNumBytes;

@@ -28,7 +28,7 @@ constexpr std::uint32_t kChecksumWait = 2000;
 constexpr std::uint32_t kClearWait = 2000;
 constexpr std::uint32_t kResetWait = 3000;
 
-// The boxes of this sequence are shown as they stand, without the dictionary.
+// The boxes of this sequence are shown without the dictionary.
 void ShowStatus(const WritingParts& parts, const char* text) {
   parts.status.SetText(parts.dictionary.Translate(text));
   parts.desktop.Repaint();

@@ -30,7 +30,7 @@ struct WizardPages {
 // Items of the system page's optSLAC.
 enum class StopLightCable { kCable = 0, kLevel2Output = 1, kNone = 2 };
 
-// What stands chosen on the system page, for the pages behind it. The page keeps it up to date from
+// What is chosen on the system page, for the pages behind it. The page keeps it up to date from
 // its load on.
 struct SystemChoices {
   struct DiagramBox {

@@ -92,7 +92,7 @@ class Ticker {
 //
 // - An event that code raises within another one is part of it: its error passes through the code
 //   that raised it, like that of a call, and the screen follows when the outermost one ends.
-// - While a screen stands modally, a box waits for its answer or DoEvents runs, other events run on
+// - While a screen is modal, a box waits for its answer or DoEvents runs, other events run on
 //   top of the one that waits. An error that one of them leaves unhandled reaches the top at once;
 //   what waits below it is not continued, and cannot trap it.
 // - A timer's tick is posted, one at most, and runs when events run: also while the timer's own

@@ -18,7 +18,7 @@ enum class UnloadMode { kControlMenu = 0, kCode = 1 };
 // Geometry is in twips; a pixel at 100 % is fifteen of them.
 constexpr int kTwipsPerPixel = 15;
 
-// A form object stands for the whole run; loading it builds its window with the controls as the
+// A form object lives for the whole run; loading it builds its window with the controls as the
 // designer drew them, hiding it keeps their state, and unloading it discards them.
 class Form : public ControlOwner {
  public:

@@ -1,4 +1,4 @@
-// Where the program stands in its life; statuses, timers, commands and waits consult it.
+// The stage of the program's life; statuses, timers, commands and waits consult it.
 #pragma once
 
 namespace lorimet {

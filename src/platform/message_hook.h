@@ -20,7 +20,7 @@ class MessageHook {
   virtual ~MessageHook() = default;
   // The identifier of a message name, the same for every program on the desktop; 0 on failure.
   virtual std::uint32_t RegisterMessage(const std::string& name) = 0;
-  // The main form's window, or what stands for it where there are no window messages.
+  // The main form's window, or what replaces it where there are no window messages.
   virtual std::uintptr_t MainWindow() = 0;
   // Makes `procedure` the window's own and returns the one that was.
   virtual WindowProcedure* SetProcedure(std::uintptr_t window, WindowProcedure* procedure) = 0;

@@ -16,7 +16,7 @@ class TextFile {
   virtual void Write(std::string_view bytes) = 0;
   // Puts what was written in the file's place. A writing that stops half-way by design ends with
   // this too. Error 61 when the disk is full, 57 when the device fails, and those of
-  // OpenForOutput; the old file stands then.
+  // OpenForOutput; the old file is kept then.
   virtual void Close() = 0;
 };
 

@@ -24,7 +24,7 @@
 namespace lorimet {
 namespace {
 
-// What stands behind each label of the header, so that the English colons make one column.
+// What follows each label of the header, so that the English colons make one column.
 constexpr std::array<const char*, 9> kPadding = {
     "         : ",           // Manufacturer
     "                  : ",  // VIN

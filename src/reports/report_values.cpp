@@ -113,7 +113,7 @@ std::string PartNumberText(const std::string& bytes) {
       digits.pop_back();
     }
   }
-  // What the mask has no place for stands in front of it.
+  // What the mask has no place for comes in front of it.
   return (value < 0 ? "-" : "") + digits + shown;
 }
 

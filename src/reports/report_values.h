@@ -16,7 +16,7 @@ struct ECUData;
 struct TestResults;
 
 // One line of the header: the English label and the value. Values are bytes of code page 1252, as
-// fields of the ECU are given as they stand, NULs included.
+// fields of the ECU are given unchanged, NULs included.
 struct ReportHeaderLine {
   const char* label;
   std::string value;
@@ -41,7 +41,7 @@ const char* PressureWord(std::int16_t result);  // the redundancy test's too
 const char* SensorWord(std::int16_t result);    // the lamp test's too
 const char* HeightWord(std::int16_t result);
 
-// The sensors in the order of the report: its letter and where its speed stands in the results.
+// The sensors in the order of the report: its letter and the place of its speed in the results.
 struct ReportSensor {
   const char* letter;
   std::size_t index;

@@ -13,7 +13,7 @@ class TextForm {
  public:
   // UTF-8; what has no place in the code page becomes "?".
   void Text(std::string_view utf8);
-  // Bytes as they stand, NULs included.
+  // Bytes unchanged, NULs included.
   void Bytes(std::string_view bytes);
   // A leading blank where a minus sign would go, and one trailing blank.
   void Number(std::int32_t value);

@@ -40,7 +40,7 @@ inline std::uint32_t LoadWord(const void* address) {
   auto* word = static_cast<std::uint32_t*>(const_cast<void*>(address));
   return std::atomic_ref<std::uint32_t>(*word).load(std::memory_order_relaxed);
 }
-// Replaces the bits of `mask` by those of `bits` and leaves the others as they stand.
+// Replaces the bits of `mask` by those of `bits` and leaves the others alone.
 inline void StoreBits(void* address, std::uint32_t mask, std::uint32_t bits) {
   std::atomic_ref<std::uint32_t> word(*static_cast<std::uint32_t*>(address));
   if (mask == 0xFFFFFFFFu) {
@@ -69,7 +69,7 @@ inline void StoreByte(std::byte* at, std::uint8_t value) {
 
 }  // namespace ecu_record
 
-// A 64-bit float; two words, so it need stand at a multiple of four only.
+// A 64-bit float; two words, so a multiple of four is enough for its place.
 class EcuDouble {
  public:
   double Load() const {
@@ -122,7 +122,7 @@ class EcuText {
   std::uint8_t ByteAt(std::size_t i) const { return ecu_record::LoadByte(bytes_ + i); }
   void SetByteAt(std::size_t i, std::uint8_t value) { ecu_record::StoreByte(bytes_ + i, value); }
 
-  // All N bytes as they stand, NULs included.
+  // All N bytes unchanged, NULs included.
   std::string Load() const {
     std::string bytes(N, '\0');
     for (std::size_t i = 0; i < N; ++i) bytes[i] = static_cast<char>(ByteAt(i));
@@ -145,7 +145,7 @@ struct alignas(8) ECUData {
   EcuDouble dVoltageSource;              // 0 stop light, 1 permanent
   std::array<EcuDouble, 6> dWheelSpeed;  // index 3 "c", 2 "d", 5 "e", 4 "f"
   std::byte reserved_040[0x048 - 0x040];
-  EcuDouble dOdometer;     // shown as it stands
+  EcuDouble dOdometer;     // shown unchanged
   EcuDouble dNextService;  // distance to next service, km
   EcuDouble dTripReading;  // km
   EcuDouble dSupplyPress;
@@ -182,7 +182,7 @@ struct alignas(8) ECUData {
   EcuShort nLinkJobDone;      // 0 while a library job runs
   EcuDouble dBytesRemaining;  // of a transfer
   EcuByte bNumSensors;
-  EcuByte bNumModulators;  // 21 stands for the 2M + 1M system
+  EcuByte bNumModulators;  // 21 means the 2M + 1M system
   EcuByte bNumFaults;
   std::byte reserved_197[0x198 - 0x197];
   EcuText<16> PartNum;  // identity: first byte 0 means not known

@@ -32,7 +32,7 @@ class frmZeltMain : public Form {
  public:
   explicit frmZeltMain(const MainFormParts& parts);
 
-  // Makes a connection, closing the one that stands first; the only road to one. Refused while one
+  // Makes a connection, closing the one there is first; the only road to one. Refused while one
   // is being made. Returns when the ECU's identity is shown or the attempt has failed.
   void RestartECU();
   // Paints the identity from the record.

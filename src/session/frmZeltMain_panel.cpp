@@ -16,8 +16,8 @@ namespace {
 constexpr double kKilometresPerMile = 1.609;
 constexpr double kHighestSteerBellows = 181.9;  // psi; a reading from here on is no reading
 constexpr double kSpeedNoise = 1.11;            // mph; up to here a wheel shows as standing still
-constexpr const char* kLiteralNoData = "N/A";   // shown untranslated where this stands
-constexpr int kMixedModulators = 21;            // stands for the 2M + 1M system
+constexpr const char* kLiteralNoData = "N/A";   // shown untranslated where this is used
+constexpr int kMixedModulators = 21;            // the number that means 2M + 1M
 
 Color MissingColour(double value) { return value == kNoValue ? kColorOrange : kColorWhite; }
 
@@ -159,7 +159,7 @@ void frmZeltMain::UpdateSpeeds() {
 
 void frmZeltMain::UpdateOdometer() {
   last_shown_.odometer = parts_.connection.records.ecu_data.dOdometer.Load();
-  // As it stands: the library's distance is not divided here.
+  // Unchanged: the library's distance is not divided here.
   txtOdom.SetText(OrNoData(last_shown_.odometer, last_shown_.odometer, "##,###,##0.0"));
   txtOdom.SetBackColor(MissingColour(last_shown_.odometer));
   if (last_shown_.odometer != kNoValue) mnuODR[1].SetEnabled(true);

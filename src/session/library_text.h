@@ -18,7 +18,7 @@ class LibraryText {
   static LibraryText Blanks(std::size_t length);
 
   char* Data() { return bytes_.data(); }
-  // What stands in the buffer up to the first NUL, which is not trusted to be there.
+  // The buffer up to the first NUL, which is not trusted to be there.
   std::string Text() const { return Text(bytes_.size()); }
   // The same of the first `length` bytes.
   std::string Text(std::size_t length) const;

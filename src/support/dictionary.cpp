@@ -80,7 +80,7 @@ BoxButton Dictionary::ShowMessageBox(const std::string& text, const std::string&
 }
 
 std::optional<int> Dictionary::ChooseLanguage() {
-  // In their own words, so that each reader finds the own language.
+  // In their own words, so that each reader recognises theirs.
   const bool listed = language_ >= 0 && language_ < kLanguageCount;
   return desktop_.ChooseFromList(Translate("Language"),
                                  {"Native", "français", "English", "Español"},

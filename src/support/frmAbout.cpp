@@ -12,7 +12,7 @@ frmAbout::frmAbout(Desktop& desktop, Dictionary& dictionary)
 }
 
 void frmAbout::OnLoad() {
-  // The title, the description and the notice stand in the form's design.
+  // The title, the description and the notice are in the form's design.
   dictionary_.TranslateForm(*this);
   lblVersion.SetCaption(dictionary_.Translate("Version") + " " + std::to_string(kVersionMajor) +
                         "." + std::to_string(kVersionMinor) + "." +

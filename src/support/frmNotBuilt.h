@@ -1,4 +1,4 @@
-// The screen that stands for a command whose own screen is still to be built.
+// The screen in place of one whose own screen is still to be built.
 #pragma once
 
 #include <string>

@@ -1,4 +1,4 @@
-// Boxes that stand beside the dictionary's: plain ones, whose texts are as they are to be shown.
+// Boxes beside the dictionary's: plain ones, whose texts are as they are to be shown.
 #pragma once
 
 #include <string>

@@ -13,7 +13,7 @@ namespace lorimet {
 std::string NumberText(double value);
 
 // A mask has one run of placeholders ("#" digit if there is one, "0" digit always, "," thousands,
-// "." decimal point); what stands before and behind the run is literal. The value is rounded half
+// "." decimal point); what comes before and behind the run is literal. The value is rounded half
 // away from zero on its decimal text, and a negative zero is never shown. Masks in use: "##0.0",
 // "##0", "##,###,##0.0", "#S/", "#M", "#0", "#00", "#000". Infinity and NaN show as NumberText
 // gives them.

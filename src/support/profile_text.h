@@ -1,4 +1,4 @@
-// The text of one profile file in memory: a key's value is found and replaced where it stands.
+// The text of one profile file in memory: a key's value is found and replaced in its place.
 #pragma once
 
 #include <cstddef>
@@ -36,7 +36,7 @@ class ProfileText {
   // name that is asked for do not count. A character that the page lacks comes back as "?".
   std::optional<std::string> Find(std::string_view section, std::string_view key) const;
   // A new key comes behind the last line of its section that is not blank, a new section behind all
-  // others. False when the value stands there already and nothing changed.
+  // others. False when the value is there already and nothing changed.
   bool Set(std::string_view section, std::string_view key, std::string_view value);
   std::string Bytes() const;
 

@@ -21,7 +21,7 @@ std::string FromCp1252(std::string_view bytes);
 // Bytes of the page in small letters.
 std::string ToLowerCp1252(std::string_view bytes);
 
-// What stands before the first NUL.
+// What comes before the first NUL.
 std::string_view UntilNul(std::string_view text);
 // Blanks (space only) cut at both ends.
 std::string Trim(std::string_view text);

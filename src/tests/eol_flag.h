@@ -28,7 +28,7 @@ std::int32_t SetEOLFlag(const EolFlagParts& parts, std::int16_t bPass);
 
 struct EolFlagReading {
   std::int32_t result = 0;  // of the last of up to four tries
-  std::uint8_t value = 0;   // as the buffer stands, whatever the result
+  std::uint8_t value = 0;   // as the buffer has it, whatever the result
 };
 EolFlagReading ReadEOLFlag(LinkLibrary& link);
 

@@ -57,7 +57,7 @@ void frmPressureTest::FillRows() {
   }
 }
 
-// The rows of an earlier run stand until they are written over.
+// The rows of an earlier run stay until they are written over.
 void frmPressureTest::Start() {
   parts_.results.nPressureTest = kTestFailed;
   nState_ = 1;

@@ -123,7 +123,7 @@ void frmRedundancyTest::WaitForControlAgain() {
   if (parts_.ecu.dServiceBrake.Load() > kControlAfter) nState_ = 5;
 }
 
-// The target stands from before the two seconds, the judged values from after them; the boxes keep
+// The target is from before the two seconds, the judged values from after them; the boxes keep
 // what stood before.
 void frmRedundancyTest::Compare() {
   const ECUData& ecu = parts_.ecu;

@@ -370,7 +370,7 @@ void frmSensorOrientation::OnAtRest() {
   ++nTire_;
 }
 
-// The line stands for one tick: the next one closes the screen.
+// The line is there for one tick: the next one closes the screen.
 void frmSensorOrientation::Pass() {
   Say(kTitle, "All Sensors tested, Click STOP to end testing.");
   StartButton.SetEnabled(false);

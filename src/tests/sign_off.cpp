@@ -75,17 +75,16 @@ bool SignOffProcedure::PassLampTest() {
 }
 
 void SignOffProcedure::TellOfStopLightCable() {
-  MessageBox box;
-  box.title = Translated("Stop Light Activation Cable");
-  box.text =
-      Translated(
-          "Corbel software has determined that the optional Stop Light Activation Cable "
-          "should have been installed.  ") +
-      Translated("This feature can be tested from the Main screen using the TESTS pull-down.  ") +
-      Translated(
-          "You must have functional trailer stop lights attached in order to perform this "
-          "test.");
-  parts_.desktop.ShowMessageBox(box);
+  ShowPlainBox(
+      parts_.desktop,
+      Translated("Corbel software has determined that the optional Stop Light Activation Cable "
+                 "should have been installed.  ") +
+          Translated(
+              "This feature can be tested from the Main screen using the TESTS pull-down.  ") +
+          Translated(
+              "You must have functional trailer stop lights attached in order to perform this "
+              "test."),
+      Translated("Stop Light Activation Cable"));
 }
 
 // Air suspension leaves "not tested", which passes; a screen left without calibrating leaves 0.

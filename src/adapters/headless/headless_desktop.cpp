@@ -8,7 +8,7 @@
 namespace lorimet {
 namespace {
 
-// A modal form that stands so long in virtual time stands for ever.
+// A modal form that is open so long in virtual time never closes.
 constexpr std::uint64_t kPatience = 3'600'000;
 
 class HeadlessView : public FormView {

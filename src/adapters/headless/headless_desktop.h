@@ -49,7 +49,7 @@ class HeadlessDesktop : public Desktop {
   void After(std::uint32_t milliseconds, std::function<void()> action);
   // The answer to the next message box; kBoxOk or the box's only button without one.
   void AnswerBox(BoxButton answer) { answers_.push_back(answer); }
-  // What happens while the next message box stands.
+  // What happens while the next message box is open.
   void OnBox(std::function<void(const MessageBox&)> action) {
     on_box_.push_back(std::move(action));
   }

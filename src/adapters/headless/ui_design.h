@@ -21,7 +21,7 @@ struct UiDesign {
   int height = 0;
   std::map<std::string, UiControl> controls;  // by object name, layouts and containers included
 
-  // Every text that a user reads, by the property it stands in, in the order of the file; notr
+  // Every text that a user reads, by the property that holds it, in the order of the file; notr
   // texts are left out.
   std::vector<std::string> texts;
 };

@@ -15,7 +15,7 @@
 
 namespace lorimet {
 
-// Keeps the file of the last call in memory for as long as its time stamp and size stand, and
+// Keeps the file of the last call in memory for as long as its time stamp and size stay, and
 // collects writes until Flush, another file or the end. A file is replaced as a whole under a
 // temporary name in its own folder, with its permissions kept; a symbolic link stays one. When the
 // file is changed from outside while writes are pending, they are made again on the new text.

@@ -37,7 +37,7 @@ class PosixRegistry : public Registry {
     std::string path;  // with its hive
     std::uint32_t access;
   };
-  // What stands on the disk; `file` is none when there is nothing to read keys from.
+  // What the disk has; `file` is none when there is nothing to read keys from.
   struct Loaded {
     std::optional<RegistryFile> file;
     bool missing;

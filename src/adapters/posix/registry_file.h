@@ -21,7 +21,7 @@ struct RegistryValue {
 //
 // Keys are whole, with their hive ("HKEY_CURRENT_USER\SOFTWARE\..."). Keys and names are in code
 // page 1252 and match without regard to case; the empty name is the key's default value. What
-// stands twice counts as it stands last.
+// comes twice counts as it comes last.
 class RegistryFile {
  public:
   // A file with no keys, in the REGEDIT4 format.
@@ -29,7 +29,7 @@ class RegistryFile {
   // None when the bytes are no such file.
   static std::optional<RegistryFile> Parse(const std::string& bytes);
 
-  // A key is there when it or one below it stands in the file.
+  // A key is there when it or one below it is in the file.
   bool HasKey(const std::string& key) const;
   std::optional<RegistryValue> Find(const std::string& key, const std::string& name) const;
   void AddKey(const std::string& key);

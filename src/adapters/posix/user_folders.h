@@ -17,7 +17,7 @@ std::string ConfigFolder();
 // The documents folder that user-dirs.dirs in the config folder names, or Documents in the home
 // folder.
 std::string DocumentsFolder();
-// Makes a folder and those above it, for this user alone; true when it stands afterwards.
+// Makes a folder and those above it, for this user alone; true when it is there afterwards.
 bool MakeFolder(const std::string& folder);
 
 }  // namespace lorimet

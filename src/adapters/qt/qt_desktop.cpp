@@ -32,7 +32,7 @@ std::int64_t Microseconds() {
       .count();
 }
 
-// While one stands, what the user does reaches no window and is gone; what stands in a pipe stays.
+// While one stands, what the user does reaches no window and is gone; what is in a pipe stays.
 class InputGate : public QObject {
  public:
   InputGate() { qApp->installEventFilter(this); }
@@ -127,7 +127,7 @@ QWidget* QtDesktop::Window(const Form& form) const {
 }
 
 QWidget* QtDesktop::TopWindow(const QWidget* except) const {
-  // Whatever stands modally already, a box among them: the new one blocks it.
+  // Whatever is modal already, a box among them: the new one blocks it.
   QWidget* modal = QApplication::activeModalWidget();
   if (modal != nullptr && modal != except && modal->isVisible()) return modal;
   for (const QtFormView* view : views_)

@@ -130,7 +130,7 @@ void SetUp(const FileDialog& dialog, QFileDialog& chooser) {
 }  // namespace
 
 BoxButton RunMessageBox(const MessageBox& box, QWidget* parent) {
-  // On the heap: the parent may end while the box stands, and takes the box with it.
+  // On the heap: the parent may end while the box is open, and takes the box with it.
   QPointer<QMessageBox> dialog = new QMessageBox(parent);
   dialog->setObjectName(QStringLiteral("msgBox"));
   dialog->setWindowModality(Qt::WindowModal);

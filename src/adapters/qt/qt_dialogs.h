@@ -11,7 +11,7 @@ class QWidget;
 
 namespace lorimet {
 
-// All of them are modal and stand in front of `parent`, which may be null.
+// All of them are modal and in front of `parent`, which may be null.
 BoxButton RunMessageBox(const MessageBox& box, QWidget* parent);
 std::optional<std::string> RunFileDialog(const FileDialog& dialog, QWidget* parent);
 std::optional<int> RunListDialog(const std::string& title, const std::vector<std::string>& items,

@@ -228,7 +228,7 @@ void QtFormView::Show(bool modal, Form* owner) {
   const QPointer<QtFormView> alive(this);
   const bool was_visible = window_->isVisible();
   if (!was_visible) {
-    // Not modal to the application: the help can be read and closed whatever stands.
+    // Not modal to the application: the help can be read and closed whatever is open.
     window_->setWindowModality(modal ? Qt::WindowModal : Qt::NonModal);
     FitToContents();
     QWidget* parent = owner != nullptr ? host_.Window(*owner) : nullptr;

@@ -1,4 +1,4 @@
-// What the view of a form needs of the desktop that it stands on.
+// What the view of a form needs of the desktop that shows it.
 #pragma once
 
 #include <functional>
@@ -10,7 +10,7 @@ namespace lorimet {
 class Form;
 class QtFormView;
 
-// Counts the scopes that stand.
+// Counts the scopes that are open.
 class CountScope {
  public:
   explicit CountScope(int& depth) : depth_(depth) { ++depth_; }
@@ -32,7 +32,7 @@ class ViewHost {
   virtual void ViewDropped(QtFormView& view) = 0;
   // Null when the form is not loaded.
   virtual QWidget* Window(const Form& form) const = 0;
-  // The window that a new one stands in front of.
+  // The window that a new one comes in front of.
   virtual QWidget* TopWindow(const QWidget* except) const = 0;
   // A handler blocks the user interface: windows repaint, and no event runs.
   bool Waiting() const { return waiting_ > 0; }
