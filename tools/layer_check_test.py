@@ -173,6 +173,21 @@ class LayerCheckTest(unittest.TestCase):
                 self.assert_finds(name, "simulator/trailer/b.h")
                 (self.root / name).unlink()
 
+    def test_the_tour_has_the_trailers_operator_work(self):
+        self.include("src/tour.cpp", "simulator/operator/b.h", "simulator/operator/b.h")
+        self.assert_clean()
+        self.include("src/main.cpp", "simulator/operator/b.h", "simulator/operator/b.h")
+        self.assert_finds("src/main.cpp:1: up")
+
+    def test_the_operator_reads_the_programs_screens_and_no_more(self):
+        self.include("simulator/operator/a.cpp", "platform/forms.h", "src/platform/forms.h")
+        self.assert_clean()
+        self.include("simulator/operator/c.cpp", "tests/a.h", "src/tests/a.h")
+        self.assert_finds("simulator/operator/c.cpp:1: up")
+        self.include("simulator/operator/c.cpp", "vector")
+        self.include("simulator/library/d.cpp", "platform/forms.h", "src/platform/forms.h")
+        self.assert_finds("simulator/library/d.cpp:1: up")
+
     def test_the_model_of_the_trailer_includes_the_contract_alone(self):
         self.include("simulator/trailer/a.cpp", "session/ecu_data.h", "src/session/ecu_data.h")
         self.assert_clean()

@@ -1,5 +1,8 @@
 #include "simulator/operator/scripted_operator.h"
 
+#include <algorithm>
+#include <iterator>
+
 namespace lorimet::simulator {
 namespace {
 
@@ -8,21 +11,27 @@ constexpr std::string_view kRedundancy = "frmRedundancyTest";
 constexpr std::string_view kSensors = "frmSensorOrientation";
 constexpr std::string_view kLamp = "frmLampTest";
 constexpr std::string_view kHeight = "frmSuspensionCal";
+
+// What tells something and wants to be read; it may stand over a test.
 constexpr std::string_view kBox = "msgBox";
+constexpr std::string_view kErrorScreens[] = {"frmErr", "frmRP1210Err"};
+
+bool IsMessage(std::string_view name) {
+  return name == kBox || std::ranges::find(kErrorScreens, name) != std::end(kErrorScreens);
+}
 
 }  // namespace
 
 void ScriptedOperator::Step(double seconds) {
+  const std::string name = screen_.Name();
+  if (IsMessage(name)) return Read(name, seconds);
+  message_.clear();
   now_ += seconds;
-  if (screen_.Name() != name_) {
+  if (name != name_) {
     Leave();
-    Arrive();
+    Arrive(name);
   }
   if (name_.empty()) return;
-  if (name_ == kBox) {
-    Answer();
-    return;
-  }
   NoteProgress();
   if (habits_.closes_early || giving_up_ || now_ - progressed_ > kPatienceSeconds) {
     GiveUp();
@@ -34,8 +43,20 @@ void ScriptedOperator::Step(double seconds) {
   if (name_ == kHeight) Height();
 }
 
-void ScriptedOperator::Arrive() {
-  name_ = screen_.Name();
+void ScriptedOperator::Read(const std::string& message, double seconds) {
+  if (message != message_) read_ = 0;
+  message_ = message;
+  read_ += seconds;
+  if (read_ < kBoxSeconds) return;
+  read_ = 0;  // another one may stand there at once
+  for (const std::string_view button : {"yes", "ok", "cmdOK"}) {
+    if (!screen_.CanPress(button)) continue;
+    return screen_.Press(button);
+  }
+}
+
+void ScriptedOperator::Arrive(const std::string& name) {
+  name_ = name;
   status_.clear();
   now_ = 0;
   progressed_ = 0;
@@ -53,8 +74,7 @@ void ScriptedOperator::Arrive() {
 }
 
 void ScriptedOperator::Leave() {
-  // A message over the test is no reason to let go.
-  if (name_ != kRedundancy || screen_.Name() == kBox) return;
+  if (name_ != kRedundancy) return;
   if (pressing_ && !habits_.holds_pedal) yard_.Do("press demand 0");
   pressing_ = false;
 }
@@ -102,15 +122,6 @@ void ScriptedOperator::Lamp() {
 }
 
 void ScriptedOperator::Height() { PressIf("cmdCalHgtSensor_0"); }
-
-void ScriptedOperator::Answer() {
-  if (now_ < kBoxSeconds) return;
-  now_ = 0;  // another box may stand there at once
-  if (screen_.CanPress("yes"))
-    screen_.Press("yes");
-  else
-    PressIf("ok");
-}
 
 void ScriptedOperator::GiveUp() {
   if (!giving_up_) ++given_up_;

@@ -38,14 +38,14 @@ class ScriptedOperator {
   int GivenUp() const { return given_up_; }
 
  private:
-  void Arrive();
+  void Read(const std::string& message, double seconds);
+  void Arrive(const std::string& name);
   void Leave();
   void NoteProgress();
   void Redundancy();
   void Sensors();
   void Lamp();
   void Height();
-  void Answer();
   void GiveUp();
   void PressIf(std::string_view button);
   int TireToSpin() const;
@@ -53,6 +53,8 @@ class ScriptedOperator {
   Screen& screen_;
   Yard& yard_;
   OperatorHabits habits_;
+  std::string message_;    // that he reads
+  double read_ = 0;        // seconds at that message
   std::string name_;       // of the screen that he works at
   std::string status_;     // as he last read it
   double now_ = 0;         // seconds at this screen

@@ -180,11 +180,14 @@ void HeadlessDesktop::StandModally(Form& form) {
 }
 
 BoxButton HeadlessDesktop::ShowMessageBox(const MessageBox& box) {
+  std::optional<BoxButton> answer;
   RunLoop(Loop::kStanding, [&] {
     boxes_.push_back(box);
     if (auto action = TakeFirst(on_box_)) (*action)(box);
+    if (at_box) answer = at_box(box);
   });
-  if (const auto answer = TakeFirst(answers_)) return *answer;
+  if (!answer) answer = TakeFirst(answers_);
+  if (answer) return *answer;
   for (const BoxButton button : {kBoxOk, kBoxYes, kBoxNo, kBoxCancel})
     if (box.buttons & button) return button;
   return kBoxOk;

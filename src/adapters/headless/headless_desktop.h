@@ -53,6 +53,8 @@ class HeadlessDesktop : public Desktop {
   void OnBox(std::function<void(const MessageBox&)> action) {
     on_box_.push_back(std::move(action));
   }
+  // A user who stands before every box for a while and gives its answer.
+  std::function<BoxButton(const MessageBox&)> at_box;
   void AnswerFileDialog(std::optional<std::string> path) { files_.push_back(std::move(path)); }
   void AnswerChoice(std::optional<int> choice) { choices_.push_back(choice); }
   // Lets time pass, with its timers and its script.
