@@ -79,7 +79,13 @@ class DesktopProgram {
   }
 
   QtDesktop desktop;
-  QtClock clock{[this](std::uint32_t milliseconds) { desktop.Wait(milliseconds); }};
+  QtClock clock{[this](std::uint32_t milliseconds) {
+#if defined(_WIN32)
+    // Window messages come through the same events as the repainting.
+    const WindowsMessageHook::Held held(hook);
+#endif
+    desktop.Wait(milliseconds);
+  }};
   QtTranslations translations;
   QtToolkitTexts toolkit_texts;
   QtPagePrinter printer;

@@ -94,7 +94,15 @@ std::intptr_t WindowsMessageHook::CallProcedure(WindowProcedure* previous, std::
   return chain_.PassOn(previous, original_, window, message, wparam, lparam);
 }
 
+void WindowsMessageHook::Hold(bool held) {
+  held_ = held;
+  if (held_) return;
+  for (const Message& kept : std::exchange(waiting_, {}))
+    PostMessageA(Window(window_), kept.message, kept.wparam, kept.lparam);
+}
+
 void WindowsMessageHook::DropPending() {
+  waiting_.clear();
   MSG dropped{};
   for (const std::uint32_t message : registered_) {
     int left = kQueueLimit;
@@ -107,6 +115,10 @@ void WindowsMessageHook::DropPending() {
 
 std::intptr_t WindowsMessageHook::Deliver(std::uint32_t message, std::uintptr_t wparam,
                                           std::intptr_t lparam) {
+  if (held_ && registered_.contains(message)) {
+    waiting_.push_back({message, wparam, lparam});
+    return 0;
+  }
   // Behind the window's last message nothing may be called any more.
   const bool last = message == WM_NCDESTROY;
   std::intptr_t answer = 0;

@@ -5,6 +5,7 @@
 #include <functional>
 #include <set>
 #include <string>
+#include <vector>
 
 #include "platform/message_hook.h"
 #include "platform/procedure_chain.h"
@@ -38,6 +39,20 @@ class WindowsMessageHook : public MessageHook {
                               std::intptr_t lparam) override;
   void DropPending() override;
 
+  // While held, registered messages wait, because the window's events run for its repainting alone;
+  // letting go posts them again in their order.
+  void Hold(bool held);
+  class Held {
+   public:
+    explicit Held(WindowsMessageHook& hook) : hook_(hook) { hook_.Hold(true); }
+    ~Held() { hook_.Hold(false); }
+    Held(const Held&) = delete;
+    Held& operator=(const Held&) = delete;
+
+   private:
+    WindowsMessageHook& hook_;
+  };
+
   // Hands a message of the main window to the procedure that is set.
   std::intptr_t Deliver(std::uint32_t message, std::uintptr_t wparam, std::intptr_t lparam);
 
@@ -59,6 +74,14 @@ class WindowsMessageHook : public MessageHook {
   WindowProcedure* current_ = &original_;
   ProcedureChain chain_;
   std::set<std::uint32_t> registered_;
+
+  struct Message {
+    std::uint32_t message;
+    std::uintptr_t wparam;
+    std::intptr_t lparam;
+  };
+  bool held_ = false;
+  std::vector<Message> waiting_;
 };
 
 }  // namespace lorimet
