@@ -59,49 +59,58 @@ class ParameterWritingTest : public ProgramTest {
 TEST_F(ParameterWritingTest, SendsEveryBlockInOrderThenChecksClearsResetsAndAsks) {
   Open();
   FillAll();
-  std::vector<std::string> shown;
-  desktop.on_repaint = [&] { shown.push_back(Page().txtStatus.Text()); };
+  desktop.on_repaint = [&] { link.sequence.push_back("shows " + Page().txtStatus.Text()); };
   AnswerErrors({});
   Write();
-  // Each wait has its place behind the step that it is for.
+  // Each text and each wait has its place before or behind the step that it is for.
   EXPECT_EQ(link.TakeSequence(), (Calls{"StartSession 83",
                                         "Password",
                                         "StartRoutine 42:00000100",
+                                        "shows Writing EOL5 Data to ECU",
                                         "WriteMemory 28:14",
+                                        "shows Writing OVG Data to ECU ",
                                         "WriteMemory 3D:11",
+                                        "shows Writing Vehicle Data to ECU",
                                         "WriteMemory 03:10",
+                                        "shows Writing Trailer Data to ECU",
                                         "WriteMemory 06:16",
+                                        "shows Writing EOL3 Data to ECU",
                                         "WriteMemory 27:12",
+                                        "shows Writing EOL4 Data to ECU",
                                         "WriteMemory 17:13",
+                                        "shows Writing EOL6 Data to ECU",
                                         "WriteMemory 05:15",
+                                        "shows Writing EOL9 Data to ECU",
                                         "WriteMemory 42:17",
+                                        "shows Writing FCF 1 Data to ECU",
                                         "WriteMemory 37:110",
+                                        "shows Writing FCF 2 Data to ECU",
                                         "WriteMemory 38:110",
+                                        "shows Writing FCF 3 Data to ECU",
                                         "WriteMemory 39:110",
+                                        "shows Writing FCF 4 Data to ECU",
                                         "WriteMemory 3A:110",
+                                        "shows Writing FCF 5 Data to ECU",
                                         "WriteMemory 3B:110",
+                                        "shows Writing FCF 6 Data to ECU",
                                         "WriteMemory 3C:110",
+                                        "shows Writing FCF 7 Data to ECU",
                                         "WriteMemory 44:110",
+                                        "shows Writing FCF 8 Data to ECU",
                                         "WriteMemory 45:110",
                                         "StartRoutine 42:00000000",
                                         "sleep 100",
+                                        "shows Updating Checksums",
                                         "StartRoutine 05:",
                                         "sleep 2000",
+                                        "shows Clearing Faults",
                                         "ClearAllFaults",
                                         "sleep 2000",
+                                        "shows Performing Reset of ECU",
                                         "ResetECU",
                                         "sleep 3000",
+                                        "shows Checking for Parameter Errors",
                                         "ReadData 29"}));
-  EXPECT_EQ(shown, (Calls{"Writing EOL5 Data to ECU",    "Writing OVG Data to ECU ",
-                          "Writing Vehicle Data to ECU", "Writing Trailer Data to ECU",
-                          "Writing EOL3 Data to ECU",    "Writing EOL4 Data to ECU",
-                          "Writing EOL6 Data to ECU",    "Writing EOL9 Data to ECU",
-                          "Writing FCF 1 Data to ECU",   "Writing FCF 2 Data to ECU",
-                          "Writing FCF 3 Data to ECU",   "Writing FCF 4 Data to ECU",
-                          "Writing FCF 5 Data to ECU",   "Writing FCF 6 Data to ECU",
-                          "Writing FCF 7 Data to ECU",   "Writing FCF 8 Data to ECU",
-                          "Updating Checksums",          "Clearing Faults",
-                          "Performing Reset of ECU",     "Checking for Parameter Errors"}));
   EXPECT_EQ(desktop.TakeBoxes(), Boxes{kSaved});
   EXPECT_EQ(Page().txtStatus.Text(), " ");
   EXPECT_EQ(Page().Pointer(), MousePointer::kDefault);
