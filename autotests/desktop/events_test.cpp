@@ -249,6 +249,19 @@ TEST_F(EventsTest, TimerTicksWhileItRunsAndIsEnabled) {
   EXPECT_FALSE(timer->isActive());
 }
 
+TEST_F(EventsTest, TimerTicksAsOthersPostItsTicksWhereTheyAreLeftToThem) {
+  form.Unload();
+  desktop.LeaveTicksToOthers();
+  form.Load();
+  int ticks = 0;
+  form.tmrTick.on_tick = [&ticks] { ++ticks; };
+  desktop.RunEvent([this] { form.tmrTick.SetInterval(1); });
+  EXPECT_FALSE(Find<QTimer>(form, "tmrTick")->isActive());
+  desktop.PostTick(form.tmrTick);
+  desktop.DoEvents();
+  EXPECT_EQ(ticks, 1);
+}
+
 TEST_F(EventsTest, UnloadedFormsTimerTicksNoMore) {
   int ticks = 0;
   form.tmrTick.on_tick = [&] {

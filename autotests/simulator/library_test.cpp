@@ -26,6 +26,7 @@
 #include "autotests/places.h"
 #include "session/ecu_data.h"
 #include "session/lorimet32.h"
+#include "simulator/library/driven_time.h"
 
 namespace lorimet::simulator {
 namespace {
@@ -197,6 +198,32 @@ TEST_F(LibraryTest, ItsTimeRunsFromTheLoadingOn) {
   };
   const double first = time();
   EXPECT_TRUE(Eventually([&] { return time() > first + 0.1; }));
+}
+
+TEST_F(LibraryTest, ItsTimeCanBeDriven) {
+  const auto advance = [this](std::int32_t milliseconds) {
+    Get<decltype(::SimulatorAdvance)>("SimulatorAdvance")(milliseconds);
+  };
+  const auto time = [&] {
+    Control("get time\n");
+    advance(0);
+    const std::string answers = Contents("control.answers");
+    return std::stod(answers.substr(answers.rfind("ok ") + 3));
+  };
+  ASSERT_EQ(Connect(), 0);
+  const double begun = time();
+  advance(300);
+  EXPECT_EQ(NextStatus(0), 0) << "the first answer of the ECU";
+  advance(3'600'000);
+  EXPECT_NEAR(time() - begun, 3600.3, 0.001);
+  while (NextStatus(0)) {
+  }
+  EXPECT_EQ(NextStatus(1300), std::nullopt) << "its own thread still makes time pass";
+  EXPECT_NEAR(time() - begun, 3600.3, 0.001);
+  Control("failure never_answer operation=Trailer_ABS_KWP_StartSession value=40 times=1\n");
+  advance(0);
+  EXPECT_EQ(Get<decltype(::Trailer_ABS_KWP_StartSession)>("Trailer_ABS_KWP_StartSession")(0x83), 1);
+  EXPECT_NEAR(time() - begun, 3640.3, 0.001) << "a call that waits waits in the trailer's time";
 }
 
 TEST_F(LibraryTest, ASocketBesideTheControlFileServesToo) {

@@ -1,5 +1,7 @@
-// The library's exported operations: each is the method of the same name of the one link.
+// The library's exported operations: each is the method of the same name of the one link; and the
+// road by which its time is driven.
 #include "session/lorimet32.h"
+#include "simulator/library/driven_time.h"
 #include "simulator/library/library.h"
 
 #if defined(_WIN32)
@@ -46,3 +48,5 @@ Library& TheLibrary() {
   }
 LORIMET32_OPERATIONS(LORIMET32_DEFINE)
 #undef LORIMET32_DEFINE
+
+void SimulatorAdvance(int32_t milliseconds) { TheLibrary().Advance(milliseconds / 1000.0); }

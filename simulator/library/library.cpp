@@ -23,13 +23,7 @@ Library::Library() : link_(ScenarioText(scenario_path_)) {
     if (const auto state = ReadWholeFile(state_path_)) link_.Restore(*state);
   kept_revision_ = link_.StateRevision();
   link_.SetStatusSink([this](std::int32_t status) { posted_.push_back(status); });
-  // The caller waits, the trailer does not.
-  link_.SetWaiter([this](double seconds) {
-    if (calling_ == nullptr) return;
-    calling_->unlock();
-    std::this_thread::sleep_for(std::chrono::duration<double>(seconds));
-    calling_->lock();
-  });
+  link_.SetWaiter([this](double seconds) { Wait(seconds); });
   last_tick_ = std::chrono::steady_clock::now();
   last_control_ = last_tick_;
   thread_ = std::thread([this] { Loop(); });
@@ -59,7 +53,23 @@ void Library::Loop() {
   BlockSignalsOfThisThread();
   std::unique_lock lock(mutex_);
   while (!wake_.wait_for(lock, kTick, [this] { return ending_; }))
-    Tick(std::chrono::steady_clock::now());
+    if (!is_driven_) Tick(std::chrono::steady_clock::now());
+}
+
+void Library::Advance(double seconds) {
+  const std::lock_guard lock(mutex_);
+  is_driven_ = true;
+  PollControl();
+  Pass(seconds);
+}
+
+// The caller waits, the trailer does not.
+void Library::Wait(double seconds) {
+  if (is_driven_) return link_.Advance(seconds);
+  if (calling_ == nullptr) return;
+  calling_->unlock();
+  std::this_thread::sleep_for(std::chrono::duration<double>(seconds));
+  calling_->lock();
 }
 
 void Library::Tick(TimePoint now) {
@@ -69,7 +79,11 @@ void Library::Tick(TimePoint now) {
     last_control_ = now;
     PollControl();
   }
-  link_.Advance(std::min(seconds, kLongestCatchUp));
+  Pass(std::min(seconds, kLongestCatchUp));
+}
+
+void Library::Pass(double seconds) {
+  link_.Advance(seconds);
   for (const std::int32_t status : std::exchange(posted_, {})) channel_.Post(status);
   KeepState();
 }

@@ -25,6 +25,10 @@ class Library {
   // Ends the thread and keeps the state.
   ~Library();
 
+  // Lets so much of the trailer's time pass, and takes in what has been commanded. From the first
+  // call on no other time passes.
+  void Advance(double seconds);
+
   // Runs an operation. Once the call that ends a connection has returned, nothing is posted or
   // written any more.
   template <typename Call>
@@ -48,6 +52,8 @@ class Library {
 
   void Loop();
   void Tick(TimePoint now);  // with the mutex held, as what follows
+  void Wait(double seconds);
+  void Pass(double seconds);
   void SwitchChannel();
   void PollControl();
   CommandAnswer Run(const std::string& line);
@@ -57,6 +63,7 @@ class Library {
   std::mutex mutex_;
   std::condition_variable wake_;
   bool ending_ = false;
+  bool is_driven_ = false;  // the trailer's time passes by Advance alone
   std::thread thread_;
   std::unique_lock<std::mutex>* calling_ = nullptr;  // of the operation that runs
 

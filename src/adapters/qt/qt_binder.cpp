@@ -310,13 +310,16 @@ class TabBinding : public WidgetBinding {
 class TimerBinding : public Binding {
  public:
   TimerBinding(Timer& timer, const BindingSite& site)
-      : Binding(timer), timer_(timer), ticker_(new QTimer(site.window)) {
+      : Binding(timer),
+        timer_(timer),
+        ticker_(new QTimer(site.window)),
+        ticks_by_itself_(site.timers_tick) {
     ticker_->setObjectName(ToQString(timer.Name()));
     QObject::connect(ticker_, &QTimer::timeout, site.lifetime,
                      [&timer] { timer.Owner().GetDesktop().PostTick(timer); });
   }
   void Mirror(unsigned changes) override {
-    if (!(changes & (Control::kInterval | Control::kEnabled))) return;
+    if (!ticks_by_itself_ || !(changes & (Control::kInterval | Control::kEnabled))) return;
     if (!timer_.Running())
       ticker_->stop();
     else if (!ticker_->isActive() || ticker_->interval() != timer_.Interval())
@@ -327,6 +330,7 @@ class TimerBinding : public Binding {
  private:
   Timer& timer_;
   QTimer* ticker_;
+  bool ticks_by_itself_;
 };
 
 // An action of a menu or a toolbar, or the title of a menu.

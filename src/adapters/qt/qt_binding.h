@@ -18,6 +18,7 @@ struct BindingSite {
   QWidget* window = nullptr;
   QObject* lifetime = nullptr;  // connections end with it
   EventDispatcher dispatch;
+  bool timers_tick = true;  // in the machine's time
 };
 
 // Owned by the form's view. The destructor touches neither the control nor the widget: both may be

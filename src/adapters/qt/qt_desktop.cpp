@@ -194,16 +194,24 @@ void QtDesktop::Wait(std::uint32_t milliseconds) {
   const std::chrono::milliseconds whole(milliseconds);
   if (milliseconds < kShortestWait) return std::this_thread::sleep_for(whole);
   const auto end = std::chrono::steady_clock::now() + whole;
+  auto left = whole;
+  WaitWhile([&] {
+    std::this_thread::sleep_for(std::min(left, kRepaintEvery));
+    left = std::chrono::duration_cast<std::chrono::milliseconds>(end -
+                                                                 std::chrono::steady_clock::now());
+    return left.count() > 0;
+  });
+}
+
+void QtDesktop::WaitWhile(const std::function<bool()>& goes_on) {
   {
     const CountScope waiting(waiting_);
     const InputGate gate;
-    auto left = whole;
-    do {
-      std::this_thread::sleep_for(std::min(left, kRepaintEvery));
+    bool more = true;
+    while (more) {
+      more = goes_on();
       QCoreApplication::processEvents();
-      left = std::chrono::duration_cast<std::chrono::milliseconds>(
-          end - std::chrono::steady_clock::now());
-    } while (left.count() > 0);
+    }
   }
   TellHeldBack();
 }

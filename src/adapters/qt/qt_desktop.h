@@ -35,6 +35,10 @@ class QtDesktop : public Desktop, private ViewHost {
   // is dropped, ticks and messages come behind it. A pause of less than a tenth of a second, as
   // between two looks of a waiting loop, drops nothing.
   void Wait(std::uint32_t milliseconds);
+  // The same until `goes_on`, which lets some of the wait pass, is false.
+  void WaitWhile(const std::function<bool()>& goes_on);
+  // From now on no timer of the forms ticks by itself: who drives the time posts the ticks.
+  void LeaveTicksToOthers() { ticks_by_itself_ = false; }
   using ViewHost::Waiting;
   // The window of a form as the window system knows it; loads the form.
   std::uintptr_t NativeWindow(Form& form);

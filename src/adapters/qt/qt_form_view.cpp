@@ -66,7 +66,8 @@ QtFormView::~QtFormView() {
 
 void QtFormView::BindControls() {
   const BindingSite site{window_, this,
-                         [this](const std::function<void()>& event) { Dispatch(event); }};
+                         [this](const std::function<void()>& event) { Dispatch(event); },
+                         host_.ticks_by_itself_};
   QStringList missing;
   for (Control* control : form_.Controls()) {
     QString wanted;

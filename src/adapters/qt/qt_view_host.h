@@ -47,6 +47,8 @@ class ViewHost {
   // unload the very form that is being mirrored, shown or hidden.
   int quiet_ = 0;
   int waiting_ = 0;
+  // Whether the timers of a form that is loaded now tick in the machine's time.
+  bool ticks_by_itself_ = true;
 };
 
 }  // namespace lorimet
