@@ -304,5 +304,18 @@ TEST_F(FocusTest, EnterPressesTheFocusedButtonOfADialogAndNoOther) {
   EXPECT_EQ(dialog.log, (Log{"ok"}));
 }
 
+TEST_F(FocusTest, EnterInALineIsTheDefaultButtonAndInManyLinesANewOne) {
+  dialog.Show();
+  Pump();
+  Find<QPushButton>(dialog, "cmdOK")->setDefault(true);
+  dialog.txtNotes.SetFocus();
+  Press(Find<QPlainTextEdit>(dialog, "txtNotes"), Qt::Key_Return, Qt::NoModifier, "\r");
+  EXPECT_EQ(dialog.txtNotes.Text(), "\r\n");
+  EXPECT_TRUE(dialog.log.empty());
+  dialog.txtName.SetFocus();
+  Press(Find<QLineEdit>(dialog, "txtName"), Qt::Key_Return, Qt::NoModifier, "\r");
+  EXPECT_EQ(dialog.log, (Log{"ok"}));
+}
+
 }  // namespace
 }  // namespace lorimet

@@ -357,6 +357,14 @@ TEST_F(FaultListTest, SpeaksTheLanguageOnScreen) {
   EXPECT_EQ(List().TopicKey(), "SIDunkFMIunk");
 }
 
+TEST_F(FaultListTest, ColumnsAreHeadedInSpanishToo) {
+  SetLanguage(kSpanish);
+  Open();
+  Row heads;
+  for (const GridColumn& column : Grid().Columns()) heads.push_back(column.caption);
+  EXPECT_EQ(heads, (Row{"N.º", "Nombre", "Tipo", "Veces", "SID", "FMI"}));
+}
+
 TEST_F(FaultListTest, ChangeOfLanguageRenamesTheTableInPlace) {
   Start();
   const std::size_t size = program.faults->fault_table.Size();

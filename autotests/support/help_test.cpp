@@ -80,6 +80,17 @@ TEST_F(HelpTest, TellsThatThereIsNoneBeforeItsPathIsBuilt) {
   EXPECT_TRUE(help_viewer.calls.empty());
 }
 
+TEST_F(HelpTest, TellsThatThereIsNoneInTheUsersLanguage) {
+  program.support->dictionary.Open();
+  program.support->dictionary.on_language_changed.clear();
+  program.support->dictionary.SetLanguage(kFrench);
+  program.support->help.ShowContents("Titre");
+  const auto boxes = desktop.TakeBoxes();
+  ASSERT_EQ(boxes.size(), 1U);
+  EXPECT_EQ(boxes[0].text,
+            "Impossible d'afficher le sommaire de l'aide. Aucune aide n'est associée à ce projet.");
+}
+
 TEST_F(HelpTest, ShowsTheErrorOfTheViewer) {
   PathFor("/opt/help/");
   help_viewer.fails_with = 53;
