@@ -295,6 +295,19 @@ TEST_F(ControlsTest, GridRefusesARowOrAFieldThatIsNotThere) {
   EXPECT_EQ(form.grid.FocusedRow(), -1);
 }
 
+TEST_F(ControlsTest, GridDeletesTheRowThatIsNamed) {
+  for (const char* cell : {"1", "2", "3"}) form.grid.AppendRow({cell});
+  form.grid.UserFocusRow(2);
+  form.grid.DeleteRow(1);
+  ASSERT_EQ(form.grid.RowCount(), 2);
+  EXPECT_EQ(form.grid.Row(0), (Log{"1"}));
+  EXPECT_EQ(form.grid.Row(1), (Log{"3"}));
+  EXPECT_EQ(form.grid.FocusedRow(), 1);
+  form.grid.DeleteRow(1);
+  ASSERT_EQ(form.grid.RowCount(), 1);
+  EXPECT_EQ(form.grid.Row(0), (Log{"1"}));
+}
+
 TEST_F(ControlsTest, GridLinkTakesTheFocusToItsRowFirst) {
   form.grid.on_focused_row_change = Note("focus");
   form.grid.on_hyperlink_click = [this](int row) { log.push_back("link " + std::to_string(row)); };
