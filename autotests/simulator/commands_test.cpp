@@ -3,6 +3,7 @@
 #include <set>
 #include <string>
 
+#include "autotests/places.h"
 #include "autotests/simulator/link_fixture.h"
 #include "simulator/trailer/load_sensing.h"
 
@@ -249,6 +250,22 @@ TEST_F(CommandsTest, EverythingThatCanBeSeenIsTold) {
       {"requests Connect", "1"},
       {"time", "2.5"},
       {"parking_brake", "off"},
+      {"scenario", "none"},
+      {"configuration", "4S/2M"},
+      {"suspension", "air"},
+      {"mounting", "forward"},
+      {"wheel 5 sensor", "c"},
+      {"wheel 3 sensor", "none"},
+      {"connection", "on"},
+      {"adapter", "on"},
+      {"cable", "in"},
+      {"power", "on"},
+      {"compressor", "on"},
+      {"defects", "none"},
+      {"failures", "none"},
+      {"told", "2"},
+      {"request 2", "Trailer_ABS_QOR_ReadStaticData()"},
+      {"request 3", "none"},
   };
   for (const auto& [name, value] : rows) EXPECT_EQ(link_->Get(name), value) << name;
   EXPECT_EQ(link_->Get("supply").substr(0, 3), "111");
@@ -258,6 +275,42 @@ TEST_F(CommandsTest, EverythingThatCanBeSeenIsTold) {
     EXPECT_NE(link_->Command(wrong), "") << wrong;
   ConnectAndRead("axles 2");
   EXPECT_NE(link_->Command("get wheel 1 speed"), "") << "no such wheel";
+}
+
+TEST_F(CommandsTest, SwitchesDefectsAndFailuresAreToldAsTheyStand) {
+  ConnectAndRead("configuration 2S/1M\naxles 1\nsuspension mechanical\nmounting rear");
+  for (const char* command :
+       {"adapter off", "cable out", "power off", "compressor off", "defect lamp dead",
+        "defect modulator H2 weak=0.9", "failure refuse routine=0x37 skip=3"})
+    ASSERT_EQ(link_->Command(command), "") << command;
+  const std::pair<const char*, const char*> rows[] = {
+      {"configuration", "2S/1M"},
+      {"suspension", "mechanical"},
+      {"mounting", "rear"},
+      {"adapter", "off"},
+      {"cable", "out"},
+      {"power", "off"},
+      {"compressor", "off"},
+      {"defects", "modulator lamp"},
+      {"failures", "cable_out refuse"},
+  };
+  for (const auto& [name, value] : rows) EXPECT_EQ(link_->Get(name), value) << name;
+  link_->Command("repair all");
+  link_->Command("heal all");
+  EXPECT_EQ(link_->Get("defects"), "none");
+  EXPECT_EQ(link_->Get("failures"), "none");
+  link_->Disconnect();
+  EXPECT_EQ(link_->Get("connection"), "off");
+}
+
+TEST_F(CommandsTest, AnotherTrailerIsToldByItsFileAndTheConnectionStands) {
+  ConnectAndRead();
+  const std::string file = InSource("simulator/scenarios/healthy_2s1m.scenario");
+  ASSERT_EQ(link_->Command("scenario " + file), "");
+  EXPECT_EQ(link_->Get("scenario"), file);
+  EXPECT_EQ(link_->Get("configuration"), "2S/1M");
+  EXPECT_EQ(link_->Get("connection"), "on");
+  EXPECT_EQ(link_->Get("told"), "2");
 }
 
 // --- What stands beside a byte ------------------------------------------------------------------

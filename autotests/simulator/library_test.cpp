@@ -99,6 +99,15 @@ class LibraryTest : public testing::Test {
       if (const auto status = NextStatus(); !status || *status == wanted) return status.has_value();
     return false;
   }
+  // What a socket gives until its other end is closed.
+  static std::string AllFrom(int connection) {
+    std::string text;
+    char bytes[256];
+    ssize_t count = 0;
+    while ((count = recv(connection, bytes, sizeof bytes, 0)) > 0)
+      text.append(bytes, static_cast<std::size_t>(count));
+    return text;
+  }
   std::string Contents(const char* file) {
     std::ifstream stream(folder_ / file);
     return {std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
@@ -226,13 +235,13 @@ TEST_F(LibraryTest, ItsTimeCanBeDriven) {
   EXPECT_NEAR(time() - begun, 3640.3, 0.001) << "a call that waits waits in the trailer's time";
 }
 
-TEST_F(LibraryTest, ASocketBesideTheControlFileServesToo) {
+TEST_F(LibraryTest, ASocketBesideTheControlFileServesOneWriterAtATime) {
   sockaddr_un address = {};
   address.sun_family = AF_UNIX;
   const std::string name = folder_ / "control.socket";
   ASSERT_LT(name.size(), sizeof address.sun_path);
   name.copy(address.sun_path, name.size());
-  const int client = socket(AF_UNIX, SOCK_STREAM, 0);
+  int client = socket(AF_UNIX, SOCK_STREAM, 0);
   ASSERT_EQ(connect(client, reinterpret_cast<sockaddr*>(&address), sizeof address), 0);
   timeval limit = {20, 0};
   setsockopt(client, SOL_SOCKET, SO_RCVTIMEO, &limit, sizeof limit);
@@ -251,9 +260,16 @@ TEST_F(LibraryTest, ASocketBesideTheControlFileServesToo) {
   expect("flag 9\nget fl", "1 ok\n");
   expect("ag\nfly\n", "2 ok 9\n3 unknown command 'fly'\n");
   const int other = socket(AF_UNIX, SOCK_STREAM, 0);
+  setsockopt(other, SOL_SOCKET, SO_RCVTIMEO, &limit, sizeof limit);
   ASSERT_EQ(connect(other, reinterpret_cast<sockaddr*>(&address), sizeof address), 0);
+  EXPECT_EQ(AllFrom(other), "0 somebody else has the trailer\n");
   close(other);
-  expect("get flag\n", "4 ok 9\n");  // one that goes leaves the others
+  expect("get flag\n", "4 ok 9\n");  // who had it keeps it
+  close(client);
+  client = socket(AF_UNIX, SOCK_STREAM, 0);
+  setsockopt(client, SOL_SOCKET, SO_RCVTIMEO, &limit, sizeof limit);
+  ASSERT_EQ(connect(client, reinterpret_cast<sockaddr*>(&address), sizeof address), 0);
+  expect("get flag\n", "1 ok 9\n");  // and leaves it to the next
   Unload();
   EXPECT_FALSE(std::filesystem::exists(name));
   close(client);

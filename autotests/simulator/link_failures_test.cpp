@@ -238,9 +238,17 @@ TEST_F(LinkFailuresTest, RequestsAreKeptOnCommandAndTheLastOneAlways) {
   EXPECT_EQ(link_->Log().Lines().size(), 3u);
   EXPECT_EQ(link_->Get("last Trailer_ABS_KWP_StartRoutineByLocId"), "(0x42, 4, [00 00 01 00])");
   EXPECT_EQ(link_->Get("requests FaultLock"), "1");
+  EXPECT_EQ(link_->Get("told"), "6");
+  EXPECT_EQ(link_->Get("request 6"), "FaultLock()");
+  for (int i = 0; i < 100; ++i) link_->FaultUnlock();
+  EXPECT_EQ(link_->Get("request 106"), "FaultUnlock()");
+  EXPECT_EQ(link_->Get("request 7"), "FaultUnlock()");
+  EXPECT_EQ(link_->Get("request 6"), "none") << "a hundred are kept";
   EXPECT_NE(link_->Command("get requests Fly"), "");
   ASSERT_EQ(link_->Command("log clear"), "");
   EXPECT_EQ(link_->Get("requests FaultLock"), "0");
+  EXPECT_EQ(link_->Get("told"), "0");
+  EXPECT_EQ(link_->Get("request 1"), "none");
   EXPECT_TRUE(link_->Log().Lines().empty());
 }
 

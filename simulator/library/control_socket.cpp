@@ -56,7 +56,7 @@ ControlSocket::ControlSocket(const std::filesystem::path& path) : path_(path) {
 }
 
 ControlSocket::~ControlSocket() {
-  for (const Client& client : clients_) close(client.descriptor);
+  if (writer_) close(writer_->descriptor);
   if (listening_ < 0) return;
   close(listening_);
   unlink(path_.string().c_str());
@@ -65,7 +65,13 @@ ControlSocket::~ControlSocket() {
 void ControlSocket::Accept() {
   for (int descriptor = 0; (descriptor = accept(listening_, nullptr, nullptr)) >= 0;) {
     MakeReady(descriptor);
-    clients_.push_back({descriptor, {}});
+    if (!writer_) {
+      writer_ = {descriptor, {}};
+      continue;
+    }
+    const std::string refusal = AnswerLine(0, {{}, "somebody else has the trailer"});
+    send(descriptor, refusal.data(), refusal.size(), MSG_NOSIGNAL);
+    close(descriptor);
   }
 }
 
@@ -89,12 +95,14 @@ bool ControlSocket::Serve(Client& client,
 
 void ControlSocket::Poll(const std::function<CommandAnswer(const std::string&)>& run) {
   if (listening_ < 0) return;
+  const auto serve = [&] {
+    if (!writer_ || Serve(*writer_, run)) return;
+    close(writer_->descriptor);
+    writer_.reset();
+  };
+  serve();  // who has gone makes room for who has come
   Accept();
-  std::erase_if(clients_, [&](Client& client) {
-    if (Serve(client, run)) return false;
-    close(client.descriptor);
-    return true;
-  });
+  serve();
 }
 
 #endif

@@ -1,11 +1,11 @@
-// A local socket beside the control file: what connects there sends commands, a line each, and gets
-// a line of answer for each.
+// A local socket beside the control file: who connects there sends commands, a line each, and gets
+// a line of answer for each. It has one writer; another is told so by a line numbered 0 and let go.
 #pragma once
 
 #include <filesystem>
 #include <functional>
+#include <optional>
 #include <string>
-#include <vector>
 
 #include "simulator/library/files.h"
 
@@ -39,7 +39,7 @@ class ControlSocket {
 
   std::filesystem::path path_;
   int listening_ = -1;
-  std::vector<Client> clients_;
+  std::optional<Client> writer_;
 };
 
 }  // namespace lorimet::simulator

@@ -19,6 +19,7 @@ std::string ScenarioText(const std::filesystem::path& path) {
 Library::Library() : link_(ScenarioText(scenario_path_)) {
   if (!scenario_path_.empty() && !ReadWholeFile(scenario_path_))
     link_.SetScenarioError("the file '" + scenario_path_.string() + "' cannot be read");
+  link_.World().scenario = scenario_path_.string();
   if (!state_path_.empty())
     if (const auto state = ReadWholeFile(state_path_)) link_.Restore(*state);
   kept_revision_ = link_.StateRevision();

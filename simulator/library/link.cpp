@@ -62,6 +62,8 @@ void Link::TakeNextScenario() {
   }
   built.simulation->log = simulation_->log;
   built.simulation->time = simulation_->time;
+  built.simulation->scenario = file;
+  built.simulation->connected = simulation_->connected;
   scenario_ = *text;
   simulation_ = std::move(built.simulation);
   writer_.Follow(*simulation_);
@@ -90,7 +92,7 @@ void Link::Step() {
   simulation_->time += kStepMicroseconds;
   simulation_->failures.Step();
   simulation_->trailer.Step();
-  if (connected_) {
+  if (Connected()) {
     connected_for_ += kStepMicroseconds;
     const Trailer& trailer = simulation_->trailer;
     const bool broadcast = Reachable() && !trailer.Diagnosis().ParameterAccess();
@@ -100,7 +102,7 @@ void Link::Step() {
     StepStaticRead();
     StepStatuses();
   }
-  RunDueCommands(*simulation_, connected_ ? std::optional(connected_for_) : std::nullopt);
+  RunDueCommands(*simulation_, Connected() ? std::optional(connected_for_) : std::nullopt);
   TakeNextScenario();
 }
 

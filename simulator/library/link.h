@@ -64,7 +64,7 @@ class Link {
   FailurePlan& Failures() { return simulation_->failures; }
   RequestLog& Log() { return simulation_->log; }
   int Requests(std::string_view operation) const { return simulation_->log.Requests(operation); }
-  bool Connected() const { return connected_; }
+  bool Connected() const { return simulation_->connected; }
   // Where the statuses of the connection go: the window, or the pipe, given to Connect.
   std::uint32_t Handle() const { return handle_; }
   bool Attained() const { return attained_; }
@@ -162,7 +162,6 @@ class Link {
   RecordWriter writer_;
   BusTraffic bus_;
 
-  bool connected_ = false;
   bool attained_ = false;
   std::uint32_t handle_ = 0;
   LinkStatus* link_status_ = nullptr;

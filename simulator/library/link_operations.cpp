@@ -82,7 +82,7 @@ template <typename Service>
 std::int32_t Link::Answer(const Request& request, const std::string& arguments, Reach reach,
                           Service service) {
   if (const auto disturbed = Disturb(request, arguments, kNoAnswer)) return *disturbed;
-  if (!connected_) return kInvalidClient;
+  if (!Connected()) return kInvalidClient;
   FailurePlan& failures = simulation_->failures;
   if (const auto lost = failures.Strike(FailureMode::kCableOutAt, request))
     failures.Arm({.mode = FailureMode::kCableOut, .steps = lost->steps});
@@ -121,7 +121,7 @@ std::int32_t Link::AdapterError(const char* protocol, const char* vendor, std::i
   if (!demands.vendor.empty() && demands.vendor != Text(vendor)) return kNotInitialised;
   if (demands.device && *demands.device != device) return kInvalidDevice;
   if (!demands.protocol.empty() && demands.protocol != Text(protocol)) return kInvalidProtocol;
-  return connected_ ? kAlreadyConnected : simulation_->client_id;
+  return Connected() ? kAlreadyConnected : simulation_->client_id;
 }
 
 std::int32_t Link::Connect(char* protocol, std::uint32_t hWnd, char* vendor, std::int32_t deviceId,
@@ -137,7 +137,7 @@ std::int32_t Link::Connect(char* protocol, std::uint32_t hWnd, char* vendor, std
   if (simulation_->answered_vendor) PutWhole(vendor, *simulation_->answered_vendor);
   if (simulation_->answered_protocol) PutWhole(protocol, *simulation_->answered_protocol);
   if (result < 0 || result > 127) return result;
-  connected_ = true;
+  simulation_->connected = true;
   attained_ = false;
   handle_ = hWnd;
   link_status_ = Aligned<LinkStatus>(linkStatus);
@@ -158,7 +158,7 @@ std::int32_t Link::Connect(char* protocol, std::uint32_t hWnd, char* vendor, std
 
 std::int32_t Link::Disconnect() {
   return Serve(Operation::Disconnect, "", Reach::kLibrary, [&] {
-    connected_ = false;
+    simulation_->connected = false;
     EndStuckRead();
     fault_locked_ = false;
     link_status_ = nullptr;
@@ -240,7 +240,7 @@ std::int32_t Link::FaultGetCount() {
   // An answer that never comes counts nothing.
   if (const auto disturbed = Disturb(Request{.operation = Operation::FaultGetCount}, "", 0))
     return *disturbed;
-  if (!connected_) return 0;
+  if (!Connected()) return 0;
   const auto held = static_cast<std::int32_t>(fault_locked_ ? locked_faults_.size() : 0);
   const auto failure = simulation_->failures.Strike(FailureMode::kFaultCountIs);
   const std::int32_t count = failure ? static_cast<std::int32_t>(failure->value) : held;

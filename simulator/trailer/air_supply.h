@@ -18,6 +18,7 @@ class AirSupply {
 
   double Pressure() const { return pressure_; }
   bool Pumping() const { return pumping_; }
+  bool Compressor() const { return compressor_; }
   // Without its compressor the reservoir only leaks.
   void SetCompressor(bool present) { compressor_ = present; }
   void SetPressure(double psi) { pressure_ = std::max(0.0, psi); }

@@ -87,6 +87,11 @@ std::optional<Failure> FailurePlan::Strike(FailureMode mode, const Request& requ
   return std::nullopt;
 }
 
+bool FailurePlan::Stands(FailureMode mode) const {
+  return std::any_of(armed_.begin(), armed_.end(),
+                     [=](const Failure& failure) { return failure.mode == mode; });
+}
+
 bool FailurePlan::Armed(FailureMode mode) const {
   return std::any_of(armed_.begin(), armed_.end(), [=](const Failure& failure) {
     return failure.mode == mode && failure.skip <= 0 && Fits(failure.only, {});

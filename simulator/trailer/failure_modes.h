@@ -84,6 +84,8 @@ class FailurePlan {
   std::optional<Failure> Strike(FailureMode mode, const Request& request = {});
   // Whether one is armed that strikes whatever is asked for; no strike.
   bool Armed(FailureMode mode) const;
+  // Whether one is armed at all.
+  bool Stands(FailureMode mode) const;
 
  private:
   std::vector<Failure> armed_;

@@ -40,12 +40,18 @@ Seen LookChannel(const Simulation& s, const Words& words) {
   return Told(value ? Text(*value) : "none");
 }
 
+std::string LetterAt(const Simulation& s, int position) {
+  const auto index = s.trailer.Plan().SensorAt(position);
+  return index ? std::string(1, kSensorLetters[static_cast<std::size_t>(*index)]) : "none";
+}
+
 Seen LookWheel(const Simulation& s, const Words& words) {
   const auto number = ParseInteger(words[0], 1, kPositions);
   if (!number || !s.trailer.Plan().HasWheel(static_cast<int>(*number))) return Wrong(words[0]);
   const int position = static_cast<int>(*number);
   if (words[1] == "speed") return Told(Text(s.trailer.Rolling().Speed(position)));
   if (words[1] == "brake") return Told(Text(s.trailer.WheelBrake(position)));
+  if (words[1] == "sensor") return Told(LetterAt(s, position));
   if (words[1] != "turnable") return Wrong(words[1]);
   return Told(Text(s.trailer.Rolling().Turnable(position), "yes", "no"));
 }
@@ -109,6 +115,32 @@ Seen LookDistance(const Simulation& s, const Words& words) {
   return Wrong(words[0]);
 }
 
+// The names of the defects that stand.
+Seen LookDefects(const Simulation& s, const Words&) {
+  std::string names;
+  for (const DefectFacts& facts : DefectTable()) {
+    Defects mended = s.trailer.Wrong();
+    RepairDefect(mended, facts.name);
+    if (mended != s.trailer.Wrong()) names += (names.empty() ? "" : " ") + std::string(facts.name);
+  }
+  return Told(names.empty() ? "none" : names);
+}
+
+Seen LookFailures(const Simulation& s, const Words&) {
+  std::string names;
+  for (const FailureFacts& facts : FailureTable())
+    if (s.failures.Stands(facts.mode))
+      names += (names.empty() ? "" : " ") + std::string(facts.name);
+  return Told(names.empty() ? "none" : names);
+}
+
+Seen LookRequest(const Simulation& s, const Words& words) {
+  const auto number = ParseInteger(words[0], 1, INT32_MAX);
+  if (!number) return Wrong(words[0]);
+  const std::string& request = s.log.Request(static_cast<int>(*number));
+  return Told(request.empty() ? "none" : request);
+}
+
 // This trailer's link moves no recorder data yet.
 Seen LookTransfer(const Simulation&, const Words&) { return Told("none"); }
 
@@ -124,6 +156,17 @@ struct Row {
 
 constexpr Row kRows[] = {
     {"time", 0, "", LORIMET32_SEE(Text(static_cast<double>(s.time) / 1e6))},
+    {"scenario", 0, "", LORIMET32_SEE(s.scenario.empty() ? "none" : s.scenario)},
+    {"configuration", 0, "", LORIMET32_SEE(std::string(FactsOf(s.trailer.Setup().system).name))},
+    {"suspension", 0, "",
+     LORIMET32_SEE(Text(s.trailer.Setup().suspension == Suspension::kAir, "air", "mechanical"))},
+    {"mounting", 0, "", LORIMET32_SEE(Text(s.trailer.Setup().rear_mounted, "rear", "forward"))},
+    {"connection", 0, "", LORIMET32_SEE(Text(s.connected, "on", "off"))},
+    {"adapter", 0, "", LORIMET32_SEE(Text(s.adapter.present, "on", "off"))},
+    {"cable", 0, "", LORIMET32_SEE(Text(s.failures.Armed(FailureMode::kCableOut), "out", "in"))},
+    {"power", 0, "",
+     LORIMET32_SEE(Text(s.trailer.Electric().Source() == VoltageSource::kPermanent, "on", "off"))},
+    {"compressor", 0, "", LORIMET32_SEE(Text(s.trailer.Supply().Compressor(), "on", "off"))},
     {"supply", 0, "", LORIMET32_SEE(Text(s.trailer.Supply().Pressure()))},
     {"pedal", 0, "", LORIMET32_SEE(Text(s.trailer.Line().Pedal()))},
     {"control_line", 0, "", LORIMET32_SEE(Text(s.trailer.Line().Pressure()))},
@@ -134,7 +177,7 @@ constexpr Row kRows[] = {
     {"channel", 1, "N", LookChannel},
     {"load", 0, "", LORIMET32_SEE(Text(s.trailer.Load().Load()))},
     {"bellows", 0, "", LORIMET32_SEE(Text(s.trailer.BellowsPressure()))},
-    {"wheel", 2, "N speed|brake|turnable", LookWheel},
+    {"wheel", 2, "N speed|brake|turnable|sensor", LookWheel},
     {"parking_brake", 0, "", LORIMET32_SEE(Text(s.trailer.ParkingBrake(), "on", "off"))},
     {"speed", 0, "", LORIMET32_SEE(Text(s.trailer.Road().Speed()))},
     {"distance", 1, "odometer|trip|next_service", LookDistance},
@@ -157,6 +200,10 @@ constexpr Row kRows[] = {
     {"transfer", 0, "", LookTransfer},
     {"faults", 0, "", LORIMET32_SEE(std::to_string(s.trailer.Faults().Faults().size()))},
     {"fault", 2, "SID FMI", LookFault},
+    {"defects", 0, "", LookDefects},
+    {"failures", 0, "", LookFailures},
+    {"told", 0, "", LORIMET32_SEE(std::to_string(s.log.Told()))},
+    {"request", 1, "N", LookRequest},
     {"last", 1, "OPERATION", LookLast},
     {"requests", 1, "OPERATION", LookRequests},
 };

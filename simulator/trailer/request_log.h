@@ -7,6 +7,7 @@
 #include <span>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "simulator/trailer/operations.h"
@@ -23,11 +24,21 @@ class RequestLog {
   void Note(Operation operation, const std::string& arguments) {
     ++counts_[static_cast<std::size_t>(operation)];
     last_[static_cast<std::size_t>(operation)] = arguments;
-    if (keeping_) lines_.push_back(std::string(NameOf(operation)) + "(" + arguments + ")");
+    std::string line = std::string(NameOf(operation)) + "(" + arguments + ")";
+    if (keeping_) lines_.push_back(line);
+    recent_[static_cast<std::size_t>(told_++) % kRecent] = std::move(line);
   }
   void Keep(bool keeping) { keeping_ = keeping; }
   bool Keeping() const { return keeping_; }
 
+  // The requests of all operations since the counts began.
+  int Told() const { return told_; }
+  // The one of a number from 1 on; empty when there is none, or it is not among the last kRecent.
+  const std::string& Request(int number) const {
+    static const std::string kNone;
+    if (number < 1 || number > told_ || number <= told_ - static_cast<int>(kRecent)) return kNone;
+    return recent_[static_cast<std::size_t>(number - 1) % kRecent];
+  }
   int Requests(Operation operation) const { return counts_[static_cast<std::size_t>(operation)]; }
   // By exported name; -1 for a name that is no operation's.
   int Requests(std::string_view name) const {
@@ -44,9 +55,14 @@ class RequestLog {
     counts_.fill(0);
     last_.fill({});
     lines_.clear();
+    told_ = 0;
   }
 
  private:
+  static constexpr std::size_t kRecent = 100;
+
+  std::array<std::string, kRecent> recent_;
+  int told_ = 0;
   std::array<int, kOperationNames.size()> counts_ = {};
   std::array<std::string, kOperationNames.size()> last_;
   std::vector<std::string> lines_;

@@ -39,6 +39,8 @@ struct Simulation {
   std::vector<std::string> complaints;       // of commands that waited, oldest first
   std::optional<std::string> next_scenario;  // the file of the trailer to take this one's place
   std::int64_t time = 0;                     // microseconds of the world
+  std::string scenario;                      // the file that the trailer was built from, if any
+  bool connected = false;                    // a program holds a connection
 };
 
 }  // namespace lorimet::simulator

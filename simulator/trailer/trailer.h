@@ -146,6 +146,7 @@ class Trailer {
   const ParameterStore& Parameters() const { return parameters_; }
   const MemoryWords& Memory() const { return memory_; }
   const Noise& Measuring() const { return noise_; }
+  const Defects& Wrong() const { return defects_; }
   // Grows with every change of what outlives the trailer's power.
   std::uint64_t Revision() const {
     return parameters_.Revision() + faults_.Revision() + recorder_.Revision() +
