@@ -30,6 +30,8 @@ HeadlessScreen::HeadlessScreen(HeadlessDesktop& desktop) : FormScreen(desktop), 
 }
 
 BoxButton HeadlessScreen::Stand(const MessageBox& box) {
+  // The last words of a program that has failed: no look runs any more.
+  if (desktop_.life.Failed()) return kBoxOk;
   const unsigned below = std::exchange(buttons_, box.buttons);
   answer_.reset();
   for (std::uint64_t stood = 0; !answer_; stood += kLook) {
@@ -44,6 +46,12 @@ OperatedProgram::OperatedProgram(const std::string& scenario,
                                  const simulator::OperatorHabits& habits)
     : link(scenario), hand(screen, yard, habits) {
   if (!Trailer().ScenarioError().empty()) throw std::runtime_error(Trailer().ScenarioError());
+  std::tm date{};
+  date.tm_year = 2026 - 1900;
+  date.tm_mon = 10;
+  date.tm_mday = 21;
+  date.tm_hour = 15;
+  clock.SetDate(date);
   process.files = {"/launcher"};
   registry.SetText(RegistryHive::kLocalMachine, std::string(kAppPathsKey) + "Hubrest.exe", "",
                    "/launcher");
@@ -73,6 +81,7 @@ void OperatedProgram::Look() {
   desktop.After(kLook, [this] { Look(); });
   const std::uint64_t now = clock.Milliseconds();
   const std::uint64_t before = std::exchange(looked_, now);
+  if (on_look) on_look();
   if (operator_works) hand.Step(static_cast<double>(now - before) / 1000);
 }
 

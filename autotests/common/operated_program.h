@@ -98,6 +98,8 @@ class OperatedProgram {
   simulator::LinkYard yard{link.link};
   simulator::ScriptedOperator hand;
   bool operator_works = true;
+  // Comes with every look, before he does something.
+  std::function<void()> on_look;
 
  private:
   void Look();
