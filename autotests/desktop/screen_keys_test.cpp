@@ -4,6 +4,7 @@
 #include <QDialog>
 #include <QFile>
 #include <QLineEdit>
+#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QRadioButton>
 
@@ -168,6 +169,24 @@ TEST_F(ScreenKeysTest, NoDefaultButtonCommandsTheEcu) {
           << form->Name() << "." << qPrintable(name);
     }
   }
+}
+
+TEST_F(ScreenKeysTest, FieldsThatOnlyShowTakeNoTyping) {
+  int fields = 0;
+  for (Form* form : {static_cast<Form*>(&program.session->main_form),
+                     static_cast<Form*>(&program.faults->fault_list)}) {
+    form->Load();
+    const QWidget* window = desktop.Window(*form);
+    for (const auto* line : window->findChildren<QLineEdit*>()) {
+      EXPECT_TRUE(line->isReadOnly()) << qPrintable(line->objectName());
+      ++fields;
+    }
+    for (const auto* lines : window->findChildren<QPlainTextEdit*>()) {
+      EXPECT_TRUE(lines->isReadOnly()) << qPrintable(lines->objectName());
+      ++fields;
+    }
+  }
+  EXPECT_GT(fields, 20);
 }
 
 TEST_F(ScreenKeysTest, EscapeClosesWhatOnlyShowsAndNothingElse) {

@@ -1,10 +1,10 @@
 // What the library found, while a parameter file stands in its place in the ECU's record.
 #include "parameters/found_configuration.h"
-#include "autotests/places.h"
 
 #include <cstring>
 
 #include "autotests/parameters/wizard_fixture.h"
+#include "autotests/places.h"
 #include "session/session_part.h"
 
 namespace lorimet::testing_support {

@@ -1,5 +1,4 @@
 #include "parameters/parameter_errors.h"
-#include "autotests/places.h"
 
 #include <gtest/gtest.h>
 
@@ -10,6 +9,8 @@
 #include <sstream>
 #include <string>
 #include <utility>
+
+#include "autotests/places.h"
 
 namespace lorimet {
 namespace {

@@ -1,5 +1,4 @@
 #include "autotests/process/running_program.h"
-#include "autotests/places.h"
 
 #include <fcntl.h>
 #include <poll.h>
@@ -15,6 +14,8 @@
 #include <chrono>
 #include <sstream>
 #include <thread>
+
+#include "autotests/places.h"
 
 namespace lorimet {
 namespace {

@@ -1,11 +1,11 @@
 #include "simulator/trailer/scenario.h"
-#include "autotests/places.h"
 
 #include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <utility>
 
+#include "autotests/places.h"
 #include "autotests/simulator/link_fixture.h"
 #include "simulator/trailer/command.h"
 #include "simulator/trailer/persistence.h"

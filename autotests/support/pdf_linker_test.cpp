@@ -1,13 +1,14 @@
 // The vocabulary of the reserved link to a manual.
 #include "support/pdf_linker.h"
-#include "autotests/places.h"
 
 #include <gtest/gtest.h>
 
+#include <sstream>
 #include <string>
 
 #include "adapters/headless/headless_desktop.h"
 #include "adapters/headless/headless_ports.h"
+#include "autotests/places.h"
 #include "support/dictionary.h"
 #include "support/frmPDFDDEForm.h"
 
@@ -43,7 +44,9 @@ TEST_F(PdfLinkerTest, TellsThemInTheLanguage) {
   for (const int language : {kFrench, kSpanish}) {
     dictionary.SetLanguage(language);
     const std::string text = pdf_linker::LaunchFailureText(dictionary);
-    EXPECT_NE(text, english);
+    std::istringstream lines(english);
+    for (std::string line; std::getline(lines, line, '\r'); lines.ignore())
+      EXPECT_EQ(text.find(line), std::string::npos) << line;
     EXPECT_NE(text.find("\r\n1. "), std::string::npos) << text;
     EXPECT_NE(text.find("\r\n2. "), std::string::npos) << text;
     EXPECT_NE(text.find("\r\n3. "), std::string::npos) << text;

@@ -1,5 +1,4 @@
 #include "autotests/translations/translation_rows.h"
-#include "autotests/places.h"
 
 #include <algorithm>
 #include <cctype>
@@ -8,6 +7,7 @@
 #include <utility>
 
 #include "adapters/headless/xml_reader.h"
+#include "autotests/places.h"
 #include "support/text.h"
 
 namespace lorimet::testing_support {
