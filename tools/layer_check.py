@@ -27,7 +27,8 @@ up        An include points down. Nothing in src/ includes simulator/, but for t
           the trailer's operator work (simulator/operator). simulator/trailer includes itself, the
           standard library and src/session/{ecu_data,lorimet32}.h; the other folders of simulator/
           add one another and their platform; simulator/operator also reads the program's screens
-          (src/platform), and only simulator/bench may use Qt.
+          (src/platform). Only the window in simulator/bench may use Qt, not the model under it, and
+          it shares the program's look (src/adapters/qt/qt_style.h).
 missing   An include in double quotes names a file of the project (but for Qt's generated ui_*.h and
           *.moc).
 circle    No module includes itself by way of others; a header with its source is one module. A
@@ -208,6 +209,10 @@ def place(name):
     return "core", parts[1]
 
 
+def is_bench_window(name):
+    return name.startswith("simulator/bench/") and not name.startswith("simulator/bench/model/")
+
+
 def check_toolkit(tree):
     for name, includes in tree.includes.items():
         kind, folder = place(name)
@@ -219,7 +224,7 @@ def check_toolkit(tree):
             elif kind == "adapter":
                 allowed = {"qt": is_qt(header), "headless": False}.get(folder, not is_qt(header))
             elif kind == "simulator":
-                allowed = folder != "trailer" and (folder == "bench" or not is_qt(header))
+                allowed = folder != "trailer" and (is_bench_window(name) or not is_qt(header))
             else:
                 allowed = True
             if not allowed:
@@ -235,7 +240,9 @@ def may_include(name, target):
     if kind == "simulator":
         if target_kind == "simulator":
             return folder != "trailer" or target_folder == "trailer"
-        return target in SIMULATOR_MAY_USE or (folder, target_folder) == ("operator", "platform")
+        return (target in SIMULATOR_MAY_USE or
+                (folder, target_folder) == ("operator", "platform") or
+                (is_bench_window(name) and target == "src/adapters/qt/qt_style.h"))
     if kind == "adapter":
         if target_kind == "adapter":
             return folder == target_folder

@@ -166,6 +166,22 @@ class LayerCheckTest(unittest.TestCase):
         self.include("src/main.cpp", "desktop_program.h", "src/desktop_program.h")
         self.assert_clean()
 
+    def test_only_the_benchs_window_uses_qt_and_the_programs_look(self):
+        self.include("simulator/bench/a.cpp", "QWidget")
+        self.include("simulator/bench/b.cpp", "adapters/qt/qt_style.h",
+                     "src/adapters/qt/qt_style.h")
+        self.include("simulator/bench/c.cpp", "simulator/bench/model/a.h",
+                     "simulator/bench/model/a.h")
+        self.assert_clean()
+        self.include("simulator/bench/model/d.cpp", "QWidget")
+        self.assert_finds("simulator/bench/model/d.cpp:1: toolkit")
+        self.include("simulator/bench/model/d.cpp", "adapters/qt/qt_style.h",
+                     "src/adapters/qt/qt_style.h")
+        self.assert_finds("simulator/bench/model/d.cpp:1: up")
+        self.include("simulator/bench/model/d.cpp", "vector")
+        self.include("simulator/bench/e.cpp", "adapters/qt/b.h", "src/adapters/qt/b.h")
+        self.assert_finds("simulator/bench/e.cpp:1: up")
+
     def test_nothing_in_src_includes_the_simulator(self):
         for name in ("src/session/a.cpp", "src/adapters/qt/a.cpp", "src/tour.cpp"):
             with self.subTest(name):
