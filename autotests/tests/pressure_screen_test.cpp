@@ -257,7 +257,8 @@ TEST_F(PressureScreenTest, ToleratesExactlyTwoPointNine) {
       {1e308, 0.0, "Testing...", ""},
       {kInfinity, 0.0, "Testing...", ""},
       {0.0, -kInfinity, "OK", "Testing..."},
-      {kNaN, kNaN, "OK", "OK"},  // does not differ by more
+      {kNaN, 0.0, "Testing...", ""},  // no number is within nothing
+      {0.0, kNaN, "OK", "Testing..."},
   };
   for (const Row& row : rows) {
     GoTo(4);

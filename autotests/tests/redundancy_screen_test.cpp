@@ -225,6 +225,7 @@ TEST_F(RedundancyScreenTest, ToleratesExactlyFivePointEight) {
       {84.2, 95.8, "Pass", "Pass", 84, 96, 1}, {84.19, 90.0, "Fail", "", 0, 0, 0},
       {95.81, 90.0, "Fail", "", 0, 0, 0},      {90.0, 84.19, "Pass", "Fail", 90, 0, 0},
       {90.0, 95.81, "Pass", "Fail", 90, 0, 0}, {-1.0, 90.0, "Fail", "", 0, 0, 0},
+      {kNaN, 90.0, "Fail", "", 0, 0, 0},       {90.0, kNaN, "Pass", "Fail", 90, 0, 0},
       {1e308, 90.0, "Fail", "", 0, 0, 0},      {90.0, kInfinity, "Pass", "Fail", 90, 0, 0},
   };
   for (const Row& row : rows) {
@@ -249,7 +250,8 @@ TEST_F(RedundancyScreenTest, ToleratesExactlyFivePointEight) {
 
 TEST_F(RedundancyScreenTest, ARoundedPressureThatNoIntegerHoldsIsAnOverflow) {
   GoTo(5);
-  ecu.dBrake1Press.Store(kNaN);  // does not differ by more
+  for (EcuDouble* field : {&ecu.dSupplyPress, &ecu.dServiceBrake, &ecu.dBrake1Press})
+    field->Store(1e308);
   try {
     Tick();
     ADD_FAILURE();

@@ -173,9 +173,10 @@ void frmPressureTest::SendControl(double psi) {
 }
 
 bool frmPressureTest::Judge(int row, double actual, double target) {
-  const bool off = std::abs(actual - target) > kTolerance;
-  lblStatus[row].SetCaption(off ? "Testing..." : "OK");
-  return !off;
+  // False as well for a reading that is no number.
+  const bool within = std::abs(actual - target) <= kTolerance;
+  lblStatus[row].SetCaption(within ? "OK" : "Testing...");
+  return within;
 }
 
 void frmPressureTest::Finish() {

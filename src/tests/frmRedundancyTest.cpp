@@ -149,10 +149,11 @@ void frmRedundancyTest::Compare() {
 }
 
 bool frmRedundancyTest::Judge(Label& label, double actual, double target, std::int16_t& stored) {
-  const bool off = std::abs(actual - target) > kTolerance;
-  if (!off) stored = ToInteger(actual);
-  label.SetCaption(off ? "Fail" : "Pass");
-  return !off;
+  // False as well for a reading that is no number.
+  const bool within = std::abs(actual - target) <= kTolerance;
+  if (within) stored = ToInteger(actual);
+  label.SetCaption(within ? "Pass" : "Fail");
+  return within;
 }
 
 void frmRedundancyTest::Finish() {
