@@ -29,16 +29,23 @@ HeadlessScreen::HeadlessScreen(HeadlessDesktop& desktop) : FormScreen(desktop), 
   desktop.at_box = [this](const MessageBox& box) { return Stand(box); };
 }
 
+unsigned HeadlessScreen::BoxButtons() const {
+  const Form* top = Top();
+  return top == nullptr || top == under_ ? buttons_ : 0;
+}
+
 BoxButton HeadlessScreen::Stand(const MessageBox& box) {
   // The last words of a program that has failed: no look runs any more.
   if (desktop_.life.Failed()) return kBoxOk;
-  const unsigned below = std::exchange(buttons_, box.buttons);
+  const unsigned buttons_below = std::exchange(buttons_, box.buttons);
+  const Form* under_below = std::exchange(under_, Top());
   answer_.reset();
   for (std::uint64_t stood = 0; !answer_; stood += kLook) {
     if (stood > kPatience) throw std::logic_error("nobody answers the box: " + box.text);
     desktop_.Run(kLook);
   }
-  buttons_ = below;
+  buttons_ = buttons_below;
+  under_ = under_below;
   return *std::exchange(answer_, std::nullopt);
 }
 

@@ -46,7 +46,7 @@ class HeadlessScreen : public simulator::FormScreen {
   ~HeadlessScreen() override { desktop_.at_box = nullptr; }
 
  protected:
-  unsigned BoxButtons() const override { return buttons_; }
+  unsigned BoxButtons() const override;
   void AnswerBox(BoxButton answer) override { answer_ = answer; }
 
  private:
@@ -54,6 +54,7 @@ class HeadlessScreen : public simulator::FormScreen {
 
   HeadlessDesktop& desktop_;
   unsigned buttons_ = 0;
+  const Form* under_ = nullptr;  // the box, when it came
   std::optional<BoxButton> answer_;
 };
 

@@ -25,14 +25,16 @@ class FormScreen : public Screen {
   void Press(std::string_view button) override;
 
  protected:
-  // The buttons of the message box on top, bits of BoxButton; 0 while no box stands.
+  // The buttons of the message box on top, bits of BoxButton; 0 while no box stands, or a form over
+  // it.
   virtual unsigned BoxButtons() const = 0;
   virtual void AnswerBox(BoxButton answer) = 0;
   // The user's click on a button of a form.
   virtual void Click(Button& button);
+  // The form on top; null where none but the main screen is.
+  Form* Top() const;
 
  private:
-  Form* Top() const;
   template <typename Kind>
   Kind* Find(std::string_view name, ControlKind kind) const;
   Button* Pressable(std::string_view name) const;

@@ -199,6 +199,8 @@ void ShowSaveError(Dictionary& dictionary, const RuntimeError& error) {
 void SaveEOLReport(const ReportParts& parts) {
   const std::tm now = parts.clock.Now();
   parts.desktop.DoEvents();
+  // The program may have been closed meanwhile.
+  if (!parts.desktop.life.Open()) return;
   if (parts.records.lECUFamily != kTrailerFamily) return;
   const MousePointer pointer = parts.main_form.Pointer();
   parts.main_form.SetMousePointer(MousePointer::kHourglass);

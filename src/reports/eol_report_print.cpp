@@ -228,6 +228,8 @@ void ShowPrintError(const ReportParts& parts, const RuntimeError& error) {
 
 void PrintEOLReport(const ReportParts& parts, std::int16_t nReportKind) {
   parts.desktop.DoEvents();
+  // The program may have been closed meanwhile.
+  if (!parts.desktop.life.Open()) return;
   const MousePointer pointer = parts.main_form.Pointer();
   parts.main_form.SetMousePointer(MousePointer::kArrowHourglass);
   std::string pdf;  // empty where there is a printer
