@@ -250,17 +250,22 @@ void Key(QWidget* window, int key, Qt::KeyboardModifiers modifiers, const QStrin
 
 void Click(QWidget* widget) { Click(widget, widget->rect().center()); }
 
-void Click(QWidget* widget, const QPoint& place) {
+void Button(QWidget* widget, const QPoint& place, QEvent::Type type) {
   const QPointer<QWidget> window(widget->window());
+  if (window->windowHandle() == nullptr) return;
+  const bool down = type == QEvent::MouseButtonPress;
   const QPointF global = widget->mapToGlobal(QPointF(place));
-  const QPointF local = window->mapFromGlobal(global);
   static int time = 0;
-  time += 2000;  // never a double click
-  qt_handleMouseEvent(window->windowHandle(), local, global, Qt::LeftButton, Qt::LeftButton,
-                      QEvent::MouseButtonPress, Qt::NoModifier, time);
-  if (window && window->windowHandle() != nullptr)
-    qt_handleMouseEvent(window->windowHandle(), local, global, Qt::NoButton, Qt::LeftButton,
-                        QEvent::MouseButtonRelease, Qt::NoModifier, time + 10);
+  time += down ? 2000 : 10;  // never a double click
+  qt_handleMouseEvent(window->windowHandle(), window->mapFromGlobal(global), global,
+                      down ? Qt::LeftButton : Qt::NoButton, Qt::LeftButton, type, Qt::NoModifier,
+                      time);
+}
+
+void Click(QWidget* widget, const QPoint& place) {
+  const QPointer<QWidget> alive(widget);
+  Button(widget, place, QEvent::MouseButtonPress);
+  if (alive) Button(widget, place, QEvent::MouseButtonRelease);
 }
 
 }  // namespace road

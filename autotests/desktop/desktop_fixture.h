@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QEvent>
 #include <QPointer>
 #include <QString>
 #include <QWidget>
@@ -17,8 +18,6 @@
 #include "platform/controls.h"
 #include "platform/forms.h"
 #include "platform/runtime_error.h"
-
-class QEvent;
 
 namespace lorimet {
 
@@ -71,6 +70,8 @@ void Key(QWidget* window, int key, Qt::KeyboardModifiers modifiers = Qt::NoModif
          const QString& text = {});
 void Click(QWidget* widget);  // in its middle
 void Click(QWidget* widget, const QPoint& place);
+// The left button alone, pressed or released.
+void Button(QWidget* widget, const QPoint& place, QEvent::Type type);
 
 }  // namespace road
 

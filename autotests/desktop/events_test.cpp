@@ -358,7 +358,7 @@ TEST_F(EventsTest, ResizingTellsTheFormItsSizeAndRaisesOneResize) {
   EXPECT_EQ(form.log, (Log{"resize"}));
   EXPECT_EQ(form.Width(), window->width() * kTwipsPerPixel);
   EXPECT_EQ(form.Height(), window->height() * kTwipsPerPixel);
-  EXPECT_EQ(form.txtNotes.Height(),
+  EXPECT_EQ(form.txtNotes.Place().height,
             Find<QPlainTextEdit>(form, "txtNotes")->height() * kTwipsPerPixel);
 }
 

@@ -52,6 +52,7 @@ void Control::Reset() {
   tab_stop_ = true;
   back_color_ = kColorDefault;
   tool_tip_.clear();
+  placement_ = {};
   changes_ = 0;
   design_ = {};
 }

@@ -55,6 +55,18 @@ constexpr int kAltMask = 4;
 constexpr int kKeyF1 = 112;
 constexpr int kKeyF9 = 120;
 
+// Where a control stands in the container around it, in twips, and the size of its font in points.
+// The window's layout decides until a form places its controls by itself.
+struct Placement {
+  int left = 0;
+  int top = 0;
+  int width = 0;
+  int height = 285;
+  double font_size = 8.25;
+
+  bool operator==(const Placement&) const = default;
+};
+
 // A control as the form's designer drew it. Absent members keep the kind's default.
 struct ControlDesign {
   std::optional<std::string> caption;
@@ -84,6 +96,7 @@ class Control {
     kInterval = 1u << 9,
     kSelection = 1u << 10,
     kTabStop = 1u << 11,
+    kPlacement = 1u << 12,
   };
 
   Control(const Control&) = delete;
@@ -111,6 +124,10 @@ class Control {
   // form sets it to true again.
   bool TabStop() const { return Touch().tab_stop_; }
   void SetTabStop(bool stop) { Assign(&Control::tab_stop_, stop, kTabStop); }
+  const Placement& Place() const { return Touch().placement_; }
+  // From here on the form and no layout keeps the window's controls in their places.
+  void SetPlace(const Placement& place) { Assign(&Control::placement_, place, kPlacement); }
+
   // False for what drops or keeps the page as it is, such as Close and Previous: a field that is
   // left for it is not asked, its on_lost_focus comes when the focus goes on from here. Part of the
   // form's build like the handlers, not of its state.
@@ -129,6 +146,8 @@ class Control {
   unsigned TakeChanges() { return std::exchange(changes_, 0u); }
   void ImportDesign(const ControlDesign& design);
   const ControlDesign& Design() const { return design_; }
+  // Where the window has the control; nothing is to be mirrored.
+  void ViewMeasured(const Placement& place) { placement_ = place; }
   void UserDoubleClick();
   // False when the key was swallowed.
   bool UserKeyDown(KeyEvent key);
@@ -166,6 +185,7 @@ class Control {
   bool tab_stop_ = true;
   Color back_color_ = kColorDefault;
   std::string tool_tip_;
+  Placement placement_;
   unsigned changes_ = 0;
   ControlDesign design_;
 };
@@ -227,22 +247,8 @@ class TextBox : public Control {
   std::function<void()> on_change;
   std::function<void()> on_click;
 
-  // What the window's layout gives the box: its height in twips, its font in points.
-  int Height() const {
-    Touch();
-    return height_;
-  }
-  double FontSize() const {
-    Touch();
-    return font_size_;
-  }
-
   void UserType(const std::string& text);
   void UserClick();
-  void ViewMeasured(int height, double font_size) {
-    height_ = height;
-    font_size_ = font_size;
-  }
 
  protected:
   void Reset() override;
@@ -251,8 +257,6 @@ class TextBox : public Control {
  private:
   std::string text_;
   int max_length_ = 0;
-  int height_ = 285;
-  double font_size_ = 8.25;
   bool all_selected_ = false;
 };
 

@@ -30,6 +30,8 @@ class FormView {
   virtual void SetFocus(Control& control) = 0;
   // Mirrors all that has changed.
   virtual void Flush() = 0;
+  // Gives a window that is still hidden the size and the places that it will be shown with.
+  virtual void LayOut() {}
 };
 
 enum class BoxIcon { kNone, kInformation, kQuestion, kWarning, kCritical };

@@ -101,6 +101,10 @@ void Form::SetHeight(int twips) {
   MarkChanged();
 }
 
+void Form::LayOut() {
+  if (view_ != nullptr) view_->LayOut();
+}
+
 void Form::CenterOnScreen() {
   Move((desktop_.ScreenWidth() - width_) / 2, (desktop_.ScreenHeight() - height_) / 2);
 }

@@ -58,6 +58,9 @@ class Form : public ControlOwner {
   int Height() const { return height_; }
   void Move(int left, int top);
   void SetHeight(int twips);
+  // For a form that is being loaded and goes on to work with the places of its controls: they are
+  // known behind it, with the words that the controls have by then.
+  void LayOut();
   // Left and top to half of what the screen is larger, each cut to a whole twip.
   void CenterOnScreen();
   bool Minimized() const { return minimized_; }

@@ -40,6 +40,9 @@ class HeadlessView : public FormView {
   }
   void Hide() override {}
   void SetFocus(Control& control) override { form_.UserFocus(&control); }
+  void LayOut() override {
+    if (desktop_.on_lay_out) desktop_.on_lay_out(form_);
+  }
   void Flush() override {
     for (Control* control : std::exchange(changed_, {})) {
       if (control->Kind() == ControlKind::kTimer)

@@ -82,6 +82,8 @@ class HeadlessDesktop : public Desktop {
   // Texts that stood on the screen when Repaint was called, by a control that a test watches.
   std::function<void()> on_repaint;
   std::function<void()> on_do_events;
+  // Puts the controls where a window would have them.
+  std::function<void(Form&)> on_lay_out;
 
   // --- Desktop.
   std::unique_ptr<FormView> CreateView(Form& form) override;

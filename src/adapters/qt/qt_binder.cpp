@@ -301,6 +301,8 @@ class TabBinding : public WidgetBinding {
       else
         widget_->addTab(caption);
     }
+    // A bar that is still hidden does not tell the layout.
+    widget_->updateGeometry();
   }
 
   TabStrip& tabs_;

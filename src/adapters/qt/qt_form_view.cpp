@@ -104,10 +104,22 @@ void QtFormView::ImportForm() {
   const bool many_lines = std::ranges::any_of(by_widget_, [](const auto& row) {
     return HasManyLines(row.second->GetControl(), row.first);
   });
-  if (!many_lines) return;
-  // Painting a hidden window lays its inner containers out.
+  if (many_lines) MeasureHidden();
+}
+
+// Painting a hidden window lays its inner containers out.
+void QtFormView::MeasureHidden() {
   window_->grab(QRect(0, 0, 1, 1));
   Measure();
+}
+
+void QtFormView::LayOut() {
+  Flush();
+  if (window_ == nullptr || window_->isVisible()) return;
+  // What the style asks for is part of the widgets' sizes.
+  for (QWidget* widget : window_->findChildren<QWidget*>()) widget->ensurePolished();
+  FitToContents();
+  MeasureHidden();
 }
 
 void QtFormView::WatchWidgets() {

@@ -36,6 +36,7 @@ class QtFormView : public QObject, public FormView {
   void Hide() override;
   void SetFocus(Control& control) override;
   void Flush() override;
+  void LayOut() override;
 
   // The keyboard focus is now on this widget of the window.
   void FocusMoved(QWidget* widget);
@@ -71,6 +72,7 @@ class QtFormView : public QObject, public FormView {
   void FitToContents();
   void MoveWindow();
   void Measure();
+  void MeasureHidden();
   void ReportSize();
   void ReportSizeLater();
   void TellSize();

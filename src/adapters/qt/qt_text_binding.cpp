@@ -1,16 +1,18 @@
 #include "adapters/qt/qt_text_binding.h"
 
-#include <QFontInfo>
+#include <QGuiApplication>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QScrollBar>
 #include <QTextCursor>
 #include <QTextEdit>
+#include <QTimer>
 #include <QVariant>
 #include <algorithm>
+#include <utility>
 
 #include "adapters/qt/qt_text.h"
 #include "adapters/qt/qt_widget_binding.h"
-#include "platform/forms.h"
 
 namespace lorimet {
 namespace {
@@ -34,11 +36,6 @@ class TextBinding : public WidgetBinding {
       if (Read() != text) Write(text);
     }
     if ((changes & (Control::kText | Control::kSelection)) && box_.AllSelected()) SelectAll();
-  }
-
-  void Measure() override {
-    const QWidget& widget = *Widget();
-    box_.ViewMeasured(widget.height() * kTwipsPerPixel, QFontInfo(widget.font()).pointSizeF());
   }
 
   void MouseReleased() override {
@@ -103,13 +100,21 @@ class LineBinding : public TextBinding {
 };
 
 // QPlainTextEdit and QTextEdit, which have no ancestor with these functions.
+//
+// A box whose designer has given it the property "runsOn" shows a text that changes all the time:
+// the view follows the end of it, unless the user has scrolled away, and stands still while
+// something is selected or the mouse is pressed. What runs on could not be read or copied.
 template <typename Edit>
 class PageBinding : public TextBinding {
  public:
   PageBinding(TextBox& box, Edit* edit, const BindingSite& site)
-      : TextBinding(box, edit), edit_(edit) {
+      : TextBinding(box, edit),
+        edit_(edit),
+        lifetime_(site.lifetime),
+        runs_on_(edit->property("runsOn").toBool()) {
     QObject::connect(edit, &Edit::textChanged, site.lifetime,
                      [this, dispatch = site.dispatch] { dispatch([this] { Typed(); }); });
+    if (runs_on_) FollowEnd();
   }
 
   ControlDesign Design() const override {
@@ -121,12 +126,53 @@ class PageBinding : public TextBinding {
 
  protected:
   QString Read() const override { return edit_->toPlainText(); }
-  void Write(const QString& text) override { edit_->setPlainText(text); }
+  void Write(const QString& text) override {
+    if (!runs_on_)
+      edit_->setPlainText(text);
+    else if (HasSelection() || QGuiApplication::mouseButtons() != Qt::NoButton)
+      WriteLater();
+    else
+      WriteRunning(text);
+  }
   void SelectAll() override { edit_->selectAll(); }
   bool HasSelection() const override { return edit_->textCursor().hasSelection(); }
 
  private:
+  static constexpr int kLookAgain = 100;  // ms
+
+  void WriteLater() {
+    if (std::exchange(waits_, true)) return;
+    QTimer::singleShot(kLookAgain, lifetime_, [this] {
+      waits_ = false;
+      Mirror(Control::kText);
+    });
+  }
+
+  // Where the user leaves the bar tells whether he looks at the end; another size of the box moves
+  // it no further from there.
+  void FollowEnd() {
+    QScrollBar* down = edit_->verticalScrollBar();
+    QObject::connect(down, &QScrollBar::valueChanged, lifetime_, [this, down](int place) {
+      if (!writing_) follows_ = place == down->maximum();
+    });
+    QObject::connect(down, &QScrollBar::rangeChanged, lifetime_, [this, down] {
+      if (!writing_ && follows_) down->setValue(down->maximum());
+    });
+  }
+
+  void WriteRunning(const QString& text) {
+    QScrollBar* down = edit_->verticalScrollBar();
+    QScrollBar* right = edit_->horizontalScrollBar();
+    const QPoint place(right->value(), down->value());
+    writing_ = true;
+    edit_->setPlainText(text);
+    down->setValue(follows_ ? down->maximum() : place.y());
+    right->setValue(place.x());
+    writing_ = false;
+  }
+
   void Typed() {
+    if (writing_) return;
     const std::string typed = FromWidgetText(Read());
     if (TooLong(typed) && typed.size() > box_.Text().size())
       Restore();
@@ -147,6 +193,11 @@ class PageBinding : public TextBinding {
   }
 
   Edit* edit_;
+  QObject* lifetime_;
+  bool runs_on_;
+  bool waits_ = false;
+  bool writing_ = false;
+  bool follows_ = true;
 };
 
 }  // namespace

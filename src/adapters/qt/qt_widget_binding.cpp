@@ -1,11 +1,27 @@
 #include "adapters/qt/qt_widget_binding.h"
 
+#include <QFontInfo>
+#include <QLayout>
 #include <QWidget>
+#include <cmath>
 
 #include "adapters/qt/qt_colors.h"
 #include "adapters/qt/qt_text.h"
 
 namespace lorimet {
+namespace {
+
+constexpr double kTwipsPerInch = 1440;
+
+int ToTwips(int pixels, const QWidget& widget) {
+  return static_cast<int>(std::lround(pixels * kTwipsPerInch / widget.logicalDpiY()));
+}
+
+int ToPixels(int twips, const QWidget& widget) {
+  return static_cast<int>(std::lround(twips * widget.logicalDpiY() / kTwipsPerInch));
+}
+
+}  // namespace
 
 WidgetBinding::WidgetBinding(Control& control, QWidget* widget)
     : Binding(control), widget_(widget), focus_policy_(widget->focusPolicy()) {}
@@ -32,6 +48,34 @@ void WidgetBinding::Mirror(unsigned changes) {
     const QString rule = BackColorRule(control.BackColor(), widget_->objectName());
     if (widget_->styleSheet() != rule) widget_->setStyleSheet(rule);
   }
+  if (changes & Control::kPlacement) MirrorPlace();
+}
+
+// A layout would put its widgets back.
+void WidgetBinding::MirrorPlace() {
+  const Placement& place = GetControl().Place();
+  for (QWidget* around = widget_->parentWidget(); around != nullptr;
+       around = around->isWindow() ? nullptr : around->parentWidget())
+    if (QLayout* layout = around->layout()) layout->setEnabled(false);
+  QFont font = widget_->font();
+  if (place.font_size > 0 && font.pointSizeF() != place.font_size) {
+    font.setPointSizeF(place.font_size);
+    widget_->setFont(font);
+  }
+  // What a layout would have kept to.
+  widget_->setMinimumSize(0, 0);
+  widget_->setGeometry(ToPixels(place.left, *widget_), ToPixels(place.top, *widget_),
+                       ToPixels(place.width, *widget_), ToPixels(place.height, *widget_));
+}
+
+void WidgetBinding::Measure() {
+  // Of what its form keeps in place, the form knows more exactly.
+  const QWidget* around = widget_->parentWidget();
+  if (around != nullptr && around->layout() != nullptr && !around->layout()->isEnabled()) return;
+  GetControl().ViewMeasured({ToTwips(widget_->x(), *widget_), ToTwips(widget_->y(), *widget_),
+                             ToTwips(widget_->width(), *widget_),
+                             ToTwips(widget_->height(), *widget_),
+                             QFontInfo(widget_->font()).pointSizeF()});
 }
 
 }  // namespace lorimet

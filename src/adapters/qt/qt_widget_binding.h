@@ -1,4 +1,4 @@
-// What all controls that are widgets have in common: enabled, visible, colour and tool tip.
+// What all controls that are widgets have in common: enabled, visible, colour, tool tip and place.
 #pragma once
 
 #include "adapters/qt/qt_binding.h"
@@ -14,8 +14,11 @@ class WidgetBinding : public Binding {
   QWidget* Widget() const override { return widget_; }
   ControlDesign Design() const override;
   void Mirror(unsigned changes) override;
+  void Measure() override;
 
  private:
+  void MirrorPlace();
+
   QWidget* widget_;
   int focus_policy_;  // the designer's
 };
