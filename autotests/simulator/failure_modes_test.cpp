@@ -19,7 +19,7 @@ TEST_F(FailureModesTest, TheTableNamesEveryModeInItsOrderAndOnce) {
     EXPECT_EQ(FindFailure(facts.name), &facts);
     EXPECT_EQ(&FactsOf(facts.mode), &facts);
   }
-  EXPECT_EQ(FailureTable().back().mode, FailureMode::kIoControlStatus);
+  EXPECT_EQ(FailureTable().back().mode, FailureMode::kMonitorFull);
   EXPECT_EQ(FindFailure("bad weather"), nullptr);
 }
 

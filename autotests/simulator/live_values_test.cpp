@@ -327,25 +327,5 @@ TEST_F(LiveValuesTest, StopLightsNeedTheOptionInEveryByteAndLamps) {
   }
 }
 
-TEST_F(LiveValuesTest, TheMonitorShowsMessagesOfTheTrailerWithAValidChecksum) {
-  ConnectAndRead();
-  std::string text(150, ' ');
-  std::string timing(25, ' ');
-  EXPECT_NE(link_->BusMonitorGetData(text.data(), timing.data(), 0, 0), 0);
-  ASSERT_EQ(link_->BusMonitorOpen(), 0);
-  ASSERT_EQ(link_->BusMonitorGetData(text.data(), timing.data(), 1, 0), 0);
-  EXPECT_EQ(text, std::string(150, ' '));
-  link_->Advance(0.25);
-  ASSERT_EQ(link_->BusMonitorGetData(text.data(), timing.data(), 1, 0), 0);
-  int a = 0, b = 0, c = 0, d = 0;
-  ASSERT_EQ(std::sscanf(text.c_str(), "%d %d %d %d", &a, &b, &c, &d), 4) << text;
-  EXPECT_EQ(a, 137);
-  EXPECT_EQ((a + b + c + d) % 256, 0);
-  EXPECT_EQ(text.size(), 150u);
-  EXPECT_EQ(text.find('\0'), std::string::npos);
-  EXPECT_NE(timing, std::string(25, ' '));
-  EXPECT_EQ(link_->BusMonitorClose(), 0);
-}
-
 }  // namespace
 }  // namespace lorimet::simulator

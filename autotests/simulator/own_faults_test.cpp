@@ -60,6 +60,7 @@ const CauseRow kRows[] = {
     {"", "voltage 9.4", "voltage 12", 251, 12, 2},
     {"", "voltage 16.1", "voltage 12", 251, 3, 2},
     {"", "voltage_source stop_light", "voltage_source permanent", 251, 2, 5},
+    {"", "bus noise 0.02", "bus noise 0", 220, 9, 5},
 };
 
 TEST_F(OwnFaultsTest, EachCauseIsFoundAfterItsTimeStoredWhenGoneAndCountedWhenItComesAgain) {

@@ -28,6 +28,21 @@ std::optional<std::string> ReadWholeFile(const std::filesystem::path& path) {
   return text;
 }
 
+std::filesystem::path PathOf(std::string_view code_page) {
+  // The codes from 0x80 on that Latin-1 does not have; 0 is none.
+  constexpr char16_t kOwn[32] = {0x20AC, 0,      0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
+                                 0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0,      0x017D, 0,
+                                 0,      0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
+                                 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0,      0x017E, 0x0178};
+  std::u16string text;
+  for (const char c : code_page) {
+    const auto code = static_cast<unsigned char>(c);
+    text +=
+        code >= 0x80 && code < 0xA0 && kOwn[code - 0x80] != 0 ? kOwn[code - 0x80] : char16_t{code};
+  }
+  return text;
+}
+
 bool ReplaceFile(const std::filesystem::path& path, const std::string& text) {
   std::error_code error;
   if (path.has_parent_path()) std::filesystem::create_directories(path.parent_path(), error);

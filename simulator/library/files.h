@@ -6,6 +6,7 @@
 #include <functional>
 #include <optional>
 #include <string>
+#include <string_view>
 
 namespace lorimet::simulator {
 
@@ -14,6 +15,9 @@ std::optional<std::string> ReadWholeFile(const std::filesystem::path& path);
 // Replaces the file as a whole, its folders made when missing. A failure is false and leaves the
 // old one.
 bool ReplaceFile(const std::filesystem::path& path, const std::string& text);
+
+// A path that the program has given in code page 1252.
+std::filesystem::path PathOf(std::string_view code_page);
 
 // LORIMET32_SCENARIO; empty for the default trailer.
 std::filesystem::path ScenarioPath();

@@ -1,6 +1,7 @@
 #include "simulator/library/library.h"
 
 #include <algorithm>
+#include <ctime>
 #include <string>
 #include <utility>
 
@@ -14,6 +15,19 @@ std::string ScenarioText(const std::filesystem::path& path) {
   return ReadWholeFile(path).value_or("");
 }
 
+std::string LocalTime() {
+  const std::time_t now = std::time(nullptr);
+  std::tm local{};
+#if defined(_WIN32)
+  localtime_s(&local, &now);
+#else
+  localtime_r(&now, &local);
+#endif
+  char text[32] = "";
+  std::strftime(text, sizeof text, "%Y-%m-%d %H:%M:%S", &local);
+  return text;
+}
+
 }  // namespace
 
 Library::Library() : link_(ScenarioText(scenario_path_)) {
@@ -23,6 +37,7 @@ Library::Library() : link_(ScenarioText(scenario_path_)) {
   if (!state_path_.empty())
     if (const auto state = ReadWholeFile(state_path_)) link_.Restore(*state);
   kept_revision_ = link_.StateRevision();
+  link_.SetCalendar(LocalTime);
   link_.SetStatusSink([this](std::int32_t status) { posted_.push_back(status); });
   link_.SetWaiter([this](double seconds) { Wait(seconds); });
   last_tick_ = std::chrono::steady_clock::now();

@@ -1,5 +1,6 @@
 #include "simulator/library/link.h"
 
+#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -64,6 +65,8 @@ void Link::TakeNextScenario() {
   built.simulation->time = simulation_->time;
   built.simulation->scenario = file;
   built.simulation->connected = simulation_->connected;
+  built.simulation->bus = simulation_->bus;
+  built.simulation->recording = simulation_->recording;
   scenario_ = *text;
   simulation_ = std::move(built.simulation);
   writer_.Follow(*simulation_);
@@ -92,11 +95,9 @@ void Link::Step() {
   simulation_->time += kStepMicroseconds;
   simulation_->failures.Step();
   simulation_->trailer.Step();
+  StepBus();
   if (Connected()) {
     connected_for_ += kStepMicroseconds;
-    const Trailer& trailer = simulation_->trailer;
-    const bool broadcast = Reachable() && !trailer.Diagnosis().ParameterAccess();
-    bus_.Advance(kStepSeconds, broadcast, trailer.Line().Pressure(), trailer.Supply().Pressure());
     StepReading();
     StepVehicle();
     StepStaticRead();
@@ -104,6 +105,33 @@ void Link::Step() {
   }
   RunDueCommands(*simulation_, Connected() ? std::optional(connected_for_) : std::nullopt);
   TakeNextScenario();
+}
+
+// The bus runs whether or not anybody listens; the library hears what the adapter does.
+void Link::StepBus() {
+  Bus& bus = simulation_->bus;
+  const Trailer& trailer = simulation_->trailer;
+  const std::int64_t step = simulation_->time / kStepMicroseconds;
+  simulation_->senders.Step(step, trailer, bus);
+  bus.Step(step * kBitsPerStep, trailer.Measuring());
+  const bool hears = Connected() && simulation_->adapter.present &&
+                     !simulation_->failures.Armed(FailureMode::kCableOut);
+  if (!hears) return;
+  for (const BusMessage& message : bus.Heard()) {
+    if (!monitor_.Add(message)) LoseMessage();
+    log_.Add(message);
+  }
+  log_.Write();
+  simulation_->monitored = monitor_.Size();
+}
+
+// One lost message is told a second, and stands for a while.
+void Link::LoseMessage() {
+  if (until_lost_ <= 0) {
+    Post(kStatusLostMessage);
+    until_lost_ = Microseconds(kSilenceSeconds);
+  }
+  until_healthy_ = Microseconds(kHealthySeconds);
 }
 
 void Link::StepReading() {
@@ -118,18 +146,29 @@ void Link::StepReading() {
 void Link::Read() {
   silence_ = 0;
   simulation_->trailer.Diagnosis().NoteReading();
-  if (simulation_->failures.Strike(FailureMode::kLostMessage)) {
-    if (until_lost_ <= 0) {
-      Post(kStatusLostMessage);
-      until_lost_ = Microseconds(kSilenceSeconds);
-    }
-    until_healthy_ = Microseconds(kHealthySeconds);
-    return;
-  }
+  const bool hit = ExchangeReading();
+  if (simulation_->failures.Strike(FailureMode::kLostMessage) || hit) return LoseMessage();
   writer_.WriteLive(simulation_->trailer.Read());
   if (attained_ || simulation_->failures.Strike(FailureMode::kLinkNotAttained)) return;
   attained_ = true;
   if (link_status_ != nullptr) link_status_->bLinkAttained.Store(1);
+}
+
+// The library's own reading on the bus; true when the noise hits it.
+bool Link::ExchangeReading() {
+  Bus& bus = simulation_->bus;
+  const Trailer& trailer = simulation_->trailer;
+  const auto psi = [](double pressure) {
+    return static_cast<std::uint8_t>(std::clamp(pressure, 0.0, 255.0));
+  };
+  const bool asked_well =
+      !bus.Send(MakeMessage(8, {kDiagnosticTool, kDataLinkEscape, kTrailerBrakes, 0x21, 0x01}),
+                trailer.Measuring());
+  const bool told_well =
+      !bus.Send(MakeMessage(8, {kTrailerBrakes, kDataLinkEscape, kDiagnosticTool, 0x61, 0x01,
+                                psi(trailer.Supply().Pressure()), psi(trailer.Line().Pressure())}),
+                trailer.Measuring());
+  return !asked_well || !told_well;
 }
 
 // The library tells the vehicle anew when the ECU has been back for a while.

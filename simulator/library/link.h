@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <functional>
+#include <initializer_list>
 #include <memory>
 #include <optional>
 #include <span>
@@ -14,7 +15,8 @@
 #include <vector>
 
 #include "session/ecu_data.h"
-#include "simulator/library/bus_traffic.h"
+#include "simulator/library/bus_monitor.h"
+#include "simulator/library/data_log.h"
 #include "simulator/library/record_writer.h"
 #include "simulator/trailer/fault_store.h"
 #include "simulator/trailer/scenario.h"
@@ -42,6 +44,9 @@ class Link {
   explicit Link(std::string_view scenario = {}, StatusSink sink = {});
 
   void SetStatusSink(StatusSink sink) { sink_ = std::move(sink); }
+  // The moment that a data log tells at its head, "2026-11-22 02:30:00"; by default a day on which
+  // the world began.
+  void SetCalendar(std::function<std::string()> calendar) { calendar_ = std::move(calendar); }
   // By default an operation that does not answer lets virtual time pass.
   void SetWaiter(Waiter waiter) { waiter_ = std::move(waiter); }
   // Everything happens on a grid of 10 ms; what is less is carried over.
@@ -141,11 +146,20 @@ class Link {
     return Serve(Request{.operation = operation}, arguments, reach, service);
   }
   std::int32_t AdapterError(const char* protocol, const char* vendor, std::int32_t device);
+  // The bytes that the next service has on the bus; data is what follows its head.
+  void Asks(std::initializer_list<std::uint8_t> head, std::span<const std::uint8_t> data = {});
+  void Exchange(std::int32_t status);
+  bool ExchangeReading();
+  void LoseMessage();
+  std::string SpoilText(std::string text);
+  std::string Moment() const;
+  Status StartRecord(char* file, char* comments);
   std::int32_t ReadBlock(const Request& request, std::uint8_t* count, std::uint8_t* data);
   void Garble(std::span<std::uint8_t> bytes);
   bool Reachable() const;
   void Post(std::int32_t status);
   void Step();
+  void StepBus();
   void StepReading();
   void Read();
   void StepVehicle();
@@ -160,7 +174,11 @@ class Link {
   StatusSink sink_;
   Waiter waiter_;
   RecordWriter writer_;
-  BusTraffic bus_;
+  BusMonitorQueue monitor_;
+  DataLog log_;
+  std::function<std::string()> calendar_;
+  std::vector<std::uint8_t> asked_;     // of a service, as on the bus
+  std::vector<std::uint8_t> answered_;  // what its answer carries
 
   bool attained_ = false;
   std::uint32_t handle_ = 0;
@@ -182,6 +200,7 @@ class Link {
   std::vector<std::uint8_t> last_block_;  // the answers before, for an ECU that repeats itself
   std::uint16_t last_word_ = 0;
   std::uint64_t garbled_ = 0;
+  std::uint64_t flooded_ = 0;
 
   bool fault_locked_ = false;
   std::vector<Fault> locked_faults_;  // as they were at the lock

@@ -1,11 +1,12 @@
 #include "simulator/library/link.h"
 
 #include <algorithm>
-#include <charconv>
+#include <cstdio>
 #include <cstring>
 #include <iterator>
 
 #include "simulator/library/error_texts.h"
+#include "simulator/library/files.h"
 
 namespace lorimet::simulator {
 namespace {
@@ -36,14 +37,6 @@ void PutWhole(char* buffer, std::string_view text) {
   const std::size_t size = std::min(text.size(), kLeastBuffer - 1);
   std::memcpy(buffer, text.data(), size);
   buffer[size] = '\0';
-}
-
-// Seconds with three decimals, with a decimal point in every locale.
-std::string Seconds(double seconds) {
-  char digits[32];
-  const auto [end, error] =
-      std::to_chars(digits, std::end(digits), seconds, std::chars_format::fixed, 3);
-  return {digits, end};
 }
 
 void PutInt(std::uint8_t* at, std::int32_t value) { std::memcpy(at, &value, sizeof value); }
@@ -101,9 +94,34 @@ template <typename Service>
 std::int32_t Link::Serve(const Request& request, const std::string& arguments, Reach reach,
                          Service service) {
   const std::int32_t status = Answer(request, arguments, reach, service);
+  if (reach == Reach::kEcu && Connected()) Exchange(status);
+  asked_.clear();
+  answered_.clear();
   if (const auto failure = simulation_->failures.Strike(FailureMode::kStatusAfter, request))
     Post(failure->value != 0 ? static_cast<std::int32_t>(failure->value) : kStatusLinkError);
   return status;
+}
+
+void Link::Asks(std::initializer_list<std::uint8_t> head, std::span<const std::uint8_t> data) {
+  asked_.assign(head);
+  asked_.insert(asked_.end(), data.begin(), data.end());
+}
+
+// A service and its answer on the bus. An adapter that has no cable to it sends nothing there.
+void Link::Exchange(std::int32_t status) {
+  constexpr std::uint8_t kTransfer = 0x36;  // of what has no bytes of its own here
+  constexpr std::uint8_t kRefused = 0x7F;
+  constexpr std::uint8_t kPositive = 0x40;  // more than the service
+  if (!simulation_->adapter.present || simulation_->failures.Armed(FailureMode::kCableOut)) return;
+  Bus& bus = simulation_->bus;
+  const Noise& noise = simulation_->trailer.Measuring();
+  if (asked_.empty()) asked_ = {kTransfer};
+  SendEscape(bus, noise, kDiagnosticTool, kTrailerBrakes, asked_);
+  if (status == kNoAnswer) return;
+  std::vector<std::uint8_t> answer = {static_cast<std::uint8_t>(asked_[0] + kPositive)};
+  answer.insert(answer.end(), answered_.begin(), answered_.end());
+  if (status != kDone) answer = {kRefused, asked_[0], static_cast<std::uint8_t>(status)};
+  SendEscape(bus, noise, kTrailerBrakes, kDiagnosticTool, answer);
 }
 
 // --- Connection ---------------------------------------------------------------------------------
@@ -163,7 +181,10 @@ std::int32_t Link::Disconnect() {
     fault_locked_ = false;
     link_status_ = nullptr;
     writer_.Attach(nullptr);
-    bus_.Close();
+    monitor_.Close();
+    log_.Stop();
+    simulation_->recording = false;
+    simulation_->monitored = 0;
     return kDone;
   });
 }
@@ -193,6 +214,7 @@ std::int32_t Link::GetErrorText(std::int32_t code, char* buffer, std::int32_t le
 // --- The ECU as a whole -------------------------------------------------------------------------
 
 std::int32_t Link::ResetECU() {
+  Asks({0x11, 0x01});
   return Serve(Operation::ResetECU, "", Reach::kEcu, [&]() -> Status {
     if (simulation_->failures.Strike(FailureMode::kResetRefused)) return kConditionsNotCorrect;
     simulation_->trailer.Reset();
@@ -216,6 +238,7 @@ std::int32_t Link::Trailer_ABS_QOR_ReadStaticData() {
 // --- Faults -------------------------------------------------------------------------------------
 
 std::int32_t Link::ClearAllFaults() {
+  Asks({0x14, 0xFF, 0xFF});
   return Serve(Operation::ClearAllFaults, "", Reach::kEcu, [&]() -> Status {
     FailurePlan& failures = simulation_->failures;
     if (failures.Strike(FailureMode::kClearRefused)) return kConditionsNotCorrect;
@@ -225,6 +248,7 @@ std::int32_t Link::ClearAllFaults() {
 }
 
 std::int32_t Link::FaultLock() {
+  Asks({0x18, 0x00, 0xFF, 0xFF});
   return Serve(Operation::FaultLock, "", Reach::kEcu, [&]() -> Status {
     if (fault_locked_) return kBusy;
     if (simulation_->failures.Strike(FailureMode::kFaultLockRefused)) return kConditionsNotCorrect;
@@ -280,16 +304,31 @@ std::int32_t Link::FaultUnlock() {
 
 std::int32_t Link::BusMonitorOpen() {
   return Serve(Operation::BusMonitorOpen, "", Reach::kLibrary, [&] {
-    bus_.Open();
+    monitor_.Open(simulation_->bus.Now());
     return kDone;
   });
 }
 
 std::int32_t Link::BusMonitorClose() {
   return Serve(Operation::BusMonitorClose, "", Reach::kLibrary, [&] {
-    bus_.Close();
+    monitor_.Close();
+    simulation_->monitored = 0;
     return kDone;
   });
+}
+
+// What the monitor's text is when a failure strikes; the buffer goes on behind the field.
+std::string Link::SpoilText(std::string text) {
+  FailurePlan& failures = simulation_->failures;
+  const auto filled = [&text](std::size_t length) {
+    std::string long_text;
+    while (long_text.size() < length) long_text += text + " ";
+    return long_text.substr(0, length);
+  };
+  if (failures.Strike(FailureMode::kMonitorLong)) return filled(2 * kMonitorText);
+  if (failures.Strike(FailureMode::kMonitorFull)) return filled(kMonitorText + 1);
+  if (failures.Strike(FailureMode::kMonitorControl)) return "\x07" + text + "\r\n\t\x7F";
+  return text;
 }
 
 std::int32_t Link::BusMonitorGetData(char* text, char* timing, std::int32_t showIdleTime,
@@ -297,30 +336,72 @@ std::int32_t Link::BusMonitorGetData(char* text, char* timing, std::int32_t show
   const std::string arguments = std::to_string(showIdleTime) + ", " + std::to_string(showTimestamp);
   return Serve(Operation::BusMonitorGetData, arguments, Reach::kLibrary, [&]() -> Status {
     BusMessage message;
-    if (!bus_.IsOpen()) return kConditionsNotCorrect;
-    if (!bus_.Take(message)) return kDone;
-    PutText(text, kMonitorText, message.text);
-    std::string words;
-    if (showIdleTime != 0) words += " " + Seconds(message.idle);
-    if (showTimestamp != 0) words += " " + Seconds(message.time);
-    PutText(timing, kMonitorTiming, words);
+    if (!monitor_.IsOpen()) return kConditionsNotCorrect;
+    if (!monitor_.Take(message)) {
+      if (!simulation_->bus.Flood()) return kDone;
+      message = Bus::Filler(++flooded_);
+      message.start = simulation_->bus.Now();
+    }
+    simulation_->monitored = monitor_.Size();
+    const std::string words = SpoilText(TextOf(message));
+    PutText(text, words.size(), words);
+    std::string times;
+    if (showIdleTime != 0) times += " " + SecondsOf(message.idle);
+    if (showTimestamp != 0) times += " " + monitor_.StampOf(message);
+    PutText(timing, kMonitorTiming, times);
     return kDone;
   });
 }
 
-// The recording of the monitor and the transfers are not part of this trailer's link.
+std::string Link::Moment() const {
+  if (calendar_) return calendar_();
+  const std::int64_t seconds = simulation_->time / 1'000'000;
+  char text[40];
+  std::snprintf(text, sizeof text, "2000-01-01 %02d:%02d:%02d",
+                static_cast<int>(seconds / 3600 % 24), static_cast<int>(seconds / 60 % 60),
+                static_cast<int>(seconds % 60));
+  return text;
+}
+
+Status Link::StartRecord(char* file, char* comments) {
+  if (log_.Running()) return kBusy;
+  const auto& renamed = simulation_->recording_renamed;
+  const std::string name = renamed ? renamed->first : Text(file);
+  std::string head = renamed ? renamed->second : Text(comments);
+  if (!head.empty() && !head.ends_with('\n')) head += "\r\n";
+  const SystemFacts& system = FactsOf(simulation_->trailer.Setup().system);
+  head += "---- " + Moment() + " " + std::string(system.name) + "\r\n";
+  if (name.empty() || !log_.Start(PathOf(name), head, simulation_->bus.Now())) return kOutOfRange;
+  if (renamed) {
+    PutWhole(file, renamed->first);
+    PutWhole(comments, renamed->second);
+  }
+  return kDone;
+}
+
 std::int32_t Link::BusMonitorStartRecord(char* file, char* comments, std::int32_t zero) {
   return Serve(Operation::BusMonitorStartRecord,
                Quoted(file) + ", " + Quoted(comments) + ", " + std::to_string(zero),
-               Reach::kLibrary, [] { return kCommandNotSupported; });
+               Reach::kLibrary, [&] {
+                 const Status status = StartRecord(file, comments);
+                 simulation_->recording = log_.Running();
+                 return status;
+               });
 }
 
 std::int32_t Link::BusMonitorStopRecord() {
-  return Serve(Operation::BusMonitorStopRecord, "", Reach::kLibrary,
-               [] { return kCommandNotSupported; });
+  return Serve(Operation::BusMonitorStopRecord, "", Reach::kLibrary, [&]() -> Status {
+    if (!log_.Running()) return kConditionsNotCorrect;
+    // What the disk does not take is not given up as long as somebody can make room on it.
+    if (!log_.Write()) return kOutOfRange;
+    log_.Stop();
+    simulation_->recording = false;
+    return kDone;
+  });
 }
 
 std::int32_t Link::Trailer_ABS_QOR_DeleteODRData(std::uint8_t selector) {
+  Asks({0x31, 0x99, selector});
   return Serve(Operation::Trailer_ABS_QOR_DeleteODRData, HexByte(selector), Reach::kEcu,
                [&] { return simulation_->trailer.DeleteRecorderData(selector); });
 }
@@ -345,11 +426,13 @@ std::int32_t Link::Trailer_OVG_ExportODRData(char* file) {
 // --- Session and services -----------------------------------------------------------------------
 
 std::int32_t Link::Trailer_ABS_KWP_StartSession(std::uint8_t session) {
+  Asks({0x10, session});
   return Serve(Operation::Trailer_ABS_KWP_StartSession, HexByte(session), Reach::kEcu,
                [&] { return simulation_->trailer.Diagnosis().Start(session); });
 }
 
 std::int32_t Link::Trailer_ABS_KWP_StopSession() {
+  Asks({0x20});
   return Serve(Operation::Trailer_ABS_KWP_StopSession, "", Reach::kEcu, [&] {
     simulation_->trailer.Diagnosis().Stop();
     return kDone;
@@ -357,11 +440,13 @@ std::int32_t Link::Trailer_ABS_KWP_StopSession() {
 }
 
 std::int32_t Link::Trailer_ABS_KWP_Password() {
+  Asks({0x27, 0x02});
   return Serve(Operation::Trailer_ABS_KWP_Password, "", Reach::kEcu,
                [&] { return simulation_->trailer.Diagnosis().Password(); });
 }
 
 std::int32_t Link::Trailer_ABS_KWP_SwitchDiagMode(std::uint8_t mode) {
+  Asks({0x10, 0x80, mode});
   return Serve(Operation::Trailer_ABS_KWP_SwitchDiagMode, HexByte(mode), Reach::kEcu,
                [&] { return simulation_->trailer.Diagnosis().Permit(false); });
 }
@@ -373,6 +458,7 @@ std::int32_t Link::Trailer_ABS_KWP_StartRoutineByLocId(std::uint8_t id, std::uin
   constexpr std::uint8_t kSelectBrakeMode = 0x37;
   const auto bytes = Bytes(data, count);
   Request request{.operation = Operation::Trailer_ABS_KWP_StartRoutineByLocId, .routine = id};
+  Asks({0x31, id}, bytes);
   if (id == kSetPressure && !bytes.empty()) request.channel = bytes[0];
   if (id == kSelectBrakeMode && bytes.size() > 2) request.mode = bytes[2];
   return Serve(request, HexByte(id) + ", " + std::to_string(count) + ", " + HexBytes(bytes),
@@ -388,6 +474,7 @@ std::int32_t Link::Trailer_ABS_KWP_WriteMemoryByLocId(std::uint8_t id, std::uint
                                                       std::uint8_t* data) {
   const auto bytes = Bytes(data, count);
   const Request request{.operation = Operation::Trailer_ABS_KWP_WriteMemoryByLocId, .block = id};
+  Asks({0x3B, id}, bytes);
   return Serve(request, HexByte(id) + ", " + std::to_string(count) + ", " + HexBytes(bytes),
                Reach::kEcu, [&]() -> Status {
                  FailurePlan& failures = simulation_->failures;
@@ -404,6 +491,7 @@ std::int32_t Link::Trailer_ABS_KWP_WriteMemoryByAddress(std::uint8_t high, std::
   const std::uint32_t address = Address(high, middle, low);
   const Request request{.operation = Operation::Trailer_ABS_KWP_WriteMemoryByAddress,
                         .address = address};
+  Asks({0x3D, high, middle, low, count}, bytes);
   return Serve(request,
                HexByte(high) + ", " + HexByte(middle) + ", " + HexByte(low) + ", " +
                    std::to_string(count) + ", " + HexBytes(bytes),
@@ -416,6 +504,7 @@ std::int32_t Link::Trailer_ABS_KWP_ReadMemoryByAddress(std::uint8_t high, std::u
   const std::uint32_t address = Address(high, middle, low);
   const Request request{.operation = Operation::Trailer_ABS_KWP_ReadMemoryByAddress,
                         .address = address};
+  Asks({0x23, high, middle, low, 2});
   return Serve(request, HexByte(high) + ", " + HexByte(middle) + ", " + HexByte(low), Reach::kEcu,
                [&]() -> Status {
                  FailurePlan& failures = simulation_->failures;
@@ -427,6 +516,7 @@ std::int32_t Link::Trailer_ABS_KWP_ReadMemoryByAddress(std::uint8_t high, std::u
                                          static_cast<std::uint8_t>(told & 0xFF)};
                  if (failures.Strike(FailureMode::kAnswerGarbage, request)) Garble(bytes);
                  last_word_ = word;
+                 answered_.assign(std::begin(bytes), std::end(bytes));
                  if (wordHigh != nullptr) *wordHigh = bytes[0];
                  if (wordLow != nullptr) *wordLow = bytes[1];
                  return kDone;
@@ -438,6 +528,7 @@ std::int32_t Link::Trailer_ABS_KWP_IOControlByLocId(std::uint8_t id, std::uint8_
   // The buffer takes the answer, which is longer than the request's count.
   constexpr std::size_t kAnswer = 4;
   const Request request{.operation = Operation::Trailer_ABS_KWP_IOControlByLocId};
+  Asks({0x30, id}, Bytes(data, count));
   return Serve(request,
                HexByte(id) + ", " + std::to_string(count) + ", " + HexBytes(Bytes(data, count)),
                Reach::kEcu, [&]() -> Status {
@@ -479,6 +570,7 @@ std::int32_t Link::ReadBlock(const Request& request, std::uint8_t* count, std::u
   }
   if (failures.Strike(FailureMode::kAnswerLong, request)) bytes.resize(kReadBuffer, 0xEE);
   std::copy(bytes.begin(), bytes.end(), data);
+  answered_ = bytes;
   *count = static_cast<std::uint8_t>(std::min<std::size_t>(bytes.size(), 255));
   // The library learns the vehicle from these parameters, too.
   if (bytes == simulation_->trailer.Parameters().Read(kEol1)) writer_.WriteVehicleAndSystem();
@@ -488,10 +580,12 @@ std::int32_t Link::ReadBlock(const Request& request, std::uint8_t* count, std::u
 std::int32_t Link::Trailer_OVG_ReadDataByLocId(std::uint8_t id, std::uint8_t* count,
                                                std::uint8_t* data) {
   const Request request{.operation = Operation::Trailer_OVG_ReadDataByLocId, .block = id};
+  Asks({0x21, id});
   return Serve(request, HexByte(id), Reach::kEcu, [&] { return ReadBlock(request, count, data); });
 }
 
 std::int32_t Link::Trailer_OVG_StopLightActivation(std::int32_t trailer, std::int32_t state) {
+  Asks({0x31, 0x98, static_cast<std::uint8_t>(trailer), static_cast<std::uint8_t>(state)});
   return Serve(Operation::Trailer_OVG_StopLightActivation,
                std::to_string(trailer) + ", " + std::to_string(state), Reach::kEcu, [&] {
                  simulation_->trailer.ActivateStopLights(trailer, state);

@@ -114,6 +114,36 @@ std::string RunRelease(Simulation& s, const Words& words) {
   return {};
 }
 
+std::string RunBus(Simulation& s, const Words& words) {
+  if (words[0] == "flood") {
+    const auto on = words.size() == 1 ? 1 : ChooseSwitch(words[1]);
+    if (!on) return BadValue(words[1]);
+    s.bus.SetFlood(*on != 0);
+    return {};
+  }
+  if (words[0] != "noise" || words.size() != 2) return BadValue(words.back());
+  double share = 0;
+  std::string error = ReadNumber(words[1], 0, 1, share);
+  if (!error.empty()) return error;
+  s.bus.SetNoise(share);
+  s.trailer.SetBusNoise(share);
+  return {};
+}
+
+std::string RunBusLoad(Simulation& s, const Words& words) {
+  const auto full = Choose(words[0], {{"normal", 0}, {"full", 1}});
+  if (!full) return BadValue(words[0]);
+  s.bus.SetFull(*full != 0);
+  return {};
+}
+
+std::string RunRecord(Simulation& s, const Words& words) {
+  if (words[0] != "renames" || words.size() == 2) return BadValue(words.back());
+  s.recording_renamed.reset();
+  if (words.size() == 3) s.recording_renamed.emplace(words[1], words[2]);
+  return {};
+}
+
 constexpr CommandRow kRows[] = {
     {"client_id", 1, 1, "0..127", nullptr, RunClientId},
     {"adapter", 1, 2, "on|off|vendor VALUE|protocol VALUE|device VALUE", nullptr, RunAdapter},
@@ -125,6 +155,9 @@ constexpr CommandRow kRows[] = {
      "[value=NUMBER] [times=N|once|always] [skip=N] [for=SECONDS]",
      nullptr, RunFailure},
     {"heal", 1, 1, "NAME|all", nullptr, RunHeal},
+    {"bus", 1, 2, "noise SHARE|flood [on|off]", nullptr, RunBus},
+    {"bus_load", 1, 1, "normal|full", nullptr, RunBusLoad},
+    {"record", 1, 3, "renames [FILE COMMENTS]", nullptr, RunRecord},
     {"field", 2, 2, "NAME[(INDEX)] VALUE|none", nullptr, RunField},
     {"release", 1, 1, "NAME[(INDEX)]|all", nullptr, RunRelease},
 };

@@ -157,6 +157,13 @@ std::string RunSurface(Simulation& s, const Words& words) {
   return {};
 }
 
+std::string RunTowingVehicle(Simulation& s, const Words& words) {
+  const auto on = ChooseSwitch(words[0]);
+  if (!on) return BadValue(words[0]);
+  s.senders.SetTowingVehicle(*on != 0);
+  return {};
+}
+
 std::string RunDefect(Simulation& s, const Words& words) {
   return PutDefect(s.trailer.Wrong(), words);
 }
@@ -195,6 +202,7 @@ constexpr CommandRow kRows[] = {
     {"drive", 1, 1, "MPH|stop", nullptr, RunDrive},
     {"lateral", 1, 1, "G", nullptr, RunLateral},
     {"surface", 1, 1, "dry|ice", nullptr, RunSurface},
+    {"towing_vehicle", 1, 1, "on|off", nullptr, RunTowingVehicle},
     {"defect", 1, 6, "NAME [WHERE] [OPTIONS]", nullptr, RunDefect},
     {"repair", 1, 1, "NAME|all", nullptr, RunRepair},
     {"noise", 1, 1, "on|off|seed=N", nullptr, RunNoise},

@@ -46,6 +46,10 @@ const std::vector<FailureFacts>& FailureTable() {
       {kStatusAfter, "status_after", "the status value (-100) is posted when the call returns"},
       {kIoControlShort, "io_control_short", "IOControl writes nothing into the buffer"},
       {kIoControlStatus, "io_control_status", "IOControl is done and answers the value (1)"},
+      {kMonitorLong, "monitor_long", "a monitored message is twice as long as its field"},
+      {kMonitorControl, "monitor_control", "a monitored message has control characters"},
+      {kMonitorFull, "monitor_full",
+       "a monitored message fills its field and the place of the NUL behind it"},
   };
   return table;
 }

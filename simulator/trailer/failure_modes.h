@@ -48,6 +48,9 @@ enum class FailureMode {
   kStatusAfter,
   kIoControlShort,
   kIoControlStatus,
+  kMonitorLong,
+  kMonitorControl,
+  kMonitorFull,
 };
 
 struct FailureFacts {

@@ -52,6 +52,7 @@ constexpr CauseFacts kTable[] = {
     {kVoltsLow, 251, 12, 2, kWatched},
     {kVoltsHigh, 251, 3, 2, kWatched},
     {kStopLightPower, 251, 2, 5, kWatched},
+    {kBusNoise, 220, 9, 5, kWatched},
     {kChecksum, 253, 12, 0, kStart},
     {kParameters, 253, 2, 0, kStart},
     {kStartUp, 253, 14, 0, kStart},

@@ -57,6 +57,7 @@ enum class Cause {
   kVoltsLow,
   kVoltsHigh,
   kStopLightPower,
+  kBusNoise,
   kChecksum,
   kParameters,
   kStartUp,

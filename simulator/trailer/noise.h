@@ -17,6 +17,7 @@ enum class NoiseField : std::uint64_t {
   kHeight,
   kDropOut,  // four fields, one a sensor
   kGarbage = 16,
+  kBus,
 };
 
 class Noise {

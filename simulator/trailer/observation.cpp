@@ -144,6 +144,13 @@ Seen LookRequest(const Simulation& s, const Words& words) {
 // This trailer's link moves no recorder data yet.
 Seen LookTransfer(const Simulation&, const Words&) { return Told("none"); }
 
+Seen LookBus(const Simulation& s, const Words& words) {
+  if (words[0] == "sent") return Told(std::to_string(s.bus.Sent()));
+  if (words[0] == "waiting") return Told(std::to_string(s.bus.Waiting()));
+  if (words[0] == "monitored") return Told(std::to_string(s.monitored));
+  return Wrong(words[0]);
+}
+
 struct Row {
   std::string_view name;
   std::size_t arguments;
@@ -196,6 +203,9 @@ constexpr Row kRows[] = {
     {"broadcast", 0, "",
      LORIMET32_SEE(
          Text(s.trailer.Answering() && !s.trailer.Diagnosis().ParameterAccess(), "on", "off"))},
+    {"towing_vehicle", 0, "", LORIMET32_SEE(Text(s.senders.TowingVehicle(), "on", "off"))},
+    {"bus", 1, "sent|waiting|monitored", LookBus},
+    {"recording", 0, "", LORIMET32_SEE(Text(s.recording, "on", "off"))},
     {"odr", 1, "level1|level2|stop_light|abs", LookOdr},
     {"transfer", 0, "", LookTransfer},
     {"faults", 0, "", LORIMET32_SEE(std::to_string(s.trailer.Faults().Faults().size()))},

@@ -5,8 +5,11 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
+#include "simulator/trailer/bus.h"
+#include "simulator/trailer/bus_senders.h"
 #include "simulator/trailer/failure_modes.h"
 #include "simulator/trailer/record_fields.h"
 #include "simulator/trailer/request_log.h"
@@ -27,6 +30,8 @@ struct Simulation {
   explicit Simulation(const TrailerSetup& setup) : trailer(setup) {}
 
   Trailer trailer;
+  Bus bus;
+  BusSenders senders;
   FailurePlan failures;
   FieldOverrides fields;
   AdapterDemands adapter;
@@ -34,6 +39,10 @@ struct Simulation {
   Schedule schedule;
   std::optional<std::string> answered_vendor;  // written over the text given to Connect
   std::optional<std::string> answered_protocol;
+  // What the library makes of the two texts of a data log, when it answers that it records.
+  std::optional<std::pair<std::string, std::string>> recording_renamed;
+  bool recording = false;     // a data log runs
+  std::size_t monitored = 0;  // messages that wait in the monitor
   std::int32_t client_id = 0;
   std::vector<std::int32_t> statuses;        // to be posted at the next chance
   std::vector<std::string> complaints;       // of commands that waited, oldest first

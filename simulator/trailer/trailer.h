@@ -95,6 +95,8 @@ class Trailer {
   void SetEndOfLineFlag(std::uint8_t value);
   void SetCalibrated(bool calibrated);
   void SetStartUpRequired(bool required) { start_up_required_ = required; }
+  // The share of messages on the bus that noise spoils.
+  void SetBusNoise(double share) { bus_noise_ = share; }
   void SetWord(std::uint32_t address, std::uint16_t word);
 
   // --- What a person can see.
@@ -225,6 +227,7 @@ class Trailer {
   std::array<int, 2> leaning_ = {};  // steps above the lateral levels 1 and 2
   std::array<bool, kPositions> slipping_ = {};
   std::uint8_t end_of_line_flag_ = kEndOfLineNotPassed;
+  double bus_noise_ = 0;
   bool was_powered_ = true;
   bool stop_light_was_on_ = false;
   bool parking_brake_ = false;

@@ -202,6 +202,7 @@ CausesStanding Trailer::Causes() const {
   put(Cause::kVoltsLow, electrics_.Volts() < kLowVolts);
   put(Cause::kVoltsHigh, electrics_.Volts() > kHighVolts);
   put(Cause::kStopLightPower, electrics_.Source() == VoltageSource::kStopLight);
+  put(Cause::kBusNoise, bus_noise_ > 0.01);
   return standing;
 }
 
