@@ -3126,6 +3126,14 @@ frenado&#13;
         <translation>Opciones</translation>
     </message>
     <message>
+        <source>Data Log</source>
+        <translation>Registro de datos</translation>
+    </message>
+    <message>
+        <source>Display</source>
+        <translation>Visualización</translation>
+    </message>
+    <message>
         <source>Data Log File Information</source>
         <translation>Archivo del registro de datos</translation>
     </message>

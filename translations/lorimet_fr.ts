@@ -3126,6 +3126,14 @@ freinage&#13;
         <translation>Options</translation>
     </message>
     <message>
+        <source>Data Log</source>
+        <translation>Journal de données</translation>
+    </message>
+    <message>
+        <source>Display</source>
+        <translation>Affichage</translation>
+    </message>
+    <message>
         <source>Data Log File Information</source>
         <translation>Fichier du journal de données</translation>
     </message>

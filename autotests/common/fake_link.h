@@ -34,6 +34,7 @@ class FakeLink : public LinkLibrary {
   std::function<std::int32_t(std::uint8_t id, std::uint8_t* count, std::uint8_t* data)> read_block;
   // What happens while a call runs, by its entry in `calls`.
   std::function<void(const std::string& call)> on_call;
+  std::deque<std::string> bus_messages;  // that the monitor gets, one a call
   std::function<void()> on_connect;
   std::function<void()> on_disconnect;
   std::function<void()> on_static_read;
@@ -92,8 +93,11 @@ class FakeLink : public LinkLibrary {
   std::int32_t FaultUnlock() override { return Answer("FaultUnlock"); }
   std::int32_t BusMonitorOpen() override { return Answer("BusMonitorOpen"); }
   std::int32_t BusMonitorClose() override { return Answer("BusMonitorClose"); }
-  std::int32_t BusMonitorGetData(char*, char*, std::int32_t, std::int32_t) override {
-    return Answer("BusMonitorGetData");
+  std::int32_t BusMonitorGetData(char* text, char*, std::int32_t, std::int32_t) override {
+    if (bus_messages.empty()) return Answer("BusMonitorGetData");
+    std::memcpy(text, bus_messages.front().data(), bus_messages.front().size());
+    bus_messages.pop_front();
+    return 0;
   }
   std::int32_t BusMonitorStartRecord(char* file, char* comments, std::int32_t zero) override {
     return Answer("BusMonitorStartRecord",

@@ -12,6 +12,7 @@
 
 #include "autotests/desktop/screens_fixture.h"
 #include "autotests/places.h"
+#include "monitor/monitor_part.h"
 
 namespace lorimet {
 namespace {
@@ -59,7 +60,9 @@ class ScreenKeysTest : public ScreensTest {
             &program.support->about,
             &program.support->not_built,
             &program.parameters->load_sensing_page,
-            &program.parameters->overturn_guard_page};
+            &program.parameters->overturn_guard_page,
+            &program.monitor->screen,
+            &program.monitor->options};
   }
 };
 

@@ -2,7 +2,10 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <filesystem>
+#include <sstream>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "autotests/process/running_program.h"
@@ -157,6 +160,61 @@ TEST_F(ProgramLinkTest, ARestartDisconnectsAndReadsAnew) {
   wanted.insert(wanted.end(), kStartOperations.begin(), kStartOperations.end());
   EXPECT_EQ(Record(), wanted);
   EXPECT_EQ(Requests()["Disconnect"], 1);
+}
+
+// A data log as its description says: comments, a head, and a line for each message.
+struct DataLog {
+  std::string comments;
+  int messages = 0;
+  int wrong = 0;  // whose bytes do not add up to 0
+};
+
+DataLog ReadDataLog(const std::filesystem::path& path) {
+  DataLog log;
+  std::istringstream lines(ReadFile(path));
+  bool in_head = true;
+  for (std::string line; std::getline(lines, line);) {
+    if (in_head && !line.starts_with("---- ")) log.comments += line + "\n";
+    if (!std::exchange(in_head, in_head && !line.starts_with("---- "))) {
+      std::istringstream words(line);
+      double stamp = -1, idle = -1;
+      words >> stamp >> idle;
+      int sum = 0, bytes = 0;
+      for (int byte = 0; words >> byte; ++bytes) sum += byte;
+      ++log.messages;
+      log.wrong += sum % 256 != 0 || bytes < 3 || stamp < 0 || idle < 0.001 ? 1 : 0;
+    }
+  }
+  return log;
+}
+
+TEST_F(ProgramLinkTest, MonitorsTheDataLinkAndRecordsItIntoAFileThatReadsBack) {
+  const std::string path = folder / "log.txt";
+  Trailer("record renames \"" + path + "\" \"from the yard\"");
+  Run run(*this, "run");
+  ASSERT_TRUE(IsConnected(run));
+  ASSERT_TRUE(run.Tell("trigger frmZeltMain mnuUtility_1"));
+  ASSERT_TRUE(run.ShowsWindow("frmBusMonitor"));
+  ASSERT_TRUE(run.Tell("click frmBusMonitor cmdDatalog"));
+  EXPECT_TRUE(run.Shows("frmBusMonitor", ".", "windowTitle", "Bus Monitor: " + path));
+  EXPECT_EQ(run.Get("frmBusMonitor", "cmdOptions", "enabled"), "false");
+  EXPECT_TRUE(Eventually([&] { return ReadDataLog(path).messages >= 60; }));
+  const std::string shown = run.Get("frmBusMonitor", "txtMonitor", "plainText");
+  EXPECT_NE(shown.find("  128 190 "), std::string::npos) << shown;
+  ASSERT_TRUE(run.Tell("click frmBusMonitor cmdDatalog"));
+  EXPECT_TRUE(run.Shows("frmBusMonitor", ".", "windowTitle", "Bus Monitor"));
+  const DataLog log = ReadDataLog(path);
+  EXPECT_EQ(log.comments, "from the yard\r\n");
+  EXPECT_GE(log.messages, 60);
+  EXPECT_EQ(log.wrong, 0);
+  ASSERT_TRUE(run.Tell("click frmBusMonitor cmdExit"));
+  ASSERT_TRUE(run.ShowsNoWindow("frmBusMonitor"));
+  auto requests = Requests();
+  EXPECT_EQ(requests["BusMonitorOpen"], 1);
+  EXPECT_EQ(requests["BusMonitorStartRecord"], 1);
+  EXPECT_EQ(requests["BusMonitorStopRecord"], 1);
+  EXPECT_EQ(requests["BusMonitorClose"], 1);
+  EXPECT_GE(requests["BusMonitorGetData"], 5);
 }
 
 TEST_F(ProgramEndTest, DisconnectsStopsTheSessionAndReturnsToTheLauncher) {

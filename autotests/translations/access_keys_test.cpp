@@ -30,6 +30,7 @@ const std::multimap<std::string, std::string>& LaterCaptions() {
 bool IsPermitted(const std::string& language, const std::string& one, const std::string& other) {
   static const std::set<std::set<std::string>> permitted = {
       {"&Tests", "&Tools"},
+      {"St&art Record", "&Options"},  // the one reads St&op Record while the other is grey
       {"Start Data&log Only", "&Disable Broadcast"},  // once the first reads Start &Datalog Only
   };
   return language == "en" && permitted.contains({one, other});

@@ -9,6 +9,7 @@
 #include "adapters/headless/ui_design.h"
 #include "autotests/common/program_fixture.h"
 #include "faults/faults_part.h"
+#include "monitor/monitor_part.h"
 #include "parameters/parameters_part.h"
 #include "session/session_part.h"
 #include "support/support_part.h"
@@ -129,6 +130,8 @@ TEST_F(EveryScreenTest, ShowsNoEnglishInFrench) {
       &tests.suspension_calibration,
       &tests.stop_light,
       &tests.eol_bit,
+      &program.monitor->screen,
+      &program.monitor->options,
   };
   for (Form* form : forms) {
     form->Load();

@@ -7,9 +7,13 @@
 namespace lorimet {
 
 MonitorPart::MonitorPart(const Ports& ports, SupportPart& support, SessionPart& session)
-    : bus_monitor(ports.link, ports.process) {
+    : bus_monitor(ports.desktop, ports.link, ports.process),
+      options(ports.desktop, support.dictionary, ports.process, bus_monitor),
+      screen(ports.desktop, support.dictionary, bus_monitor, options) {
   CommandActions& actions = session.main_form.actions;
-  actions.show_bus_monitor = support.NotBuilt("Bus &Monitor");
+  actions.show_bus_monitor = [this, &session] {
+    screen.Show(Modality::kModal, &session.main_form);
+  };
   actions.start_recording = [this] { bus_monitor.MonitorStartRecord(); };
   actions.stop_recording = [this] { bus_monitor.MonitorStopRecord(); };
 }

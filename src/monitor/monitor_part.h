@@ -2,6 +2,8 @@
 #pragma once
 
 #include "monitor/bus_monitor.h"
+#include "monitor/frmBusMonitor.h"
+#include "monitor/frmMonitorOptions.h"
 
 namespace lorimet {
 
@@ -13,6 +15,8 @@ struct MonitorPart {
   MonitorPart(const Ports& ports, SupportPart& support, SessionPart& session);
 
   BusMonitor bus_monitor;
+  frmMonitorOptions options;
+  frmBusMonitor screen;
 };
 
 }  // namespace lorimet
