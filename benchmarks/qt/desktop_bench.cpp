@@ -4,11 +4,16 @@
 #include <QApplication>
 #include <QEvent>
 
+#include <algorithm>
+#include <map>
+#include <string>
+
 #include "adapters/qt/qt_desktop.h"
 #include "adapters/qt/qt_style.h"
 #include "adapters/qt/qt_translations.h"
 #include "benchmarks/simulated_program.h"
 #include "faults/faults_part.h"
+#include "monitor/monitor_part.h"
 #include "session/session_part.h"
 #include "support/support_part.h"
 
@@ -52,6 +57,9 @@ struct QtProgram {
     action();
     return counter.paints;
   }
+
+  explicit QtProgram(const std::map<std::string, ViewFactory>& factories = ViewFactories())
+      : desktop(factories) {}
 
   QApplication& application = Application();
   VirtualClock clock;
@@ -148,6 +156,67 @@ BENCHMARK_CAPTURE(TranslateCompiled, french, kFrench,
                   "Could not locate the Norvick Main executable.", true);
 BENCHMARK_CAPTURE(TranslateCompiled, french_miss, kFrench,
                   "A text that has no row in the dictionary.", false);
+
+// The window's box is as high as so many lines.
+std::map<std::string, ViewFactory> WithLinesInTheMonitor(int lines) {
+  constexpr int kLine = 16;  // pixels
+  std::map<std::string, ViewFactory> factories = ViewFactories();
+  ViewFactory& factory = factories.at("frmBusMonitor");
+  factory = [build = factory, lines](QWidget* parent) {
+    QWidget* window = build(parent);
+    window->findChild<QWidget*>(QStringLiteral("txtMonitor"))->setFixedHeight(lines * kLine);
+    return window;
+  };
+  return factories;
+}
+
+// A bus at its physical limit, seen by half seconds. The trailer's own time is not counted.
+void MonitorTickAtFullLoadRepainted(benchmark::State& state) {
+  const int lines = static_cast<int>(state.range(0));
+  QtProgram qt(WithLinesInTheMonitor(lines));
+  frmBusMonitor& screen = qt.simulated.program.monitor->screen;
+  simulator::Link& link = qt.simulated.link.link;
+  link.Command("bus_load full");
+  screen.Show();
+  screen.tmrUpdateMonitor.SetInterval(1'000'000);
+  const auto pass = [&] {
+    screen.tmrUpdateMonitor.Tick();
+    QtProgram::Draw();
+  };
+  for (int i = 0; i < 4; ++i) {
+    link.Advance(0.5);
+    pass();
+  }
+  const auto shown = std::ranges::count(screen.txtMonitor.Text(), '\n');
+  if (shown < lines - 2 || shown > lines + 2) state.SkipWithError("not as many lines");
+  link.Advance(0.5);
+  if (QtProgram::Paints(pass) == 0) state.SkipWithError("the monitor is not painted");
+  for (auto _ : state) {
+    state.PauseTiming();
+    link.Advance(0.5);
+    state.ResumeTiming();
+    pass();
+  }
+  state.counters["share_of_a_core"] =
+      benchmark::Counter(static_cast<double>(state.iterations()) * 0.5,
+                         benchmark::Counter::kIsRate | benchmark::Counter::kInvert);
+}
+BENCHMARK(MonitorTickAtFullLoadRepainted)->Arg(40)->Arg(200)->Unit(benchmark::kMicrosecond);
+
+// The most that one tick takes.
+void MonitorTickOf101MessagesRepainted(benchmark::State& state) {
+  QtProgram qt(WithLinesInTheMonitor(static_cast<int>(state.range(0))));
+  frmBusMonitor& screen = qt.simulated.program.monitor->screen;
+  qt.simulated.link.link.Command("bus flood");
+  screen.Show();
+  screen.tmrUpdateMonitor.SetInterval(1'000'000);
+  for (auto _ : state) {
+    screen.tmrUpdateMonitor.Tick();
+    QtProgram::Draw();
+  }
+  state.SetItemsProcessed(state.iterations() * 101);
+}
+BENCHMARK(MonitorTickOf101MessagesRepainted)->Arg(40)->Arg(200)->Unit(benchmark::kMicrosecond);
 
 }  // namespace
 }  // namespace lorimet::benchmarks
