@@ -204,6 +204,14 @@ TEST_F(ReportFileTest, ReadsTheFaultsOnceUnderTheirLock) {
                                                         "FaultGetData", "FaultUnlock"}));
 }
 
+TEST_F(ReportFileTest, AProgramThatIsClosedBeforeItWritesAndAsksNothing) {
+  WizardVin() = "V";
+  desktop.on_do_events = [this] { desktop.life.Close(); };
+  Save();
+  EXPECT_TRUE(text_files.files.empty());
+  EXPECT_TRUE(link.TakeCalls().empty());
+}
+
 TEST_F(ReportFileTest, RefusedFaultLockReadsAsNoFaults) {
   Hold({{0, 5, 7, 0, 0, 1}});
   link.always["FaultLock"] = 1;

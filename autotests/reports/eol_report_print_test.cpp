@@ -243,6 +243,8 @@ TEST_F(ReportPrintTest, EachOutcomeHasItsWord) {
   EXPECT_EQ(word(&TestResults::nSensorTest, 2, kSensor), "Failed");
   EXPECT_EQ(word(&TestResults::nHeightCalCD, -1, kHeight), "Not Calibrated");
   EXPECT_EQ(word(&TestResults::nHeightCalCD, 0, kHeight), "Calibration Failed");
+  EXPECT_EQ(word(&TestResults::nHeightCalCD, 1, kHeight), "Calibrated");
+  EXPECT_EQ(word(&TestResults::nHeightCalCD, 2, kHeight), "Calibration Failed");
 }
 
 TEST_F(ReportPrintTest, SensorsBeyondTheFourthPrintNothing) {
@@ -300,6 +302,13 @@ TEST_F(ReportPrintTest, AnUnknownTrailerHasAFileToo) {
   desktop.TakeBoxes();
   EXPECT_EQ(printer.Documents().back().file,
             std::string("/opt/lorimet") + kPathSeparator + "End-of-Line Report.pdf");
+}
+
+TEST_F(ReportPrintTest, AProgramThatIsClosedBeforePrintsAndAsksNothing) {
+  desktop.on_do_events = [this] { desktop.life.Close(); };
+  Print(0);
+  EXPECT_TRUE(printer.Documents().empty());
+  EXPECT_TRUE(link.TakeCalls().empty());
 }
 
 TEST_F(ReportPrintTest, ANameThatLeavesItsFolderIsRefused) {

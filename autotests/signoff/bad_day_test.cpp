@@ -64,6 +64,19 @@ TEST(BadDay, ATestPointThatNoPressureIsEndsTheProgramInOrder) {
     }
 }
 
+// A pressure of 40,000 psi is within the tolerance of itself, and no whole number of 16 bits.
+TEST(BadDay, APressureThatNoResultHoldsEndsTheProgramInOrder) {
+  OperatedProgram stand(
+      "field dSupplyPress 40000\nfield dServiceBrake 40000\n"
+      "field dBrake1Press 40000\nfield dBrake2Press 40000");
+  stand.RunTest(1);
+  EXPECT_TRUE(stand.desktop.life.Failed());
+  EXPECT_EQ(stand.program.ExitStatus(), 1);
+  EXPECT_EQ(stand.desktop.TakeBoxes().back().text, "Run-time error '6':\r\n\r\nOverflow");
+  EXPECT_EQ(stand.Results().nRedundancyTest, 0);
+  EXPECT_FALSE(stand.Trailer().Connected());
+}
+
 TEST(BadDay, CountsThatNoTrailerHasEndInAResult) {
   for (const char* line : {"field bNumSensors 0",
                            "field bNumSensors 1",

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "autotests/signoff/screen_notes.h"
@@ -71,6 +72,23 @@ TEST(TestFrame, OneRefusalOfThatResetIsEnoughToLeaveTheEcuAsItIs) {
   stand.RunTest(4);
   EXPECT_EQ(stand.Trailer().Get("ecu"), "on");
   EXPECT_EQ(stand.Results().nHeightCalCD, 1);
+}
+
+TEST(TestFrame, TheMainScreenOwnsTheFirstFourTests) {
+  OperatedProgram stand("", {.closes_early = true});
+  const std::pair<const char*, const char*> forms[] = {{"frmPressureTest", "frmZeltMain"},
+                                                       {"frmRedundancyTest", "frmZeltMain"},
+                                                       {"frmSensorOrientation", "frmZeltMain"},
+                                                       {"frmLampTest", "frmZeltMain"},
+                                                       {"frmSuspensionCal", ""},
+                                                       {"frmStopLight", ""}};
+  for (int index = 0; index <= 5; ++index) {
+    const auto& [form, owner] = forms[index];
+    stand.desktop.OnModal(form, [](Form& screen) { screen.UserClose(); });
+    stand.RunTest(index);
+    EXPECT_EQ(stand.desktop.ModalForms().back(), form);
+    EXPECT_EQ(stand.desktop.OwnerOf(form), owner) << form;
+  }
 }
 
 // --- Stop lights -------------------------------------------------------------------------------

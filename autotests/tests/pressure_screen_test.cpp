@@ -271,11 +271,14 @@ TEST_F(PressureScreenTest, ToleratesExactlyTwoPointNine) {
 }
 
 TEST_F(PressureScreenTest, ShowsReadingsWithOneOrTwoDecimals) {
-  GoTo(6);
-  Deliver(58.0, 57.456);
-  Tick();
-  EXPECT_EQ(screen.txtActual[4].Text(), "58.0");
-  EXPECT_EQ(screen.txtActual[5].Text(), "57.46");
+  for (const auto& [psi, text] : {std::pair{58.0, "58.0"}, std::pair{57.456, "57.46"}}) {
+    GoTo(6);
+    Deliver(psi, psi);
+    Tick();
+    EXPECT_EQ(screen.txtActual[4].Text(), text);
+    EXPECT_EQ(screen.txtActual[5].Text(), text);
+    screen.Unload();
+  }
 }
 
 TEST_F(PressureScreenTest, ReadsTheModulatorsAfterTheWait) {

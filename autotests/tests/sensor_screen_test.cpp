@@ -456,6 +456,19 @@ TEST_F(SensorScreenTest, KeepsTheHighestSpeedWithThousands) {
   EXPECT_EQ(results.dMaxSpeed[5], 1234.5);
 }
 
+// The library writes on while the brake commands go out.
+TEST_F(SensorScreenTest, ASpeedThatRisesWithinTheTickIsKeptToo) {
+  Open();
+  Ticks(2);
+  Speed('f').Store(6.0);
+  link.on_call = [this](const std::string& call) {
+    if (call == Brake(0)) Speed('f').Store(7.5);
+  };
+  Tick();
+  EXPECT_EQ(results.dMaxSpeed[4], 7.5);
+  EXPECT_EQ(screen.textRPM[1].Text(), "7.5");
+}
+
 TEST_F(SensorScreenTest, AWrongSensorIsShownAndTheStepStays) {
   Open();
   Ticks(3);

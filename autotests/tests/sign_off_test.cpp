@@ -129,6 +129,8 @@ TEST_F(SignOffTest, MechanicalSuspensionIsCalibratedAndNotResetApart) {
   EXPECT_EQ(calls, Join({kOpening, kMechanicalTests, kFlag, kSave, kPrint}));
   EXPECT_EQ(boxes, (Boxes{kAskSave, kAskPrint}));
   EXPECT_EQ(Codes(), (std::vector<std::int16_t>{1, 1, 1, 1, 1}));
+  for (const std::string& form : kAirTests) EXPECT_EQ(desktop.OwnerOf(form), "frmZeltMain") << form;
+  EXPECT_EQ(desktop.OwnerOf("frmSuspensionCal"), "");
 }
 
 TEST_F(SignOffTest, OneModulatorNeedsNeitherPressureNorRedundancy) {

@@ -36,7 +36,7 @@ class HeadlessView : public FormView {
   }
   void Show(bool modal, Form* owner) override {
     static_cast<void>(modal);
-    static_cast<void>(owner);
+    desktop_.NoteOwner(form_, owner);
   }
   void Hide() override {}
   void SetFocus(Control& control) override { form_.UserFocus(&control); }

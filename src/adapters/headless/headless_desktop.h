@@ -73,6 +73,8 @@ class HeadlessDesktop : public Desktop {
   std::vector<List> TakeLists() { return std::exchange(lists_, {}); }
   // Forms that were shown modally, in order.
   const std::vector<std::string>& ModalForms() const { return modal_forms_; }
+  // The form that owned one of this name when it was last shown; empty for none.
+  const std::string& OwnerOf(const std::string& form) { return owners_[form]; }
   int Beeps() const { return beeps_; }
   int Repaints() const { return repaints_; }
   // How deep modal forms stood at the most.
@@ -102,6 +104,9 @@ class HeadlessDesktop : public Desktop {
   void TimerChanged(Timer& timer);
   void ForgetTimers(const Form& form);
   void CountTouch() { ++touches_; }
+  void NoteOwner(const Form& form, const Form* owner) {
+    owners_[form.Name()] = owner == nullptr ? "" : owner->Name();
+  }
 
  private:
   struct Scheduled {
@@ -132,6 +137,7 @@ class HeadlessDesktop : public Desktop {
   std::vector<FileDialog> file_dialogs_;
   std::vector<List> lists_;
   std::vector<std::string> modal_forms_;
+  std::map<std::string, std::string> owners_;
   int beeps_ = 0;
   int repaints_ = 0;
   int touches_ = 0;
