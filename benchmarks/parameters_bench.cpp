@@ -135,8 +135,8 @@ void WriteToEcu(benchmark::State& state) {
   const std::uint64_t start = headless.clock.Milliseconds();
   for (auto _ : state) {
     WriteParmsToECU({simulated.link, headless.desktop, program.support->dictionary, headless.clock,
-                     program.faults, program.parameters->image, program.parameters->found, page,
-                     page.txtStatus});
+                     program.faults->faults, program.parameters->image, program.parameters->found,
+                     page, page.txtStatus});
     if (headless.desktop.TakeBoxes().size() != 1) state.SkipWithError("the ECU complains");
     headless.clock.sleeps.clear();
   }

@@ -9,8 +9,8 @@
 #include <string>
 
 #include "adapters/qt/qt_desktop.h"
-#include "adapters/qt/qt_style.h"
 #include "adapters/qt/qt_translations.h"
+#include "benchmarks/qt/application.h"
 #include "benchmarks/simulated_program.h"
 #include "faults/faults_part.h"
 #include "monitor/monitor_part.h"
@@ -19,20 +19,6 @@
 
 namespace lorimet::benchmarks {
 namespace {
-
-// Lives to the end: nothing of the toolkit is torn down behind the measurements.
-QApplication& Application() {
-  static int argc = 1;
-  static char name[] = "lorimet_qt_bench";
-  static char* argv[] = {name, nullptr};
-  static QApplication* const application = [] {
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-    auto* made = new QApplication(argc, argv);
-    ApplyStyle(*made);
-    return made;
-  }();
-  return *application;
-}
 
 class PaintCounter : public QObject {
  public:
