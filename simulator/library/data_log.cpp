@@ -1,12 +1,15 @@
 #include "simulator/library/data_log.h"
 
+#include <algorithm>
+#include <system_error>
+
 #include "simulator/library/bus_monitor.h"
 #include "simulator/library/files.h"
 
 namespace lorimet::simulator {
 namespace {
 
-std::string Right(std::string text, std::size_t width) {
+std::string Right(const std::string& text, std::size_t width) {
   return std::string(width - std::min(width, text.size()), ' ') + text;
 }
 
