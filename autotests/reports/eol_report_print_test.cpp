@@ -247,6 +247,17 @@ TEST_F(ReportPrintTest, EachOutcomeHasItsWord) {
   EXPECT_EQ(word(&TestResults::nHeightCalCD, 2, kHeight), "Calibration Failed");
 }
 
+TEST_F(ReportPrintTest, OneEmptyLineEndsTheResults) {
+  Printed(-1);
+  const int line = 224;
+  const int behind = YOf("Lamp Test : ") + line;
+  // A page that has room for it and for no other.
+  printer.page_height = behind + line;
+  EXPECT_EQ(Printed(-1).pages, 1);
+  printer.page_height = behind + line - 1;
+  EXPECT_EQ(Printed(-1).pages, 2);
+}
+
 TEST_F(ReportPrintTest, SensorsBeyondTheFourthPrintNothing) {
   Ecu().bNumSensors.Store(255);
   Printed(-1);

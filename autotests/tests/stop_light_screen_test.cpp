@@ -19,6 +19,7 @@ TEST_F(StopLightScreenTest, SendsNothingUntilAButtonIsPressed) {
   EXPECT_EQ(screen.cmdTrl1On.Caption(), "Trailer 1 On");
   EXPECT_EQ(screen.cmdTrl1Off.Caption(), "Trailer 1 Off");
   EXPECT_EQ(screen.Command1.Caption(), "&Close");
+  EXPECT_EQ(screen.FocusedControl(), &screen.Command1) << "a key pressed by habit lights nothing";
   desktop.Run(5000);
   ExpectCalls({});
 }
