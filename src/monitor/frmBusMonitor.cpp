@@ -44,6 +44,7 @@ void frmBusMonitor::OnLoad() {
   LayOut();
   nCurrentLine_ = 0;
   bRecording_ = 0;
+  ticking_ = false;
   strLines_.assign(static_cast<std::size_t>(UpperIndex()) + 1, "");
   BuildControlTable();
   CenterOnScreen();
