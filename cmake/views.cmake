@@ -1,5 +1,8 @@
-# Writes the table from which the Qt adapter builds the window of a form: one row a .ui file.
+# Writes the table from which the Qt adapter builds the window of a form: one row a .ui file. Their
+# headers come by rules of their own: those that CMake's automatic step would write are not known to
+# the build before it has ended, which would link a changed window a build too late.
 function(lorimet_generate_views result)
+  qt_wrap_ui(headers ${ARGN})
   set(includes "")
   set(rows "")
   foreach(ui ${ARGN})
@@ -33,5 +36,7 @@ ${rows}  };
 }  // namespace lorimet
 ")
   file(CONFIGURE OUTPUT ${file} CONTENT "${text}" @ONLY)
-  set(${result} ${file} PARENT_SCOPE)
+  set(${result} ${file} ${headers} PARENT_SCOPE)
+  # Static analysis reads what includes them.
+  add_custom_target(lorimet_windows_autogen DEPENDS ${headers})
 endfunction()
