@@ -62,9 +62,10 @@ ControlSocket::~ControlSocket() {
   unlink(path_.string().c_str());
 }
 
-void ControlSocket::Accept() {
+void ControlSocket::Accept(const std::function<CommandAnswer(const std::string&)>& run) {
   for (int descriptor = 0; (descriptor = accept(listening_, nullptr, nullptr)) >= 0;) {
     MakeReady(descriptor);
+    ServeWriter(run);  // who has gone meanwhile makes room for who has come
     if (!writer_) {
       writer_ = {descriptor, {}};
       continue;
@@ -95,14 +96,14 @@ bool ControlSocket::Serve(Client& client,
 
 void ControlSocket::Poll(const std::function<CommandAnswer(const std::string&)>& run) {
   if (listening_ < 0) return;
-  const auto serve = [&] {
-    if (!writer_ || Serve(*writer_, run)) return;
-    close(writer_->descriptor);
-    writer_.reset();
-  };
-  serve();  // who has gone makes room for who has come
-  Accept();
-  serve();
+  Accept(run);
+  ServeWriter(run);
+}
+
+void ControlSocket::ServeWriter(const std::function<CommandAnswer(const std::string&)>& run) {
+  if (!writer_ || Serve(*writer_, run)) return;
+  close(writer_->descriptor);
+  writer_.reset();
 }
 
 #endif

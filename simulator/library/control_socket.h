@@ -33,7 +33,8 @@ class ControlSocket {
     int lines = 0;
   };
 
-  void Accept();
+  void Accept(const std::function<CommandAnswer(const std::string&)>& run);
+  void ServeWriter(const std::function<CommandAnswer(const std::string&)>& run);
   // False when the client is gone.
   static bool Serve(Client& client, const std::function<CommandAnswer(const std::string&)>& run);
 
