@@ -6,6 +6,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
+#include <type_traits>
 
 #include "adapters/qt/qt_clock.h"
 #include "adapters/qt/qt_desktop.h"
@@ -37,10 +38,18 @@
 
 namespace lorimet {
 
+// What somebody brings in place of the machine's own; null for none.
+struct BroughtPorts {
+  Clock* clock = nullptr;
+  Process* process = nullptr;
+  PagePrinter* printer = nullptr;
+};
+
 // Needs a QApplication.
 class DesktopProgram {
  public:
-  DesktopProgram() {
+  // What is brought outlives the program.
+  explicit DesktopProgram(const BroughtPorts& brought = {}) : brought_(brought) {
     desktop.on_unhandled_error = [this](const RuntimeError& error) {
       program.OnUnhandledError(error);
       EndAtOnce();
@@ -78,6 +87,15 @@ class DesktopProgram {
     return program.ExitStatus();
   }
 
+ private:
+  template <typename Port>
+  static Port& OrBrought(Port* brought, std::type_identity_t<Port>& own) {
+    return brought == nullptr ? own : *brought;
+  }
+
+  BroughtPorts brought_;
+
+ public:
   QtDesktop desktop;
   QtClock clock{[this](std::uint32_t milliseconds) {
 #if defined(_WIN32)
@@ -109,8 +127,9 @@ class DesktopProgram {
   QtHelpViewer help_viewer{process.ProgramFolder(), [this](const std::string& text) {
                              return program.support->dictionary.Translate(text);
                            }};
-  Program program{{desktop, clock, registry, hook, process, link, help_viewer, translations,
-                   profile_file, text_files, printer}};
+  Program program{{desktop, OrBrought(brought_.clock, clock), registry, hook,
+                   OrBrought(brought_.process, process), link, help_viewer, translations,
+                   profile_file, text_files, OrBrought(brought_.printer, printer)}};
 
  private:
   // Nothing of what is on the stack may run again.

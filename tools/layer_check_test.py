@@ -183,14 +183,14 @@ class LayerCheckTest(unittest.TestCase):
         self.assert_finds("simulator/bench/e.cpp:1: up")
 
     def test_nothing_in_src_includes_the_simulator(self):
-        for name in ("src/session/a.cpp", "src/adapters/qt/a.cpp", "src/tour.cpp"):
+        for name in ("src/session/a.cpp", "src/adapters/qt/a.cpp", "src/tour/a.cpp"):
             with self.subTest(name):
                 self.include(name, "simulator/trailer/b.h", "simulator/trailer/b.h")
                 self.assert_finds(name, "simulator/trailer/b.h")
                 (self.root / name).unlink()
 
     def test_the_tour_has_the_trailers_operator_work(self):
-        self.include("src/tour.cpp", "simulator/operator/b.h", "simulator/operator/b.h")
+        self.include("src/tour/a.cpp", "simulator/operator/b.h", "simulator/operator/b.h")
         self.assert_clean()
         self.include("src/main.cpp", "simulator/operator/b.h", "simulator/operator/b.h")
         self.assert_finds("src/main.cpp:1: up")

@@ -120,7 +120,7 @@ void CollectSources(std::vector<NeededText>& needed) {
     if (extension != ".h" && extension != ".cpp") continue;
     // Adapters speak to the developer, in English; what they show comes from the core.
     const bool adapter = file.starts_with("platform/") || file.starts_with("adapters/") ||
-                         file == "main.cpp" || file == "tour.cpp" || file == "tour_check.cpp";
+                         file == "main.cpp" || file.starts_with("tour/");
     for (const SourceLiteral& literal : LiteralReader(ReadFile(entry.path())).Read()) {
       const bool sentence =
           !adapter && !UntranslatedFiles().contains(file) && HasTwoWords(literal.text);

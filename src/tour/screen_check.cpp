@@ -1,4 +1,4 @@
-#include "tour_check.h"
+#include "tour/screen_check.h"
 
 #include <QApplication>
 #include <QLineEdit>
