@@ -1,22 +1,32 @@
 # What `cmake --install` puts under a prefix: bin/ with the program and the link library that it
-# loads from its own folder, share/ with the help pages, the entry of the desktop's menu and the
-# icon. The translations and the pictures are in the program.
+# loads from its own folder, share/ with the help pages, the entry of the desktop's menu, the icon
+# and what a software centre tells of it. The translations, the toolkit's own among them, and the
+# pictures are in the program. Two components: the program, and the simulated trailer, which is left
+# out where an adapter's library takes its place.
 include(GNUInstallDirs)
 
-install(TARGETS lorimet RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
-# The simulated trailer; leave the component out where an adapter's library takes its place.
-install(TARGETS Lorimet32 LIBRARY DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT simulator
-  RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT simulator)
-install(DIRECTORY ${CMAKE_BINARY_DIR}/bin/help
-  DESTINATION ${CMAKE_INSTALL_DATADIR}/norvick-lorimet)
+set(folder ${CMAKE_INSTALL_DATADIR}/norvick-lorimet)
+
+install(TARGETS lorimet RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT program)
+install(DIRECTORY ${CMAKE_BINARY_DIR}/bin/help DESTINATION ${folder} COMPONENT program)
 install(FILES packaging/norvick-lorimet.desktop
-  DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
+  DESTINATION ${CMAKE_INSTALL_DATADIR}/applications COMPONENT program)
+install(FILES packaging/com.norvick.Lorimet.metainfo.xml
+  DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo COMPONENT program)
 foreach(size 16 20 24 32 48 64 128 256)
   install(FILES packaging/pictures/lorimet_${size}.png RENAME norvick-lorimet.png
-    DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/${size}x${size}/apps)
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/${size}x${size}/apps COMPONENT program)
 endforeach()
 install(FILES packaging/pictures/lorimet.svg RENAME norvick-lorimet.svg
-  DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
+  DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps COMPONENT program)
+install(FILES README.md CHANGELOG.md
+  DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/norvick-lorimet COMPONENT program)
+
+install(TARGETS Lorimet32 LIBRARY DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT simulator
+  RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT simulator)
+install(DIRECTORY simulator/scenarios DESTINATION ${folder} COMPONENT simulator)
+install(FILES docs/simulator.md
+  DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/norvick-lorimet-simulator COMPONENT simulator)
 
 if(LORIMET_TESTS)
   find_program(PYTHON3 python3 REQUIRED)

@@ -94,15 +94,12 @@ within_fresh() {
     ' bash "$root" "$fresh_cache" "$fresh_home" "$@" </dev/null
 }
 
-# fresh_root [command of ./dev with its arguments]
-fresh_root() {
-  [[ $(id -u) == 0 ]] || cannot "No fresh system: making one needs root (sudo ./dev fresh)."
+# A copy of the bare system for this run alone; `fresh_copy` names it. It goes with this script.
+fresh_make_copy() {
+  [[ $(id -u) == 0 ]] || cannot "No fresh system: making one needs root (sudo ./dev ...)."
   command -v apt-get >/dev/null || cannot "No fresh system: this is no Debian-like system."
   unshare --mount --pid --fork true 2>/dev/null ||
     cannot "No fresh system: this system allows no mounts of its own (a container?)."
-  if [[ -n $(git status --porcelain --untracked-files=no) ]]; then
-    say "The fresh system gets the last commit, without the changes that are not committed"
-  fi
   mkdir -p "$fresh_cache"/{debs/partial,ccache}
   exec 9>"$fresh_cache/lock"
   if ! flock --nonblock 9; then
@@ -111,14 +108,23 @@ fresh_root() {
   fi
   fresh_base
   rm -rf --one-file-system "$fresh_cache"/run.*  # of a run that was killed
-  local root
-  root=$(mktemp -d "$fresh_cache/run.XXXXXX")
+  fresh_copy=$(mktemp -d "$fresh_cache/run.XXXXXX")
   # shellcheck disable=SC2064  # the folder of this run
-  trap "rm -rf --one-file-system '$root'" EXIT
+  trap "rm -rf --one-file-system '$fresh_copy'" EXIT
   trap 'exit 130' INT
   trap 'exit 143' TERM HUP
-  cp -a "$fresh_cache/base/." "$root"
-  cp --remove-destination "$(readlink -f /etc/resolv.conf)" "$root/etc/resolv.conf"
+  cp -a "$fresh_cache/base/." "$fresh_copy"
+  cp --remove-destination "$(readlink -f /etc/resolv.conf)" "$fresh_copy/etc/resolv.conf"
+}
+
+# fresh_root [command of ./dev with its arguments]
+fresh_root() {
+  if [[ -n $(git status --porcelain --untracked-files=no) ]]; then
+    say "The fresh system gets the last commit, without the changes that are not committed"
+  fi
+  local fresh_copy
+  fresh_make_copy
+  local root=$fresh_copy
   git clone --quiet --depth 1 "file://$PWD" "$root$fresh_home" 2>/dev/null ||
     fail "The commit could not be cloned into $root."
   local result=0 start=$SECONDS

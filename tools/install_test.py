@@ -23,6 +23,8 @@ EXPECTED = (
     "share/norvick-lorimet/help/es/index.html",
     "share/norvick-lorimet/help/pictures/exit.png",
     "share/applications/norvick-lorimet.desktop",
+    "share/metainfo/com.norvick.Lorimet.metainfo.xml",
+    "share/norvick-lorimet/scenarios/healthy_4s2m.scenario",
     "share/icons/hicolor/48x48/apps/norvick-lorimet.png",
     "share/icons/hicolor/scalable/apps/norvick-lorimet.svg",
 )
