@@ -28,15 +28,18 @@ void Form::Load() {
 
 void Form::Show(Modality modality, Form* owner) {
   Form* form = this;
+  const bool modal = modality == Modality::kModal;
   while (form != nullptr) {
+    if (modal && !form->loaded_) form->opens_modally_ = true;
     form->Load();
+    if (modal) form->opens_modally_ = false;
     if (!form->loaded_) return;
     // Not at the load: the handler that named the next form may touch this one once more.
     form->next_ = nullptr;
     form->visible_ = true;
     form->view_->Flush();
-    form->view_->Show(modality == Modality::kModal, owner);
-    if (modality == Modality::kModeless) return;
+    form->view_->Show(modal || form->opens_modally_, owner);
+    if (!modal) return;
     desktop_.RunModal(*form);
     form = std::exchange(form->next_, nullptr);
   }

@@ -36,7 +36,8 @@ class Form : public ControlOwner {
   bool Loaded() const override { return loaded_; }
   bool Visible() const { return visible_; }
   // Loads the form if need be. A modal show returns when the form is hidden or unloaded, and with
-  // it every form that took its place by ContinueWith.
+  // it every form that took its place by ContinueWith. A form whose load shows it modelessly while
+  // a modal show loads it blocks its owners from then on, and its load goes on at once.
   void Show(Modality modality = Modality::kModeless, Form* owner = nullptr);
   void Hide();
   // False when the form refused.
@@ -133,6 +134,7 @@ class Form : public ControlOwner {
   int height_ = 0;
   bool loaded_ = false;
   bool unloading_ = false;
+  bool opens_modally_ = false;  // a modal show is loading it
   bool visible_ = false;
   bool minimized_ = false;
   bool key_preview_ = false;
