@@ -52,6 +52,8 @@ class FakeLink : public LinkLibrary {
   // What Connect writes back into the two texts; empty leaves them. A text of the buffers' whole
   // size leaves no room for its terminator.
   std::string protocol_out, vendor_out;
+  // What ExportODRData writes back into its path; empty leaves it.
+  std::string export_out;
   static constexpr std::size_t kTextBufferSize = 1024;
 
   std::vector<std::string> TakeCalls() { return std::exchange(calls, {}); }
@@ -159,7 +161,9 @@ class FakeLink : public LinkLibrary {
     return Answer("UploadODRData", Hex(bytes, 2) + " " + std::to_string(zero));
   }
   std::int32_t Trailer_OVG_ExportODRData(char* file) override {
-    return Answer("ExportODRData", file);
+    const std::string path = file;
+    WriteBack(export_out, file);
+    return Answer("ExportODRData", path);
   }
   std::int32_t Trailer_OVG_StopLightActivation(std::int32_t trailer, std::int32_t state) override {
     return Answer("StopLightActivation", std::to_string(trailer) + " " + std::to_string(state));

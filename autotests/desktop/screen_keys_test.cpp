@@ -13,6 +13,7 @@
 #include "autotests/desktop/screens_fixture.h"
 #include "autotests/places.h"
 #include "monitor/monitor_part.h"
+#include "reports/reports_part.h"
 
 namespace lorimet {
 namespace {
@@ -62,7 +63,9 @@ class ScreenKeysTest : public ScreensTest {
             &program.parameters->load_sensing_page,
             &program.parameters->overturn_guard_page,
             &program.monitor->screen,
-            &program.monitor->options};
+            &program.monitor->options,
+            &program.reports->odr_view,
+            &program.reports->odr_delete};
   }
 };
 
@@ -193,8 +196,8 @@ TEST_F(ScreenKeysTest, FieldsThatOnlyShowTakeNoTyping) {
 }
 
 TEST_F(ScreenKeysTest, EscapeClosesWhatOnlyShowsAndNothingElse) {
-  const std::vector<std::string> closing = {"frmErr", "frmRP1210Err", "frmFaults", "frmAbout",
-                                            "frmNotBuilt"};
+  const std::vector<std::string> closing = {"frmErr",   "frmRP1210Err", "frmFaults",
+                                            "frmAbout", "frmNotBuilt",  "frmODRView"};
   program.parameters->system_page.Load();
   for (Form* form : Screens()) {
     form->Show();

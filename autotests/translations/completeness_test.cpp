@@ -64,6 +64,9 @@ const std::set<std::string>& UntranslatedTexts() {
       "Cannot save.",
       "The ECU information has not been successfully read.",
       "File saved successfully in ",
+      // The recorder's file, which is English.
+      "Norvick Brake Systems - ODR Data",
+      "Data Extracted :  ",
       // The steps of an upload, in the link library's words.
       "Saving Long Term Memory",
       "Saving Lining Wear Memory",

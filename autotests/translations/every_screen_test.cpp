@@ -11,6 +11,7 @@
 #include "faults/faults_part.h"
 #include "monitor/monitor_part.h"
 #include "parameters/parameters_part.h"
+#include "reports/reports_part.h"
 #include "session/session_part.h"
 #include "support/support_part.h"
 #include "tests/tests_part.h"
@@ -103,6 +104,8 @@ TEST_F(EveryScreenTest, ShowsNoEnglishInFrench) {
   SupportPart& support = *program.support;
   ParametersPart& parameters = *program.parameters;
   TestsPart& tests = *program.tests;
+  ReportsPart& reports = *program.reports;
+  Ecu().VehicleId.Store("1NL4S2M30A0012345");
   desktop.OnModal("frmNotBuilt", [&](Form& form) {
     EXPECT_NE(form.Caption(), "Pressure Test");
     form.Unload();
@@ -132,6 +135,10 @@ TEST_F(EveryScreenTest, ShowsNoEnglishInFrench) {
       &tests.eol_bit,
       &program.monitor->screen,
       &program.monitor->options,
+      &reports.odr_view,
+      &reports.odr_delete,
+      &reports.save_eeprom,
+      &reports.save_odr,
   };
   for (Form* form : forms) {
     form->Load();

@@ -1,7 +1,8 @@
-// Thresholds that lie in the ECU's memory, two bytes at an address.
+// Words that lie in the ECU's memory, two bytes at an address.
 #pragma once
 
 #include <cstdint>
+#include <optional>
 
 namespace lorimet {
 
@@ -21,5 +22,8 @@ struct MemoryWord {
 // Reads so many times in a row; the last answer counts, and no result is checked. A word that the
 // ECU does not give is 0.
 MemoryWord ReadMemoryWord(LinkLibrary& link, const MemoryAddress& address, int times);
+
+// Reads until the ECU gives the word, at most four times; nothing when it does not.
+std::optional<MemoryWord> TryMemoryWord(LinkLibrary& link, const MemoryAddress& address);
 
 }  // namespace lorimet

@@ -10,6 +10,7 @@
 #include "platform/page_printer.h"
 #include "platform/runtime_error.h"
 #include "reports/eol_report.h"
+#include "reports/page_form.h"
 #include "reports/report_values.h"
 #include "session/session_state.h"
 #include "support/dictionary.h"
@@ -21,11 +22,7 @@
 namespace lorimet {
 namespace {
 
-constexpr const char* kFont = "Arial";
-constexpr double kTitleSize = 14;  // points
-constexpr double kHeadingSize = 12;
-constexpr double kTextSize = 9.75;
-constexpr int kLineWidth = 5;          // dots of the printer
+constexpr double kHeadingSize = 12;    // points
 constexpr int kSensorLineFrom = 1000;  // twips
 constexpr int kSensorLineTo = 4000;
 
@@ -48,10 +45,10 @@ constexpr int kSensorSpeed = 55;
 // The two bytes that are blanked at the end of manufacturer and trailer type.
 constexpr std::array<std::size_t, 2> kBlankedBytes = {20, 21};
 
-class PrintedReport {
+class PrintedReport : private PageForm {
  public:
   PrintedReport(const ReportParts& parts, const std::tm& now, bool end_of_line)
-      : parts_(parts), printer_(parts.printer), now_(now), end_of_line_(end_of_line) {}
+      : PageForm(parts.printer), parts_(parts), now_(now), end_of_line_(end_of_line) {}
 
   void Print() {
     PrintTitle();
@@ -66,25 +63,6 @@ class PrintedReport {
 
  private:
   std::string Translate(const char* text) const { return parts_.dictionary.Translate(text); }
-  void SetFont(double points, bool bold) {
-    font_ = {kFont, points, bold};
-    printer_.SetFont(font_);
-  }
-  void SetBold(bool bold) { SetFont(font_.points, bold); }
-  void At(int blanks) {
-    printer_.SetX(printer_.TextWidth(std::string(static_cast<std::size_t>(blanks), ' ')));
-  }
-  void PrintAt(int blanks, const std::string& text) {
-    At(blanks);
-    printer_.Print(text);
-  }
-  void LineAt(int blanks, const std::string& text) {
-    At(blanks);
-    printer_.PrintLine(text);
-  }
-  void EmptyLines(int count) {
-    for (int i = 0; i < count; ++i) printer_.PrintLine("");
-  }
 
   void PrintTitle();
   void PrintHeader();
@@ -97,10 +75,8 @@ class PrintedReport {
   void PrintSensors();
 
   const ReportParts& parts_;
-  PagePrinter& printer_;
   const std::tm now_;
   const bool end_of_line_;
-  PrinterFont font_;
 };
 
 void PrintedReport::PrintTitle() {
@@ -136,7 +112,7 @@ void PrintedReport::PrintFaultHead() {
   PrintAt(kFaultSid, Translate("SID"));
   PrintAt(kFaultFmi, Translate("FMI"));
   LineAt(kFaultTimes, Translate("Count"));
-  printer_.DrawLine(0, printer_.PageWidth(), kLineWidth);
+  DrawAcross();
   SetBold(false);
   EmptyLines(1);
 }

@@ -2,6 +2,7 @@
 
 #include <cmath>
 
+#include "reports/vehicle_name.h"
 #include "session/ecu_data.h"
 #include "support/dates.h"
 #include "support/dictionary.h"
@@ -13,7 +14,6 @@ namespace lorimet {
 namespace {
 
 constexpr std::string_view kPartNumberMask = "###-###-###-#";
-constexpr std::size_t kSerialInName = 12;
 
 // A field whose first byte is 0 is not known.
 template <std::size_t N>
@@ -65,9 +65,13 @@ std::array<ReportHeaderLine, 9> ReportHeader(const ECUData& ecu_data, Configurat
   }};
 }
 
-std::string ReportDate(const std::tm& now, const Dictionary& dictionary) {
-  return dictionary.Translate(MonthName(now.tm_mon)) + " " + std::to_string(now.tm_mday) + ", " +
+std::string DateWords(const std::string& month, const std::tm& now) {
+  return month + " " + std::to_string(now.tm_mday) + ", " +
          FormatNumber(now.tm_year + 1900, "0000");
+}
+
+std::string ReportDate(const std::tm& now, const Dictionary& dictionary) {
+  return DateWords(dictionary.Translate(MonthName(now.tm_mon)), now);
 }
 
 std::string ReportTime(const std::tm& now) {
@@ -93,9 +97,7 @@ const char* HeightWord(std::int16_t result) {
 std::optional<std::string> ReportStem(const std::string& trailer_vin, const ECUData& ecu_data) {
   const std::string vehicle = Trim(trailer_vin);
   if (!vehicle.empty()) return vehicle;
-  const std::string serial = ecu_data.SerialNum.Load();
-  if (serial.front() == '\0') return std::nullopt;
-  return FromCp1252(Trim(UntilNul(serial)).substr(0, kSerialInName));
+  return SerialName(ecu_data);
 }
 
 std::string PartNumberText(const std::string& bytes) {

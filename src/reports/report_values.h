@@ -32,7 +32,9 @@ enum class ConfigurationRule {
 std::array<ReportHeaderLine, 9> ReportHeader(const ECUData& ecu_data, ConfigurationRule rule,
                                              const Dictionary& dictionary);
 
-// "November 21, 2026" and "3:07 PM".
+// "November 21, 2026", with the month in the words given.
+std::string DateWords(const std::string& month, const std::tm& now);
+// The same with the month translated, and "3:07 PM".
 std::string ReportDate(const std::tm& now, const Dictionary& dictionary);
 std::string ReportTime(const std::tm& now);
 

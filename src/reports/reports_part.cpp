@@ -30,7 +30,15 @@ ReportsPart::ReportsPart(const Ports& ports, SupportPart& support, SessionPart& 
              faults.faults,
              faults.fault_table,
              tests.test_results,
-             parameters.image.strTrailerVIN} {
+             parameters.image.strTrailerVIN},
+      odr_view({ports.desktop, ports.clock, ports.process, ports.text_files, ports.printer,
+                support.dictionary, ports.link, session.records.ecu_data, session.main_form,
+                session.main_form.txtError}),
+      odr_delete(ports.desktop, support.dictionary, ports.link),
+      save_eeprom(ports.desktop, ports.process, support.dictionary, ports.link,
+                  session.records.ecu_data),
+      save_odr({ports.desktop, ports.clock, ports.process, support.dictionary, ports.link,
+                session.records.ecu_data}) {
   const auto save = [this] { SaveEOLReport(report); };
   const auto print = [this](std::int16_t kind) {
     return [this, kind] { PrintEOLReport(report, kind); };
@@ -42,10 +50,21 @@ ReportsPart::ReportsPart(const Ports& ports, SupportPart& support, SessionPart& 
   CommandActions& actions = session.main_form.actions;
   actions.save_report = save;
   actions.print_report = print(kEndOfLineReport);
-  actions.save_eeprom = support.NotBuilt("Save &EEPROM Data");
-  actions.show_odr_overview = support.NotBuilt("&Display ODR Overview Data");
-  actions.export_odr = support.NotBuilt("&Export ODR Data");
-  actions.delete_odr = support.NotBuilt("ODR Delete");
+  PlugScreens(session);
+}
+
+void ReportsPart::PlugScreens(SessionPart& session) {
+  const auto show = [&main_form = session.main_form](Form& screen) {
+    return [&screen, &main_form] { screen.Show(Modality::kModal, &main_form); };
+  };
+  CommandActions& actions = session.main_form.actions;
+  actions.save_eeprom = show(save_eeprom);
+  actions.show_odr_overview = show(odr_view);
+  actions.export_odr = show(save_odr);
+  actions.delete_odr = show(odr_delete);
+  session.messages.show_upload_step = [this](const std::string& text, int step) {
+    save_odr.ShowStep(text, step);
+  };
 }
 
 }  // namespace lorimet

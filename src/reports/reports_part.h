@@ -2,6 +2,10 @@
 #pragma once
 
 #include "reports/eol_report.h"
+#include "reports/frmODRDelete.h"
+#include "reports/frmODRView.h"
+#include "reports/frmSaveEEPROM.h"
+#include "reports/frmSaveODR.h"
 
 namespace lorimet {
 
@@ -17,6 +21,13 @@ struct ReportsPart {
               ParametersPart& parameters, TestsPart& tests);
 
   ReportParts report;
+  frmODRView odr_view;
+  frmODRDelete odr_delete;
+  frmSaveEEPROM save_eeprom;
+  frmSaveODR save_odr;
+
+ private:
+  void PlugScreens(SessionPart& session);
 };
 
 }  // namespace lorimet
