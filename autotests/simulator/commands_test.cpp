@@ -34,6 +34,8 @@ constexpr Counts kCounts[] = {
     {"failure", 1, 12},
     {"heal", 1, 1},
     {"field", 2, 2},
+    {"transfer", 1, 20},
+    {"export", 1, 2},
     {"release", 1, 1},
     {"identity", 2, 2},
     {"fault", 3, 4},

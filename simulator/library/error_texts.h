@@ -7,6 +7,8 @@
 namespace lorimet::simulator {
 
 constexpr std::int32_t kStatusHealthy = 0;
+constexpr std::int32_t kStatusRecorderEnded = -66;
+constexpr std::int32_t kStatusRecorderStep = -67;
 constexpr std::int32_t kStatusLinkError = -100;
 constexpr std::int32_t kStatusLostMessage = -500;
 

@@ -68,6 +68,7 @@ void Link::TakeNextScenario() {
   built.simulation->bus = simulation_->bus;
   built.simulation->recording = simulation_->recording;
   scenario_ = *text;
+  EndTransfers();
   simulation_ = std::move(built.simulation);
   writer_.Follow(*simulation_);
   fault_locked_ = false;
@@ -101,6 +102,7 @@ void Link::Step() {
     StepReading();
     StepVehicle();
     StepStaticRead();
+    StepTransfers();
     StepStatuses();
   }
   RunDueCommands(*simulation_, Connected() ? std::optional(connected_for_) : std::nullopt);
@@ -138,7 +140,8 @@ void Link::StepReading() {
   silence_ += kStepMicroseconds;
   until_reading_ -= kStepMicroseconds;
   if (until_reading_ > 0) return;
-  until_reading_ += Microseconds(kReadingSeconds);
+  const bool transfers = upload_.Runs() || export_.Runs();
+  until_reading_ += Microseconds(transfers ? kTransferReadingSeconds : kReadingSeconds);
   if (simulation_->failures.Strike(FailureMode::kCableOut)) return;
   if (Reachable()) Read();
 }
@@ -149,6 +152,7 @@ void Link::Read() {
   const bool hit = ExchangeReading();
   if (simulation_->failures.Strike(FailureMode::kLostMessage) || hit) return LoseMessage();
   writer_.WriteLive(simulation_->trailer.Read());
+  if (upload_.Runs()) writer_.WriteBytesRemaining(upload_.Remaining());
   if (attained_ || simulation_->failures.Strike(FailureMode::kLinkNotAttained)) return;
   attained_ = true;
   if (link_status_ != nullptr) link_status_->bLinkAttained.Store(1);

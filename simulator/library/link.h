@@ -17,7 +17,9 @@
 #include "session/ecu_data.h"
 #include "simulator/library/bus_monitor.h"
 #include "simulator/library/data_log.h"
+#include "simulator/library/eeprom_upload.h"
 #include "simulator/library/record_writer.h"
+#include "simulator/library/recorder_export.h"
 #include "simulator/trailer/fault_store.h"
 #include "simulator/trailer/scenario.h"
 
@@ -29,7 +31,8 @@ class Link {
   // Lets `seconds` pass while an operation does not answer.
   using Waiter = std::function<void(double)>;
 
-  static constexpr double kReadingSeconds = 0.1;  // from reading to reading
+  static constexpr double kReadingSeconds = 0.1;          // from reading to reading
+  static constexpr double kTransferReadingSeconds = 0.5;  // the same during a transfer
   static constexpr double kFirstReadingSeconds = 0.2;
   static constexpr double kSilenceSeconds = 1.0;  // until, and between, link errors
   static constexpr double kHealthySeconds = 1.0;  // between statuses of 0
@@ -127,6 +130,8 @@ class Link {
  private:
   Link(std::string_view scenario, ScenarioResult built, StatusSink sink);
 
+  static constexpr std::string_view kAbortUpload = "Abort";
+
   enum class Reach { kLibrary, kEcu };  // whether a service needs the ECU's answer
 
   // Notes a request and lets what is armed against every kind of operation strike; the answer to
@@ -167,6 +172,12 @@ class Link {
   void StepStaticRead();
   void EndStuckRead();
   void TakeNextScenario();
+  Status Upload(std::string_view text);
+  Status Export(std::string_view path);
+  void StepTransfers();
+  void StepUpload();
+  void StepExport();
+  void EndTransfers();
 
   std::string scenario_;
   std::string scenario_error_;
@@ -179,6 +190,8 @@ class Link {
   std::function<std::string()> calendar_;
   std::vector<std::uint8_t> asked_;     // of a service, as on the bus
   std::vector<std::uint8_t> answered_;  // what its answer carries
+  EepromUpload upload_;
+  RecorderExport export_;
 
   bool attained_ = false;
   std::uint32_t handle_ = 0;

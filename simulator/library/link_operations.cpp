@@ -180,6 +180,7 @@ std::int32_t Link::Disconnect() {
     EndStuckRead();
     fault_locked_ = false;
     link_status_ = nullptr;
+    EndTransfers();
     writer_.Attach(nullptr);
     monitor_.Close();
     log_.Stop();
@@ -400,27 +401,35 @@ std::int32_t Link::BusMonitorStopRecord() {
   });
 }
 
+// --- Recorder and memory -------------------------------------------------------------------------
+
 std::int32_t Link::Trailer_ABS_QOR_DeleteODRData(std::uint8_t selector) {
   Asks({0x31, 0x99, selector});
   return Serve(Operation::Trailer_ABS_QOR_DeleteODRData, HexByte(selector), Reach::kEcu,
                [&] { return simulation_->trailer.DeleteRecorderData(selector); });
 }
 
+// An upload can be aborted whether the ECU answers or not.
 std::int32_t Link::Trailer_OVG_UploadData(char* text) {
-  return Serve(Operation::Trailer_OVG_UploadData, Quoted(text), Reach::kEcu,
-               [] { return kCommandNotSupported; });
+  const bool aborts = Text(text) == kAbortUpload;
+  return Serve(Operation::Trailer_OVG_UploadData, Quoted(text),
+               aborts ? Reach::kLibrary : Reach::kEcu, [&] { return Upload(Text(text)); });
 }
 
 std::int32_t Link::Trailer_OVG_UploadODRData(std::uint8_t step, std::uint8_t code,
                                              std::int32_t zero) {
   return Serve(Operation::Trailer_OVG_UploadODRData,
                std::to_string(step) + ", " + HexByte(code) + ", " + std::to_string(zero),
-               Reach::kEcu, [] { return kCommandNotSupported; });
+               Reach::kEcu, [&] { return export_.Fetch(step, code); });
 }
 
 std::int32_t Link::Trailer_OVG_ExportODRData(char* file) {
-  return Serve(Operation::Trailer_OVG_ExportODRData, Quoted(file), Reach::kEcu,
-               [] { return kCommandNotSupported; });
+  return Serve(Operation::Trailer_OVG_ExportODRData, Quoted(file), Reach::kEcu, [&] {
+    const Status status = Export(Text(file));
+    const auto& renamed = simulation_->exporting.renames;
+    if (status == kDone && renamed) PutWhole(file, *renamed);
+    return status;
+  });
 }
 
 // --- Session and services -----------------------------------------------------------------------

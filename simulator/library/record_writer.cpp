@@ -42,9 +42,23 @@ void RecordWriter::WriteVehicleAndSystem() {
 }
 
 void RecordWriter::WriteJobDone(std::int16_t value) {
-  if (record_ == nullptr) return;
-  const RecordField& field = *FindField("nLinkJobDone");
   known_.nLinkJobDone.Store(value);
+  PublishField("nLinkJobDone");
+}
+
+void RecordWriter::WriteBytesRemaining(double bytes) {
+  known_.dBytesRemaining.Store(bytes);
+  PublishField("dBytesRemaining");
+}
+
+void RecordWriter::WriteUploadStep(std::int16_t step) {
+  known_.nODRUploadStep.Store(step);
+  PublishField("nODRUploadStep");
+}
+
+void RecordWriter::PublishField(const char* name) {
+  if (record_ == nullptr) return;
+  const RecordField& field = *FindField(name);
   const auto override = simulation_->fields.Get(field, 0);
   StoreField(*record_, field, 0, override ? *override : LoadField(known_, field, 0));
 }

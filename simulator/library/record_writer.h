@@ -25,7 +25,10 @@ class RecordWriter {
   void WriteVehicle();
   // The same and the brake system, as a reading of those parameters tells both.
   void WriteVehicleAndSystem();
+  // The three fields of transfers, each when it is told.
   void WriteJobDone(std::int16_t value);
+  void WriteBytesRemaining(double bytes);
+  void WriteUploadStep(std::int16_t step);
 
  private:
   void FillLive(const LiveValues& live);
@@ -35,6 +38,7 @@ class RecordWriter {
   // Copies the fields of a group, and everywhere the values that a scenario has put.
   void Publish(FieldGroup group);
   void PublishOverrides();
+  void PublishField(const char* name);
 
   const Simulation* simulation_;
   ECUData* record_ = nullptr;

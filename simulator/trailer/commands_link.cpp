@@ -1,6 +1,7 @@
 // The link, its failures, and the record.
 #include "simulator/trailer/commands.h"
 
+#include <algorithm>
 #include <limits>
 
 namespace lorimet::simulator {
@@ -144,6 +145,65 @@ std::string RunRecord(Simulation& s, const Words& words) {
   return {};
 }
 
+// Restarts are asked for from the highest number of bytes on; "none" never asks.
+std::string ReadRestarts(const Words& words, std::vector<int>& restarts) {
+  std::vector<int> numbers;
+  for (std::size_t i = 1; i < words.size(); ++i) {
+    if (words[i] == "none" && words.size() == 2) break;
+    std::string error = ReadNumber(words[i], 1, 1e6, numbers.emplace_back());
+    if (!error.empty()) return error;
+  }
+  std::sort(numbers.rbegin(), numbers.rend());
+  restarts = numbers;
+  return {};
+}
+
+std::string RunTransfer(Simulation& s, const Words& words) {
+  UploadPlan plan = s.upload;
+  std::string error;
+  if (words[0] == "well" && words.size() == 1)
+    plan = {};
+  else if (words.size() == 1)
+    return BadValue(words[0]);
+  else if (words[0] == "restart_at")
+    error = ReadRestarts(words, plan.restart_at);
+  else if (words.size() > 2)
+    return BadValue(words[2]);
+  else if (words[0] == "size")
+    error = ReadNumber(words[1], 1, 1e6, plan.size);
+  else if (words[0] == "stall_at")
+    error = ReadNumber(words[1], 1, 1e6, plan.stall_at.emplace());
+  else if (words[0] == "backwards_at")
+    error = ReadNumber(words[1], 1, 1e6, plan.backwards_at.emplace());
+  else
+    error = BadValue(words[0]);
+  if (error.empty()) s.upload = plan;
+  return error;
+}
+
+std::string RunExport(Simulation& s, const Words& words) {
+  ExportPlan plan = s.exporting;
+  std::string error;
+  if (words.size() == 1 && words[0] == "well")
+    plan = {};
+  else if (words.size() == 1 && words[0] == "no_end")
+    plan.no_end = true;
+  else if (words.size() == 1)
+    return BadValue(words[0]);
+  else if (words[0] == "stall_step")
+    error = ReadNumber(words[1], 1, 9, plan.stall_step.emplace());
+  else if (words[0] == "end_at")
+    error = ReadNumber(words[1], 1, 9, plan.end_at.emplace());
+  else if (words[0] == "speed")
+    error = ReadNumber(words[1], 0.01, 1000, plan.speed);
+  else if (words[0] == "renames")
+    plan.renames = words[1];
+  else
+    error = BadValue(words[0]);
+  if (error.empty()) s.exporting = plan;
+  return error;
+}
+
 constexpr CommandRow kRows[] = {
     {"client_id", 1, 1, "0..127", nullptr, RunClientId},
     {"adapter", 1, 2, "on|off|vendor VALUE|protocol VALUE|device VALUE", nullptr, RunAdapter},
@@ -159,6 +219,10 @@ constexpr CommandRow kRows[] = {
     {"bus_load", 1, 1, "normal|full", nullptr, RunBusLoad},
     {"record", 1, 3, "renames [FILE COMMENTS]", nullptr, RunRecord},
     {"field", 2, 2, "NAME[(INDEX)] VALUE|none", nullptr, RunField},
+    {"transfer", 1, 20, "size|stall_at|backwards_at BYTES, restart_at BYTES...|none, well", nullptr,
+     RunTransfer},
+    {"export", 1, 2, "stall_step|end_at STEP, speed FACTOR, no_end, renames TEXT, well", nullptr,
+     RunExport},
     {"release", 1, 1, "NAME[(INDEX)]|all", nullptr, RunRelease},
 };
 

@@ -141,9 +141,6 @@ Seen LookRequest(const Simulation& s, const Words& words) {
   return Told(request.empty() ? "none" : request);
 }
 
-// This trailer's link moves no recorder data yet.
-Seen LookTransfer(const Simulation&, const Words&) { return Told("none"); }
-
 Seen LookBus(const Simulation& s, const Words& words) {
   if (words[0] == "sent") return Told(std::to_string(s.bus.Sent()));
   if (words[0] == "waiting") return Told(std::to_string(s.bus.Waiting()));
@@ -207,7 +204,7 @@ constexpr Row kRows[] = {
     {"bus", 1, "sent|waiting|monitored", LookBus},
     {"recording", 0, "", LORIMET32_SEE(Text(s.recording, "on", "off"))},
     {"odr", 1, "level1|level2|stop_light|abs", LookOdr},
-    {"transfer", 0, "", LookTransfer},
+    {"transfer", 0, "", LORIMET32_SEE(s.transfer)},
     {"faults", 0, "", LORIMET32_SEE(std::to_string(s.trailer.Faults().Faults().size()))},
     {"fault", 2, "SID FMI", LookFault},
     {"defects", 0, "", LookDefects},

@@ -50,6 +50,7 @@ struct Loaded {
   bool calibrated = true;
   Distances distances;
   RecorderCounters recorder;
+  RecorderMemory recorded;
   MemoryWords words;
 };
 
@@ -80,6 +81,36 @@ bool ReadCounter(const std::vector<std::string>& words, Loaded& loaded) {
   return false;
 }
 
+// The recorder's own: sums, histogram and events.
+bool ReadRecorded(const std::vector<std::string>& words, Loaded& loaded) {
+  const auto starts = ParseInteger(words[1], 0, UINT32_MAX);
+  const auto braking = ParseNumber(words[2]);
+  const auto trip = ParseNumber(words[3]);
+  if (!starts || !braking || !trip) return false;
+  loaded.recorded.starts = static_cast<std::uint32_t>(*starts);
+  loaded.recorded.braking_seconds = *braking;
+  loaded.recorded.trip_km = *trip;
+  return true;
+}
+
+bool ReadHistogram(const std::vector<std::string>& words, Loaded& loaded) {
+  for (std::size_t i = 0; i < RecorderMemory::kClasses; ++i) {
+    const auto seconds = ParseNumber(words[i + 1]);
+    if (!seconds) return false;
+    loaded.recorded.seconds_at_speed[i] = *seconds;
+  }
+  return true;
+}
+
+bool ReadEvent(const std::vector<std::string>& words, Loaded& loaded) {
+  const auto counter = ParseInteger(words[1], 0, 255);
+  const auto odometer = ParseInteger(words[2], 0, UINT32_MAX);
+  if (!counter || !odometer) return false;
+  loaded.recorded.Note(
+      {static_cast<std::uint8_t>(*counter), static_cast<std::uint32_t>(*odometer)});
+  return true;
+}
+
 bool ReadWord(const std::vector<std::string>& words, Loaded& loaded) {
   const auto address = ParseInteger(words[1], 0, 0xFFFFFF);
   const auto value = ParseInteger(words[2], 0, 0xFFFF);
@@ -106,6 +137,10 @@ bool ReadLine(const std::vector<std::string>& words, Loaded& loaded) {
   }
   if (words.size() == 4 && words[0] == "distances") return ReadDistances(words, loaded);
   if (words.size() == 3 && words[0] == "counter") return ReadCounter(words, loaded);
+  if (words.size() == 4 && words[0] == "recorded") return ReadRecorded(words, loaded);
+  if (words.size() == 1 + RecorderMemory::kClasses && words[0] == "histogram")
+    return ReadHistogram(words, loaded);
+  if (words.size() == 3 && words[0] == "event") return ReadEvent(words, loaded);
   if (words.size() == 3 && words[0] == "word") return ReadWord(words, loaded);
   if (words.size() == 2 && words[0] == "calibrated") {
     loaded.calibrated = words[1] == "yes";
@@ -139,6 +174,13 @@ std::string SaveState(const Trailer& trailer, std::string_view scenario) {
        << Exactly(distances.next_service) << '\n';
   for (const RecorderCounterFacts& facts : kRecorderCounters)
     body << "counter " << facts.name << ' ' << trailer.Recorder().Value(facts.counter) << '\n';
+  const RecorderMemory& recorded = trailer.Recorded();
+  body << "recorded " << recorded.starts << ' ' << Exactly(recorded.braking_seconds) << ' '
+       << Exactly(recorded.trip_km) << "\nhistogram";
+  for (const double seconds : recorded.seconds_at_speed) body << ' ' << Exactly(seconds);
+  body << '\n';
+  for (const RecorderEvent& event : recorded.events)
+    body << "event " << int{event.counter} << ' ' << event.odometer << '\n';
   for (const auto& [address, word] : trailer.Memory().Words())
     body << "word " << address << ' ' << word << '\n';
   const std::string text = body.str();
@@ -167,6 +209,7 @@ bool RestoreState(Trailer& trailer, std::string_view scenario, std::string_view 
   trailer.SetCalibrated(loaded.calibrated);
   trailer.Distance() = loaded.distances;
   trailer.Recorder() = loaded.recorder;
+  trailer.Recorded() = loaded.recorded;
   trailer.Memory() = loaded.words;
   trailer.Resume();
   return true;

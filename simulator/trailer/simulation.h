@@ -15,6 +15,7 @@
 #include "simulator/trailer/request_log.h"
 #include "simulator/trailer/schedule.h"
 #include "simulator/trailer/trailer.h"
+#include "simulator/trailer/transfer_plan.h"
 
 namespace lorimet::simulator {
 
@@ -44,6 +45,9 @@ struct Simulation {
   bool recording = false;     // a data log runs
   std::size_t monitored = 0;  // messages that wait in the monitor
   std::int32_t client_id = 0;
+  UploadPlan upload;
+  ExportPlan exporting;
+  std::string transfer = "none";             // that is under way, as `get` tells it
   std::vector<std::int32_t> statuses;        // to be posted at the next chance
   std::vector<std::string> complaints;       // of commands that waited, oldest first
   std::optional<std::string> next_scenario;  // the file of the trailer to take this one's place

@@ -44,9 +44,15 @@ void Trailer::Step() {
   if (Powered() && ++steps_ % kFaultSteps == 0) StepFaults();
 }
 
+void Trailer::Record(RecorderCounter counter) {
+  recorder_.Count(counter);
+  recorded_.Note({static_cast<std::uint8_t>(counter),
+                  static_cast<std::uint32_t>(std::max(0.0, distances_.odometer) * 10)});
+}
+
 void Trailer::StepPower() {
   electrics_.Step(StopLightCircuit());
-  if (StopLightCircuit() && !stop_light_was_on_) recorder_.Count(RecorderCounter::kStopLight);
+  if (StopLightCircuit() && !stop_light_was_on_) Record(RecorderCounter::kStopLight);
   stop_light_was_on_ = StopLightCircuit();
   if (!Powered() && was_powered_) GoOut();
   if (Powered() && !was_powered_) Start();
@@ -56,6 +62,8 @@ void Trailer::StepPower() {
 void Trailer::Start() {
   GoOut();
   restart_left_ = restart_steps_;
+  ++recorded_.starts;
+  ++kept_revision_;
   CheckItself();
 }
 
@@ -138,6 +146,7 @@ void Trailer::StepWheels() {
     };
     distances_.Step(speed(3), speed(2));
   }
+  recorded_.Step(Powered() ? driving_.Speed() : 0, StopLightCircuit());
   StepSlip();
   StepLateral();
 }
@@ -155,7 +164,7 @@ void Trailer::StepSlip() {
     const bool watched = Powered() && road > kSlipSpeed;
     if (watched && braked && !slipping && slip > kSlipBegins) {
       slipping = true;
-      recorder_.Count(RecorderCounter::kAbs);
+      Record(RecorderCounter::kAbs);
     } else if (!watched || slip < kSlipEnds) {
       slipping = false;
     }
@@ -172,7 +181,7 @@ void Trailer::StepLateral() {
     const bool leaning = watched && driving_.Lateral() > kLateralLevels[i].g;
     leaning_[i] = leaning ? leaning_[i] + 1 : 0;
     if (leaning_[i] == StepsIn(kLateralSeconds) && Vehicle().OverturnGuard())
-      recorder_.Count(kLateralLevels[i].counter);
+      Record(kLateralLevels[i].counter);
   }
 }
 

@@ -31,6 +31,7 @@
 #include "simulator/trailer/parameter_store.h"
 #include "simulator/trailer/plausibility.h"
 #include "simulator/trailer/recorder_counters.h"
+#include "simulator/trailer/recorder_memory.h"
 #include "simulator/trailer/session.h"
 #include "simulator/trailer/stop_lights.h"
 #include "simulator/trailer/vehicle_parameters.h"
@@ -128,6 +129,7 @@ class Trailer {
   Electrics& Electric() { return electrics_; }
   Distances& Distance() { return distances_; }
   RecorderCounters& Recorder() { return recorder_; }
+  RecorderMemory& Recorded() { return recorded_; }
   Session& Diagnosis() { return session_; }
   FaultStore& Faults() { return faults_; }
   ParameterStore& Parameters() { return parameters_; }
@@ -143,6 +145,7 @@ class Trailer {
   const Electrics& Electric() const { return electrics_; }
   const Distances& Distance() const { return distances_; }
   const RecorderCounters& Recorder() const { return recorder_; }
+  const RecorderMemory& Recorded() const { return recorded_; }
   const Session& Diagnosis() const { return session_; }
   const FaultStore& Faults() const { return faults_; }
   const ParameterStore& Parameters() const { return parameters_; }
@@ -164,6 +167,7 @@ class Trailer {
   void StepSlip();
   void StepLateral();
   void StepFaults();
+  void Record(RecorderCounter counter);
   void Start();
   void CheckItself();
   void GoOut();
@@ -208,6 +212,7 @@ class Trailer {
   Electrics electrics_;
   Distances distances_;
   RecorderCounters recorder_;
+  RecorderMemory recorded_;
   Session session_;
   FaultStore faults_;
   FaultMonitor monitor_;

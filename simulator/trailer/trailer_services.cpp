@@ -144,10 +144,15 @@ Status Trailer::IoControl(std::uint8_t id, std::span<std::uint8_t> data) {
 }
 
 Status Trailer::DeleteRecorderData(std::uint8_t selector) {
-  // The histogram and the trip accumulator have no counter.
+  constexpr std::uint8_t kOverview = 3;
   constexpr std::uint8_t kHistogram = 5;
   constexpr std::uint8_t kTripAccumulator = 8;
+  // The histogram and the trip accumulator have no counter.
   bool known = selector == kHistogram || selector == kTripAccumulator;
+  if (selector == kOverview) recorded_.starts = 0;
+  if (selector == kHistogram) recorded_.seconds_at_speed = {};
+  if (selector == kTripAccumulator) recorded_.trip_km = 0;
+  ++kept_revision_;
   for (const RecorderCounterFacts& facts : kRecorderCounters) {
     if (facts.selector != selector) continue;
     known = true;
