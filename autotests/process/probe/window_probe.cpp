@@ -8,6 +8,7 @@
 //     get WINDOW NAME PROPERTY     a property as text; the name "." is the window itself
 //     click WINDOW NAME            a button; of a message box "." is its only button
 //     trigger WINDOW NAME          a menu item or toolbar button
+//     choose WINDOW FILE           a file in a file dialog, by its whole path
 //     close WINDOW                 the window's close box
 //     exit                         the end of the application's event loop
 //
@@ -20,6 +21,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QGenericPlugin>
+#include <QLineEdit>
 #include <QMessageBox>
 #include <QPointer>
 #include <QSocketNotifier>
@@ -109,6 +111,11 @@ QString Do(const QStringList& words) {
   if (words.size() == 3 && words[0] == "trigger")
     return Later(Usable(Named<QAction>(ReachableWindow(words[1]), words[2])),
                  [](QAction* action) { action->trigger(); });
+  if (words.size() == 3 && words[0] == "choose")
+    return Later(ReachableWindow(words[1]), [file = words[2]](QWidget* window) {
+      Named<QLineEdit>(window, "fileNameEdit")->setText(file);
+      QMetaObject::invokeMethod(window, "accept");
+    });
   if (words.size() == 2 && words[0] == "close")
     return Later(ReachableWindow(words[1]), [](QWidget* window) { window->close(); });
   if (words == QStringList{"exit"})
