@@ -15,6 +15,8 @@ void ShowParameters(Script& script);
 void ShowVehicleTests(Script& script);
 // A whole sign-off for every configuration, each ending in a report and its pages.
 void ShowSignOffs(Script& script);
+// The data link's traffic, and a log of it.
+void ShowMonitor(Script& script);
 void ShowHelp(Script& script);
 // The end of the program.
 void ShowTheEnd(Script& script);
