@@ -9,7 +9,7 @@ function(lorimet_generate_views result)
     get_filename_component(form ${ui} NAME_WE)
     file(STRINGS ${ui} top REGEX "^ <widget class=" LIMIT_COUNT 1)
     string(REGEX REPLACE ".*class=\"([A-Za-z]+)\".*" "\\1" base "${top}")
-    string(APPEND includes "#include \"ui_${form}.h\"\n")
+    string(APPEND includes "#include \"../ui_${form}.h\"\n")
     string(APPEND rows
       "    {\"${form}\", [](QWidget* parent) -> QWidget* {\n"
       "       auto* window = new ${base}(parent);\n"
