@@ -1182,10 +1182,6 @@ frenado&#13;
         <translation>Detalles</translation>
     </message>
     <message>
-        <source>This screen is not built yet.</source>
-        <translation>Esta pantalla todavía no está disponible.</translation>
-    </message>
-    <message>
         <source>Sensor c air gap too large</source>
         <translation>Sensor c - entrehierro demasiado grande</translation>
     </message>

@@ -1182,10 +1182,6 @@ freinage&#13;
         <translation>Détails</translation>
     </message>
     <message>
-        <source>This screen is not built yet.</source>
-        <translation>Cet écran n&apos;est pas encore disponible.</translation>
-    </message>
-    <message>
         <source>Sensor c air gap too large</source>
         <translation>Capteur c - entrefer trop grand</translation>
     </message>

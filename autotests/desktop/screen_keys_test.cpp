@@ -59,7 +59,6 @@ class ScreenKeysTest : public ScreensTest {
             &program.parameters->lift_axle,
             &program.parameters->speed_switch,
             &program.support->about,
-            &program.support->not_built,
             &program.parameters->load_sensing_page,
             &program.parameters->overturn_guard_page,
             &program.monitor->screen,
@@ -196,8 +195,8 @@ TEST_F(ScreenKeysTest, FieldsThatOnlyShowTakeNoTyping) {
 }
 
 TEST_F(ScreenKeysTest, EscapeClosesWhatOnlyShowsAndNothingElse) {
-  const std::vector<std::string> closing = {"frmErr",   "frmRP1210Err", "frmFaults",
-                                            "frmAbout", "frmNotBuilt",  "frmODRView"};
+  const std::vector<std::string> closing = {"frmErr", "frmRP1210Err", "frmFaults", "frmAbout",
+                                            "frmODRView"};
   program.parameters->system_page.Load();
   for (Form* form : Screens()) {
     form->Show();

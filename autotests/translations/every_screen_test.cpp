@@ -106,17 +106,11 @@ TEST_F(EveryScreenTest, ShowsNoEnglishInFrench) {
   TestsPart& tests = *program.tests;
   ReportsPart& reports = *program.reports;
   Ecu().VehicleId.Store("1NL4S2M30A0012345");
-  desktop.OnModal("frmNotBuilt", [&](Form& form) {
-    EXPECT_NE(form.Caption(), "Pressure Test");
-    form.Unload();
-  });
-  support.not_built.ShowFor("&Pressure Test");
   const std::vector<Form*> forms = {
       &Main(),
       &support.err,
       &support.rp1210_error,
       &support.about,
-      &support.not_built,
       &support.pdf_link,
       &program.faults->fault_list,
       &parameters.system_page,

@@ -10,13 +10,8 @@ SupportPart::SupportPart(Desktop& desktop, Registry& registry, Process& process,
       err(desktop, dictionary),
       rp1210_error(desktop, dictionary),
       about(desktop, dictionary),
-      not_built(desktop, dictionary),
       pdf_link(desktop) {
   dictionary.on_language_changed.push_back([this] { help.BuildPath(); });
-}
-
-std::function<void()> SupportPart::NotBuilt(const std::string& caption) {
-  return [this, caption] { not_built.ShowFor(caption); };
 }
 
 }  // namespace lorimet
