@@ -15,6 +15,9 @@ void ShowParameters(Script& script);
 void ShowVehicleTests(Script& script);
 // A whole sign-off for every configuration, each ending in a report and its pages.
 void ShowSignOffs(Script& script);
+// What the recorder holds, shown and exported; and the EEPROM. Its deletion has no command that is
+// enabled.
+void ShowRecorder(Script& script);
 // The data link's traffic, and a log of it.
 void ShowMonitor(Script& script);
 void ShowHelp(Script& script);

@@ -99,6 +99,7 @@ void Plan(Script& script) {
   ShowVehicleTests(script);
   // Before the parameters: the vehicle id that their screens accept names all later reports.
   ShowSignOffs(script);
+  ShowRecorder(script);
   ShowMonitor(script);
   ShowParameters(script);
   ShowHelp(script);
