@@ -37,7 +37,7 @@ ui        src/*/frmX.ui and src/*/frmX.h own the same controls, each of a kind t
           show. On the side of the .ui, a widget is a control by its class, as WIDGETS says; a class
           that it does not list is none of this program's. Exempt are decorations, which no code
           touches: labels, frames and group boxes whose names begin with `static` or end in
-          `_caption`. On the side of the header, a control is a member of one of these forms, in the
+          `_caption`; nobody translates a text of theirs, so they have none. On the side of the header, a control is a member of one of these forms, in the
           form's class or in a class of the project that it derives from:
               TextBox txtSupply{*this, "txtSupply"};
               TextBox txtSupply{*this, "txtSupply", 2};            item txtSupply_2
@@ -429,6 +429,17 @@ def drawn_widgets(path):
         for e in elements]
 
 
+def decorations_with_texts(path):
+    """The decorations that show words: a form translates its controls' texts and no others."""
+    for element in xml.etree.ElementTree.parse(path).getroot().iter("widget"):
+        name = element.get("name", "")
+        if element.get("class") not in DECORATIONS or not DECORATION.match(name):
+            continue
+        for string in element.findall("property/string"):
+            if string.text and string.get("notr") != "true":
+                yield name, string.text
+
+
 def must_be_owned(name, widget):
     return widget in WIDGETS and not (widget in DECORATIONS and DECORATION.match(name))
 
@@ -450,6 +461,8 @@ def check_ui(tree):
             continue
         if window != Path(ui).stem:
             yield f"{ui}:1: ui: the window is named {window}"
+        for name, text in decorations_with_texts(tree.root / ui):
+            yield f'{ui}:1: ui: nobody translates "{text}" of the decoration {name}'
         declared, unknown = controls_of_form(tree, header)
         for word in unknown:
             yield f"{header}:1: ui: the extent of {word} is no number that stands in this header"

@@ -369,6 +369,19 @@ class LayerCheckTest(unittest.TestCase):
                     "QToolBar tbrABS", "QMenuBar menuBar", "QWidget centre")
         self.assert_clean()
 
+    def test_a_decoration_has_no_words(self):
+        path = self.root / "src/tests/frmPage.ui"
+        for words, said in (("<string>Supply</string>", True), ("<string/>", False),
+                            ('<string notr="true">-</string>', False)):
+            with self.subTest(words):
+                self.screen([], "QLabel lblSupply_caption")
+                path.write_text(path.read_text().replace(
+                    '_caption"/>', f'_caption"><property name="text">{words}</property></widget>'))
+                if said:
+                    self.assert_finds('nobody translates "Supply"')
+                else:
+                    self.assert_clean()
+
     def test_what_takes_input_is_no_decoration(self):
         for one in ("QLineEdit staticText", "QPushButton cmdStart_caption"):
             with self.subTest(one):

@@ -36,6 +36,11 @@ class frmODRView : public Form {
   explicit frmODRView(const OdrViewParts& parts);
 
   Frame Frame2{*this, "Frame2"};
+  Label lblTrailerID{*this, "lblTrailerID"};
+  Label lblABSCount{*this, "lblABSCount"};
+  Label lblStoplightCount{*this, "lblStoplightCount"};
+  Label lblLatAccel1{*this, "lblLatAccel1"};
+  Label lblLatAccel2{*this, "lblLatAccel2"};
   TextBox txtTrailerID{*this, "txtTrailerID"};
   TextBox txtABSCount{*this, "txtABSCount"};
   TextBox txtStoplightCount{*this, "txtStoplightCount"};
