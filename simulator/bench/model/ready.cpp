@@ -49,6 +49,7 @@ Ready TrailerOf(const std::string& label, const fs::path& file) {
 template <typename Facts>
 std::vector<std::string_view> Names(const Facts& table) {
   std::vector<std::string_view> names;
+  names.reserve(std::size(table));
   for (const auto& facts : table) names.push_back(facts.name);
   return names;
 }
@@ -132,7 +133,7 @@ std::string UsageOf(std::string_view line) {
   const std::string_view word = line.substr(0, line.find(' '));
   const std::string_view rest = line.substr(std::min(line.size(), word.size() + 1));
   const std::string_view name = rest.substr(0, rest.find(' '));
-  const auto told = [](std::string text, std::string_view usage) {
+  const auto told = [](const std::string& text, std::string_view usage) {
     return usage.empty() ? text : text + " " + std::string(usage);
   };
   if (word == "defect")
