@@ -220,13 +220,15 @@ bool QtFormView::IsCentred() const {
 
 // Translated words may need more room than the designer's.
 void QtFormView::FitToContents() {
+  // The layout makes the window as large as its least size by itself.
+  const bool centred = IsCentred();
+  const QSize before = window_->size();
   if (QLayout* layout = window_->layout()) layout->activate();
   QSize wanted = window_->sizeHint();
   if (height_is_set_) wanted.setHeight(window_->height());
   const QSize size = window_->size().expandedTo(wanted).boundedTo(
       AvailableScreen().size().expandedTo(window_->size()));
-  if (size == window_->size()) return;
-  const bool centred = IsCentred();
+  if (size == before) return;
   window_->resize(size);
   ReportSize();
   if (centred) {
