@@ -160,6 +160,7 @@ void CheckBox::ApplyDesign(const ControlDesign& design) {
 void Picture::Reset() {
   Control::Reset();
   image_.clear();
+  drawing_ = {};
 }
 
 void ProgressBar::Reset() {

@@ -16,16 +16,9 @@
 #include <vector>
 
 #include "platform/desktop.h"
+#include "platform/drawing.h"
 
 namespace lorimet {
-
-using Color = std::uint32_t;  // 0x00BBGGRR
-constexpr Color kColorWhite = 0xFFFFFF;
-constexpr Color kColorYellow = 0x00FFFF;
-constexpr Color kColorOrange = 0x0080FF;
-constexpr Color kColorRed = 0x0000FF;
-constexpr Color kColorButtonFace = 0x8000000F;  // the system's own colour of button faces
-constexpr Color kColorDefault = 0x80000005;     // the colour that the look gives the control
 
 enum class ControlKind {
   kTextBox,
@@ -324,7 +317,8 @@ class CheckBox : public CaptionedControl {
   bool value_ = false;
 };
 
-// Shows a picture by the name of its file without extension; empty shows what the designer chose.
+// Shows a picture by the name of its file without extension, or a drawing that has shapes; without
+// either it shows what the designer chose.
 class Picture : public Control {
  public:
   explicit Picture(ControlOwner& form, std::string name, int index = -1)
@@ -335,12 +329,20 @@ class Picture : public Control {
     return image_;
   }
   void SetImage(const std::string& image) { Assign(&Picture::image_, image, kContent); }
+  const lorimet::Drawing& Drawing() const {
+    Touch();
+    return drawing_;
+  }
+  void SetDrawing(const lorimet::Drawing& drawing) {
+    Assign(&Picture::drawing_, drawing, kContent);
+  }
 
  protected:
   void Reset() override;
 
  private:
   std::string image_;
+  lorimet::Drawing drawing_;
 };
 
 // A value beyond the range is kept as it is and shows as an empty or a full bar.

@@ -110,6 +110,9 @@ class Desktop {
   // The user pressed F1 on a form.
   std::function<void(const Form&)> on_help;
 
+  // The words of the user's language, for the names that only a screen reader says.
+  std::function<std::string(const std::string&)> translate;
+
   // Builds the window of a form that is being loaded and imports the design of its controls.
   virtual std::unique_ptr<FormView> CreateView(Form& form) = 0;
   // Runs events until the form is no longer visible.
@@ -136,6 +139,8 @@ class Desktop {
 
   LifeCycle life;
 
+  // Every form that there is, loaded or not, in the order of their making.
+  const std::vector<Form*>& Forms() const { return forms_; }
   // Loaded forms in the order of their loading.
   const std::vector<Form*>& LoadedForms() const { return loaded_forms_; }
   // Mirrors what the handlers changed. Every event ends with it.
@@ -175,6 +180,7 @@ class Desktop {
   bool MayTick(const Ticker& timer) const;
   void RunTick(Ticker& timer);
 
+  std::vector<Form*> forms_;
   std::vector<Form*> loaded_forms_;
   std::vector<FormView*> views_;
   std::vector<Ticker*> ticks_;    // posted

@@ -5,9 +5,14 @@
 
 namespace lorimet {
 
-Form::Form(Desktop& desktop, std::string name) : desktop_(desktop), name_(std::move(name)) {}
+Form::Form(Desktop& desktop, std::string name) : desktop_(desktop), name_(std::move(name)) {
+  desktop_.forms_.push_back(this);
+}
 
-Form::~Form() { DropView(); }
+Form::~Form() {
+  DropView();
+  std::erase(desktop_.forms_, this);
+}
 
 void Form::Load() {
   if (loaded_ || unloading_ || !desktop_.life.Open()) return;

@@ -114,6 +114,7 @@ class frmZeltMain : public Form {
   ControlArray<TextBox> txtSpeed{*this, "txtSpeed", 6};
   Frame fraWarningLamp{*this, "fraWarningLamp"};
   TextBox txtWarningLamp{*this, "txtWarningLamp"};
+  Picture picPlan{*this, "picPlan"};
   Frame fraAirPress{*this, "fraAirPress"};
   Label lblServiceBrake{*this, "lblServiceBrake"};
   Label lblSupply{*this, "lblSupply"};
@@ -189,6 +190,7 @@ class frmZeltMain : public Form {
   void UpdateLampAndVoltage();
   void UpdateSpeeds();
   void UpdateOdometer();
+  void ShowPlan();
   std::string NoData() const;
   std::string OrNoData(double value, double shown, const char* mask) const;
 

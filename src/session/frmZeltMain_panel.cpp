@@ -6,6 +6,7 @@
 #include "session/ecu_data.h"
 #include "session/frmZeltMain.h"
 #include "session/session_state.h"
+#include "session/trailer_plan.h"
 #include "support/dictionary.h"
 #include "support/numbers.h"
 #include "support/text.h"
@@ -95,7 +96,34 @@ void frmZeltMain::UpdateLiveData() {
     if (ecu.bNumSensors.Load() > 0 && ecu.bNumModulators.Load() > 0) UpdateSpeeds();
     UpdateOdometer();
   }
+  ShowPlan();
   GetDesktop().DoEvents();
+}
+
+// The trailer from above, with what the fields show.
+void frmZeltMain::ShowPlan() {
+  const ECUData& ecu = parts_.connection.records.ecu_data;
+  const auto ground = [](const TextBox& box) {
+    return box.BackColor() == kColorDefault ? kColorWhite : box.BackColor();
+  };
+  const auto with_caption = [&](const Label& label, const TextBox& box) {
+    return PlanValue{label.Caption() + "  " + box.Text(), ground(box)};
+  };
+  TrailerPlan plan;
+  plan.axles = ecu.nNumAxles.Load();
+  plan.mounting = ecu.nMounting.Load();
+  for (std::size_t i = 0; i < plan.sensors.size(); ++i)
+    plan.sensors[i] = ecu.nAxleSensors[i].Load();
+  for (int i = 2; i <= 5; ++i)
+    plan.speeds[static_cast<std::size_t>(i)] = {txtSpeed[i].Text(), ground(txtSpeed[i])};
+  plan.demand = with_caption(lblServiceBrake, txtServiceBrake);
+  plan.supply = with_caption(lblSupply, txtSupply);
+  plan.side1 = with_caption(lblBrake1Press, txtBrake1Press);
+  plan.side2 = with_caption(lblBrake2Press, txtBrake2Press);
+  plan.main_bellows = with_caption(lblMainBellows, txtMainBellows);
+  if (txtSteerBellows.Text() != kLiteralNoData)
+    plan.steer_bellows = with_caption(lblSteerBellows, txtSteerBellows);
+  picPlan.SetDrawing(DrawTrailerPlan(plan));
 }
 
 void frmZeltMain::UpdateSupplyAndSide2() {
@@ -180,6 +208,7 @@ void frmZeltMain::ClearStatusPanel() {
                        &txtMainBellows, &txtSteerBellows})
     blank(*box, kColorWhite);
   for (int i = 2; i <= 5; ++i) blank(txtSpeed[i], kColorWhite);
+  ShowPlan();
 }
 
 }  // namespace lorimet

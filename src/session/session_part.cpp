@@ -18,6 +18,9 @@ SessionPart::SessionPart(const Ports& ports, SupportPart& support)
   ports.desktop.on_help = [this, &support](const Form& form) {
     if (!main_form.Restarting()) support.help.ShowPage(form);
   };
+  ports.desktop.translate = [&support](const std::string& text) {
+    return support.dictionary.Translate(text);
+  };
   main_form.actions.show_about = [this, &support] {
     support.about.Show(Modality::kModal, &main_form);
   };

@@ -9,6 +9,8 @@
 #include <QKeyEvent>
 #include <QLabel>
 #include <QMenu>
+#include <QPainter>
+#include <QPicture>
 #include <QPixmap>
 #include <QProgressBar>
 #include <QPushButton>
@@ -18,6 +20,7 @@
 #include <QToolButton>
 #include <algorithm>
 
+#include "adapters/qt/qt_colors.h"
 #include "adapters/qt/qt_grid_binding.h"
 #include "adapters/qt/qt_text.h"
 #include "adapters/qt/qt_text_binding.h"
@@ -231,11 +234,47 @@ class PictureBinding : public WidgetBinding {
   void Mirror(unsigned changes) override {
     WidgetBinding::Mirror(changes);
     if (!(changes & Control::kContent) || label_ == nullptr) return;
+    if (!picture_.Drawing().shapes.empty()) return label_->setPicture(Draw(picture_.Drawing()));
     label_->setPixmap(picture_.Image().empty() ? design_ : Load(ToQString(picture_.Image())));
   }
   bool TakesFocus() const override { return false; }
 
  private:
+  QPicture Draw(const Drawing& drawing) const {
+    QPicture result;
+    QPainter painter(&result);
+    painter.setRenderHint(QPainter::Antialiasing);
+    for (const Shape& shape : drawing.shapes) DrawShape(shape, painter);
+    painter.end();
+    result.setBoundingRect(QRect(0, 0, drawing.width, drawing.height));
+    return result;
+  }
+
+  void DrawShape(const Shape& shape, QPainter& painter) const {
+    constexpr int kEdgeDarkness = 160;
+    constexpr double kLineWidth = 2.0;
+    constexpr double kCorner = 9.0;
+    const QRect place(shape.x, shape.y, shape.width, shape.height);
+    const QColor fill = ToQColor(shape.fill);
+    if (shape.kind == Shape::Kind::kLine) {
+      painter.setPen(QPen(fill, kLineWidth));
+      return painter.drawLine(place.topLeft(), place.topLeft() + QPoint(shape.width, shape.height));
+    }
+    painter.setPen(fill.darker(kEdgeDarkness));
+    painter.setBrush(fill);
+    if (shape.kind == Shape::Kind::kBox) painter.drawRect(place);
+    if (shape.kind == Shape::Kind::kRound) painter.drawRoundedRect(place, kCorner, kCorner);
+    if (shape.words.empty()) return;
+    // As small as it takes for the words of each language to have room.
+    QFont font = label_->font();
+    const QString words = ToQString(shape.words);
+    const double room = (shape.width - 12.0) / QFontMetricsF(font).horizontalAdvance(words);
+    if (room < 1.0) font.setPointSizeF(font.pointSizeF() * room);
+    painter.setFont(font);
+    painter.setPen(TextColorOn(fill));
+    painter.drawText(place, Qt::AlignCenter | Qt::TextDontClip, words);
+  }
+
   QPixmap Load(const QString& name) const {
     const QString path = QStringLiteral(":/pictures/") + name;
     const QString fine = path + QStringLiteral("@2x.png");

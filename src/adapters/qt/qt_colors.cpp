@@ -1,15 +1,11 @@
 #include "adapters/qt/qt_colors.h"
 
 #include <QColor>
+#include <algorithm>
 #include <cmath>
 
 namespace lorimet {
 namespace {
-
-QColor ToQColor(Color color) {
-  return QColor(static_cast<int>(color & 0xFF), static_cast<int>((color >> 8) & 0xFF),
-                static_cast<int>((color >> 16) & 0xFF));
-}
 
 double Linear(double channel) {
   return channel <= 0.04045 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
@@ -20,15 +16,23 @@ double Luminance(const QColor& color) {
          0.0722 * Linear(color.blueF());
 }
 
-// Black or white, whichever stands out more: the ratio is (lighter + 0.05) / (darker + 0.05).
-QString TextColorOn(const QColor& background) {
-  const double luminance = Luminance(background);
-  const double with_black = (luminance + 0.05) / 0.05;
-  const double with_white = 1.05 / (luminance + 0.05);
-  return with_black >= with_white ? QStringLiteral("#000000") : QStringLiteral("#ffffff");
+}  // namespace
+
+QColor ToQColor(Color color) {
+  return QColor(static_cast<int>(color & 0xFF), static_cast<int>((color >> 8) & 0xFF),
+                static_cast<int>((color >> 16) & 0xFF));
 }
 
-}  // namespace
+double Contrast(const QColor& one, const QColor& other) {
+  const double lighter = std::max(Luminance(one), Luminance(other));
+  const double darker = std::min(Luminance(one), Luminance(other));
+  return (lighter + 0.05) / (darker + 0.05);
+}
+
+QColor TextColorOn(const QColor& background) {
+  const bool black = Contrast(Qt::black, background) >= Contrast(Qt::white, background);
+  return black ? Qt::black : Qt::white;
+}
 
 QString BackColorRule(Color color, const QString& object_name) {
   if (color == kColorDefault) return {};
@@ -37,7 +41,7 @@ QString BackColorRule(Color color, const QString& object_name) {
     return QStringLiteral("#%1 { background-color: palette(window); }").arg(object_name);
   const QColor background = ToQColor(color);
   return QStringLiteral("#%1 { background-color: %2; color: %3; }")
-      .arg(object_name, background.name(), TextColorOn(background));
+      .arg(object_name, background.name(), TextColorOn(background).name());
 }
 
 }  // namespace lorimet
