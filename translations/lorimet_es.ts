@@ -3233,5 +3233,77 @@ frenado&#13;
         <source>Trailer Plan</source>
         <translation>Plano del remolque</translation>
     </message>
+    <message>
+        <source>Plan of the trailer</source>
+        <translation>Plano del remolque</translation>
+    </message>
+    <message>
+        <source>Live values</source>
+        <translation>Valores en vivo</translation>
+    </message>
+    <message>
+        <source>Step %1 of %2</source>
+        <translation>Paso %1 de %2</translation>
+    </message>
+    <message>
+        <source>Clearing the faults. The ECU restarts, which takes some seconds.</source>
+        <translation>Borrando los fallos. La ECU se reinicia, lo que tarda unos segundos.</translation>
+    </message>
+    <message>
+        <source>Front left wheel</source>
+        <translation>Rueda delantera izquierda</translation>
+    </message>
+    <message>
+        <source>Middle left wheel</source>
+        <translation>Rueda central izquierda</translation>
+    </message>
+    <message>
+        <source>Rear left wheel</source>
+        <translation>Rueda trasera izquierda</translation>
+    </message>
+    <message>
+        <source>Front right wheel</source>
+        <translation>Rueda delantera derecha</translation>
+    </message>
+    <message>
+        <source>Middle right wheel</source>
+        <translation>Rueda central derecha</translation>
+    </message>
+    <message>
+        <source>Rear right wheel</source>
+        <translation>Rueda trasera derecha</translation>
+    </message>
+    <message>
+        <source>Mounting of the ECU</source>
+        <translation>Montaje de la ECU</translation>
+    </message>
+    <message>
+        <source>Braking pressure (psi)</source>
+        <translation>Presión de frenado (psi)</translation>
+    </message>
+    <message>
+        <source>Front left tire</source>
+        <translation>Neumático delantero izquierdo</translation>
+    </message>
+    <message>
+        <source>Middle left tire</source>
+        <translation>Neumático central izquierdo</translation>
+    </message>
+    <message>
+        <source>Rear left tire</source>
+        <translation>Neumático trasero izquierdo</translation>
+    </message>
+    <message>
+        <source>Front right tire</source>
+        <translation>Neumático delantero derecho</translation>
+    </message>
+    <message>
+        <source>Middle right tire</source>
+        <translation>Neumático central derecho</translation>
+    </message>
+    <message>
+        <source>Rear right tire</source>
+        <translation>Neumático trasero derecho</translation>
+    </message>
 </context>
 </TS>

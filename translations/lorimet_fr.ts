@@ -3233,5 +3233,77 @@ freinage&#13;
         <source>Trailer Plan</source>
         <translation>Plan de la remorque</translation>
     </message>
+    <message>
+        <source>Plan of the trailer</source>
+        <translation>Plan de la remorque</translation>
+    </message>
+    <message>
+        <source>Live values</source>
+        <translation>Valeurs en direct</translation>
+    </message>
+    <message>
+        <source>Step %1 of %2</source>
+        <translation>Étape %1 sur %2</translation>
+    </message>
+    <message>
+        <source>Clearing the faults. The ECU restarts, which takes some seconds.</source>
+        <translation>Effacement des défauts. L&apos;ECU redémarre, ce qui prend quelques secondes.</translation>
+    </message>
+    <message>
+        <source>Front left wheel</source>
+        <translation>Roue avant gauche</translation>
+    </message>
+    <message>
+        <source>Middle left wheel</source>
+        <translation>Roue centrale gauche</translation>
+    </message>
+    <message>
+        <source>Rear left wheel</source>
+        <translation>Roue arrière gauche</translation>
+    </message>
+    <message>
+        <source>Front right wheel</source>
+        <translation>Roue avant droite</translation>
+    </message>
+    <message>
+        <source>Middle right wheel</source>
+        <translation>Roue centrale droite</translation>
+    </message>
+    <message>
+        <source>Rear right wheel</source>
+        <translation>Roue arrière droite</translation>
+    </message>
+    <message>
+        <source>Mounting of the ECU</source>
+        <translation>Montage de l&apos;ECU</translation>
+    </message>
+    <message>
+        <source>Braking pressure (psi)</source>
+        <translation>Pression de freinage (psi)</translation>
+    </message>
+    <message>
+        <source>Front left tire</source>
+        <translation>Pneu avant gauche</translation>
+    </message>
+    <message>
+        <source>Middle left tire</source>
+        <translation>Pneu central gauche</translation>
+    </message>
+    <message>
+        <source>Rear left tire</source>
+        <translation>Pneu arrière gauche</translation>
+    </message>
+    <message>
+        <source>Front right tire</source>
+        <translation>Pneu avant droit</translation>
+    </message>
+    <message>
+        <source>Middle right tire</source>
+        <translation>Pneu central droit</translation>
+    </message>
+    <message>
+        <source>Rear right tire</source>
+        <translation>Pneu arrière droit</translation>
+    </message>
 </context>
 </TS>

@@ -123,6 +123,8 @@ void frmFaults::ClearAll() {
   const bool had_focus = FocusedControl() == &cmdClearAll;
   cmdClearAll.SetEnabled(false);
   SetMousePointer(MousePointer::kHourglass);
+  lblWait.SetCaption(
+      Translated("Clearing the faults. The ECU restarts, which takes some seconds."));
   parts_.faults.ClearFaultGrid(grdFaults, txtRepair);
   parts_.faults.ClearFaults();
   parts_.desktop.DoEvents();
@@ -131,6 +133,7 @@ void frmFaults::ClearAll() {
   // The user can have closed the list while the events ran.
   if (!Loaded()) return;
   SetMousePointer(MousePointer::kDefault);
+  lblWait.SetCaption("");
   cmdClearAll.SetEnabled(true);
   if (had_focus) cmdClearAll.SetFocus();
   parts_.faults.FillFaultGrid(grdFaults, txtRepair);

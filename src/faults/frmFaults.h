@@ -32,6 +32,7 @@ class frmFaults : public Form {
   explicit frmFaults(const FaultListParts& parts);
 
   Label lblGrid{*this, "lblGrid"};
+  Label lblWait{*this, "lblWait"};
   DataGrid grdFaults{*this, "grdFaults"};
   Frame Frame1{*this, "Frame1"};
   Label Label1{*this, "Label1"};

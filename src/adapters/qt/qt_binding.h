@@ -1,6 +1,8 @@
 // The tie between one control and what shows it.
 #pragma once
 
+#include <QString>
+
 #include <functional>
 
 #include "platform/controls.h"
@@ -46,6 +48,9 @@ class Binding {
     static_cast<void>(key);
     return false;
   }
+  // What is copied of a widget that only shows: what is selected, or all of it. Empty where the
+  // toolkit copies by itself.
+  virtual QString CopyText() const { return {}; }
   // True when the keyboard focus can stand on this control.
   virtual bool TakesFocus() const { return true; }
 

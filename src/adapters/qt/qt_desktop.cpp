@@ -24,6 +24,7 @@ namespace {
 
 constexpr int kDoEventsMilliseconds = 50;
 constexpr std::uint32_t kShortestWait = 100;  // ms, for which nobody's hand is quick enough
+constexpr std::uint32_t kLongWait = 1000;     // ms, from which on the pointer says so
 constexpr std::chrono::milliseconds kRepaintEvery{10};
 
 std::int64_t Microseconds() {
@@ -31,6 +32,22 @@ std::int64_t Microseconds() {
              std::chrono::steady_clock::now().time_since_epoch())
       .count();
 }
+
+// The pointer of waiting, over all windows, for as long as one stands.
+class WaitPointer {
+ public:
+  explicit WaitPointer(bool on) : on_(on) {
+    if (on_) QApplication::setOverrideCursor(Qt::WaitCursor);
+  }
+  WaitPointer(const WaitPointer&) = delete;
+  WaitPointer& operator=(const WaitPointer&) = delete;
+  ~WaitPointer() {
+    if (on_) QApplication::restoreOverrideCursor();
+  }
+
+ private:
+  const bool on_;
+};
 
 // While one stands, what the user does reaches no window and is gone; what is in a pipe stays.
 class InputGate : public QObject {
@@ -195,6 +212,7 @@ void QtDesktop::Wait(std::uint32_t milliseconds) {
   if (milliseconds < kShortestWait) return std::this_thread::sleep_for(whole);
   const auto end = std::chrono::steady_clock::now() + whole;
   auto left = whole;
+  const WaitPointer pointer(milliseconds >= kLongWait);
   WaitWhile([&] {
     std::this_thread::sleep_for(std::min(left, kRepaintEvery));
     left = std::chrono::duration_cast<std::chrono::milliseconds>(end -

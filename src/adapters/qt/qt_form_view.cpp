@@ -3,10 +3,13 @@
 #include <QAbstractButton>
 #include <QAction>
 #include <QApplication>
+#include <QClipboard>
+#include <QContextMenuEvent>
 #include <QDialog>
 #include <QKeyEvent>
 #include <QLayout>
 #include <QMainWindow>
+#include <QMenu>
 #include <QMenuBar>
 #include <QMouseEvent>
 #include <QPixmap>
@@ -27,6 +30,20 @@ namespace {
 
 QRect AvailableScreen() { return QGuiApplication::primaryScreen()->availableGeometry(); }
 
+// What a window can have of the screen, below the title bar that it gets.
+QSize RoomOnScreen() {
+  constexpr int kTitleBar = 36;
+  return AvailableScreen().size() - QSize(0, kTitleBar);
+}
+
+// What a title takes with the icon and the buttons beside it.
+int TitleWidth(const QWidget& window) {
+  constexpr int kBeside = 150;
+  QFont font = window.font();
+  font.setBold(true);
+  return QFontMetrics(font).horizontalAdvance(window.windowTitle()) + kBeside;
+}
+
 // Menus are the platform's: no form sees a key on its way to one.
 bool IsOfMenus(const QWidget* widget) {
   for (; widget != nullptr; widget = widget->parentWidget())
@@ -45,7 +62,10 @@ bool HasManyLines(const Control& control, const QWidget* widget) {
 }  // namespace
 
 QtFormView::QtFormView(ViewHost& host, Form& form, QWidget* window)
-    : host_(host), form_(form), window_(window), field_names_(*window) {
+    : host_(host),
+      form_(form),
+      window_(window),
+      field_names_(*window, form.GetDesktop().translate) {
   window_->setObjectName(ToQString(form.Name()));
   // The window's life is the form's; only the form ends it.
   window_->setAttribute(Qt::WA_DeleteOnClose, false);
@@ -95,7 +115,7 @@ void QtFormView::ImportForm() {
   if (QLayout* layout = window_->layout()) layout->activate();
   QSize size = window_->sizeHint();
   if (window_->testAttribute(Qt::WA_Resized)) size = size.expandedTo(window_->size());
-  window_->resize(size.boundedTo(AvailableScreen().size()));
+  window_->resize(size.boundedTo(RoomOnScreen()));
   form_.ImportDesign(FromWidgetText(window_->windowTitle()), window_->width() * kTwipsPerPixel,
                      window_->height() * kTwipsPerPixel);
   height_ = form_.Height();
@@ -158,8 +178,11 @@ void QtFormView::Flush() {
   bool words_changed = false;
   for (Control* control : controls) {
     const unsigned changes = control->TakeChanges();
-    if (changes & Control::kCaption) words_changed = true;
-    by_control_.at(control)->Mirror(changes);
+    Binding& binding = *by_control_.at(control);
+    binding.Mirror(changes);
+    if ((changes & Control::kCaption) ||
+        ((changes & Control::kText) && field_names_.Uses(binding.Widget())))
+      words_changed = true;
   }
   if (words_changed) field_names_.Refresh();
   if (std::exchange(form_changed_, false)) MirrorForm();
@@ -225,9 +248,10 @@ void QtFormView::FitToContents() {
   const QSize before = window_->size();
   if (QLayout* layout = window_->layout()) layout->activate();
   QSize wanted = window_->sizeHint();
+  wanted.setWidth(std::max(wanted.width(), TitleWidth(*window_)));
   if (height_is_set_) wanted.setHeight(window_->height());
-  const QSize size = window_->size().expandedTo(wanted).boundedTo(
-      AvailableScreen().size().expandedTo(window_->size()));
+  const QSize size =
+      window_->size().expandedTo(wanted).boundedTo(RoomOnScreen().expandedTo(window_->size()));
   if (size == before) return;
   window_->resize(size);
   ReportSize();
@@ -353,6 +377,8 @@ bool QtFormView::WidgetEvent(QWidget& widget, QEvent& event) {
       MouseReleased(widget, static_cast<QMouseEvent&>(event));
       return alive == nullptr;
     }
+    case QEvent::ContextMenu:
+      return ShowCopyMenu(widget, static_cast<QContextMenuEvent&>(event).globalPos());
     case QEvent::MouseButtonDblClick: {
       const bool is_left = static_cast<QMouseEvent&>(event).button() == Qt::LeftButton;
       Binding* binding = BindingOf(&widget);
@@ -389,7 +415,8 @@ bool QtFormView::KeyPressed(QWidget& widget, QKeyEvent& key) {
     const int character = TypedCharacter(key);
     if (passed && character != 0 && form.Loaded()) passed = form.UserKeyPress(character);
   });
-  if (!alive) return true;
+  // A field that takes no keys can still be copied.
+  if (!alive || CopyByKey(widget, key)) return true;
   // These two close and confirm a dialog, wherever in it the focus is.
   const bool is_dialog_key =
       window_->inherits("QDialog") && (key.key() == Qt::Key_Escape || IsEnter(key));
@@ -398,6 +425,28 @@ bool QtFormView::KeyPressed(QWidget& widget, QKeyEvent& key) {
     return true;
   }
   return ActOnKey(widget, key);
+}
+
+bool QtFormView::CopyByKey(const QWidget& widget, const QKeyEvent& key) const {
+  const Binding* binding = key.matches(QKeySequence::Copy) ? BindingOf(&widget) : nullptr;
+  const QString text = binding != nullptr ? binding->CopyText() : QString();
+  if (!text.isEmpty()) QGuiApplication::clipboard()->setText(text);
+  return !text.isEmpty();
+}
+
+bool QtFormView::ShowCopyMenu(const QWidget& widget, const QPoint& place) {
+  const Binding* binding = BindingOf(&widget);
+  const QString text = binding != nullptr ? binding->CopyText() : QString();
+  if (text.isEmpty()) return false;
+  auto* menu = new QMenu(window_);
+  menu->setObjectName(QStringLiteral("mnuCopy"));
+  menu->setAttribute(Qt::WA_DeleteOnClose);
+  // In the toolkit's own words, as in the menus of the fields that can be typed in.
+  QAction* copy = menu->addAction(QCoreApplication::translate("QWidgetTextControl", "&Copy"));
+  copy->setShortcut(QKeySequence::Copy);
+  connect(copy, &QAction::triggered, menu, [text] { QGuiApplication::clipboard()->setText(text); });
+  menu->popup(place);
+  return true;
 }
 
 bool QtFormView::ActOnKey(QWidget& widget, const QKeyEvent& key) {

@@ -60,6 +60,8 @@ class QtFormView : public QObject, public FormView {
   bool KeyPressed(QWidget& widget, QKeyEvent& key);
   bool IsFirstReceiver(QWidget& widget, const QKeyEvent& key);
   bool ActOnKey(QWidget& widget, const QKeyEvent& key);
+  bool CopyByKey(const QWidget& widget, const QKeyEvent& key) const;
+  bool ShowCopyMenu(const QWidget& widget, const QPoint& place);
   void OpenMenuBar();
   void PressButton(QAbstractButton& button);
   bool PressDefaultButton(const QKeyEvent& key);

@@ -1,8 +1,6 @@
 #include "adapters/qt/qt_grid_binding.h"
 
-#include <QClipboard>
 #include <QFont>
-#include <QGuiApplication>
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QPalette>
@@ -24,7 +22,6 @@ GridBinding::GridBinding(DataGrid& grid, QTableWidget* table, const BindingSite&
   table->verticalHeader()->hide();
   table->horizontalHeader()->setDefaultAlignment(Qt::AlignCenter);
   table->horizontalHeader()->setHighlightSections(false);
-  table->horizontalHeader()->setStretchLastSection(true);
   table->setMouseTracking(true);
   QObject::connect(table, &QTableWidget::currentCellChanged, site.lifetime,
                    [&grid, dispatch = site.dispatch](int row) {
@@ -49,10 +46,6 @@ void GridBinding::Mirror(unsigned changes) {
 }
 
 bool GridBinding::HandleKey(const QKeyEvent& key) {
-  if (key.matches(QKeySequence::Copy)) {
-    CopySelection();
-    return true;
-  }
   const bool is_enter = key.key() == Qt::Key_Return || key.key() == Qt::Key_Enter;
   const int row = table_->currentRow();
   if (!is_enter || !HasLink() || row < 0) return false;
@@ -80,7 +73,17 @@ void GridBinding::MirrorContent() {
   table_->setHorizontalHeaderLabels(captions);
   table_->setRowCount(grid_.RowCount());
   for (int row = 0; row < grid_.RowCount(); ++row) FillRow(row);
-  table_->resizeColumnsToContents();
+  FitColumns();
+}
+
+// What is spare goes to the column with the links, which has the longest words, or to the last one.
+void GridBinding::FitColumns() {
+  int widest = table_->columnCount() - 1;
+  for (int column = widest; column >= 0; --column)
+    if (IsLink(column)) widest = column;
+  for (int column = 0; column < table_->columnCount(); ++column)
+    table_->horizontalHeader()->setSectionResizeMode(
+        column, column == widest ? QHeaderView::Stretch : QHeaderView::ResizeToContents);
 }
 
 void GridBinding::FillRow(int row) {
@@ -88,6 +91,7 @@ void GridBinding::FillRow(int row) {
   for (int column = 0; column < table_->columnCount(); ++column) {
     const auto place = static_cast<std::size_t>(column);
     auto* item = new QTableWidgetItem(place < cells.size() ? ToWidgetText(cells[place]) : "");
+    item->setToolTip(item->text());  // for a column that is too narrow for it
     if (IsLink(column)) {
       QFont font = table_->font();
       font.setUnderline(true);
@@ -108,7 +112,7 @@ void GridBinding::MirrorFocus() {
   }
 }
 
-void GridBinding::CopySelection() const {
+QString GridBinding::CopyText() const {
   QStringList lines;
   for (int row = 0; row < table_->rowCount(); ++row) {
     if (!table_->selectionModel()->isRowSelected(row)) continue;
@@ -117,7 +121,7 @@ void GridBinding::CopySelection() const {
       cells << table_->item(row, column)->text();
     lines << cells.join(QLatin1Char('\t'));
   }
-  if (!lines.isEmpty()) QGuiApplication::clipboard()->setText(lines.join(QLatin1Char('\n')));
+  return lines.join(QLatin1Char('\n'));
 }
 
 }  // namespace lorimet

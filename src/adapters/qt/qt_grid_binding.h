@@ -13,6 +13,7 @@ class GridBinding : public WidgetBinding {
 
   void Mirror(unsigned changes) override;
   bool HandleKey(const QKeyEvent& key) override;
+  QString CopyText() const override;  // the selected rows, their cells parted by tabulators
 
  private:
   bool IsLink(int column) const;
@@ -20,7 +21,7 @@ class GridBinding : public WidgetBinding {
   void MirrorContent();
   void MirrorFocus();
   void FillRow(int row);
-  void CopySelection() const;
+  void FitColumns();
 
   DataGrid& grid_;
   QTableWidget* table_;

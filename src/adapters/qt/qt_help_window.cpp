@@ -128,6 +128,9 @@ void HelpWindow::BuildSides() {
   layout->addWidget(results_, 1);
   sides_->addTab(contents_, QString());
   sides_->addTab(search, QString());
+  connect(sides_, &QTabWidget::currentChanged, this, [this, search] {
+    if (sides_->currentWidget() == search) words_->setFocus();
+  });
 }
 
 void HelpWindow::SetWords() {

@@ -5,6 +5,8 @@
 #include <QFont>
 #include <QIcon>
 #include <QPalette>
+#include <QRegularExpression>
+#include <QString>
 #include <QStringList>
 #include <QStyleFactory>
 
@@ -14,41 +16,72 @@ namespace {
 constexpr double kFontPoints = 10.0;
 
 struct ColorRow {
+  const char* name;
+  const char* light;
+  const char* dark;
+};
+
+// A light grey-blue bench with white fields and one accent, and the same by night. Words have a
+// contrast of at least 7 to 1 with what they stand on, faint ones 4.5, the edges of what can be
+// used 3.
+constexpr ColorRow kColors[] = {
+    {"ground", "#eef1f4", "#22282e"},     // of windows
+    {"frame", "#f7f9fb", "#2a3138"},      // of what stands together
+    {"field", "#ffffff", "#1a1f24"},      // that can be typed in
+    {"stripe", "#f3f7fa", "#20262c"},     // of every other row
+    {"shown", "#e9eef2", "#333b43"},      // of a field that only shows
+    {"off", "#e6eaee", "#2b3238"},        // of what is disabled
+    {"words", "#14202b", "#eef2f5"},      // on all of these
+    {"faint", "#5b6670", "#aab5bf"},      // words of what is disabled, hints
+    {"edge", "#76828d", "#8f9ba6"},       // of fields and buttons
+    {"line", "#c3ccd5", "#48525c"},       // between things
+    {"button", "#fbfcfd", "#343c44"},     // the ground of one
+    {"under", "#e8f0f7", "#3d4853"},      // the same below the mouse
+    {"pressed", "#d3e2f0", "#4a5763"},    // and pressed
+    {"bar", "#e4e9ee", "#2b3238"},        // of menus and heads
+    {"accent", "#1f5f99", "#7ab8ee"},     // the focus, what is selected
+    {"on accent", "#ffffff", "#0d1a26"},  // words there
+    {"chosen", "#1f5f99", "#2f7cc0"},     // a box that is ticked, in white
+    {"title", "#174a78", "#a5d0f4"},      // of a frame
+    {"link", "#0b5394", "#8cc4f5"},       // words to follow
+    {"tip", "#fffbe6", "#38382a"},        // the ground of one
+    {"done", "#8fcaa6", "#3f7d58"},       // of a bar
+};
+
+struct RoleRow {
   QPalette::ColorRole role;
   const char* normal;
   const char* disabled;
 };
 
-// A light grey-blue bench with white fields and one accent. Text on its ground has a contrast of
-// at least 7 to 1, of disabled text 3.5 to 1.
-constexpr ColorRow kColors[] = {
-    {QPalette::Window, "#eef1f4", "#eef1f4"},
-    {QPalette::WindowText, "#1b2733", "#6f7a85"},
-    {QPalette::Base, "#ffffff", "#e6eaee"},
-    {QPalette::AlternateBase, "#f3f7fa", "#e6eaee"},
-    {QPalette::Text, "#14202b", "#6f7a85"},
-    {QPalette::PlaceholderText, "#6f7a85", "#6f7a85"},
-    {QPalette::Button, "#e4e9ee", "#e9edf0"},
-    {QPalette::ButtonText, "#1b2733", "#6f7a85"},
-    {QPalette::BrightText, "#ffffff", "#ffffff"},
-    {QPalette::ToolTipBase, "#fffbe6", "#fffbe6"},
-    {QPalette::ToolTipText, "#1b2733", "#1b2733"},
-    {QPalette::Highlight, "#1f5f99", "#b9c4ce"},
-    {QPalette::HighlightedText, "#ffffff", "#ffffff"},
-    {QPalette::Link, "#0b5394", "#6f7a85"},
-    {QPalette::LinkVisited, "#0b5394", "#6f7a85"},
-    {QPalette::Light, "#ffffff", "#ffffff"},
-    {QPalette::Midlight, "#f4f6f8", "#f4f6f8"},
-    {QPalette::Mid, "#b4bec8", "#c9d1d8"},
-    {QPalette::Dark, "#8b97a3", "#a9b3bc"},
-    {QPalette::Shadow, "#5b6670", "#8b97a3"},
+constexpr RoleRow kRoles[] = {
+    {QPalette::Window, "ground", "ground"},
+    {QPalette::WindowText, "words", "faint"},
+    {QPalette::Base, "field", "off"},
+    {QPalette::AlternateBase, "stripe", "off"},
+    {QPalette::Text, "words", "faint"},
+    {QPalette::PlaceholderText, "faint", "faint"},
+    {QPalette::Button, "bar", "off"},
+    {QPalette::ButtonText, "words", "faint"},
+    {QPalette::BrightText, "on accent", "on accent"},
+    {QPalette::ToolTipBase, "tip", "tip"},
+    {QPalette::ToolTipText, "words", "words"},
+    {QPalette::Highlight, "accent", "line"},
+    {QPalette::HighlightedText, "on accent", "words"},
+    {QPalette::Link, "link", "faint"},
+    {QPalette::LinkVisited, "link", "faint"},
+    {QPalette::Light, "field", "field"},
+    {QPalette::Midlight, "frame", "frame"},
+    {QPalette::Mid, "line", "line"},
+    {QPalette::Dark, "edge", "line"},
+    {QPalette::Shadow, "faint", "edge"},
 };
 
 // By kind only, so that the colour of one field, which goes by its name, is the stronger.
 constexpr char kSheet[] = R"(
 QGroupBox {
-  background-color: #f7f9fb;
-  border: 1px solid #c3ccd5;
+  background-color: @frame;
+  border: 1px solid @line;
   border-radius: 4px;
   margin-top: 0.7em;
   padding: 0.6em 4px 4px 4px;
@@ -58,83 +91,125 @@ QGroupBox::title {
   subcontrol-position: top left;
   left: 8px;
   padding: 0 4px;
-  color: #174a78;
+  color: @title;
   font-weight: 600;
 }
-QGroupBox::title:disabled { color: #6f7a85; }
+QGroupBox::title:disabled { color: @faint; }
 QLineEdit, QPlainTextEdit, QTextEdit, QTableWidget, QListWidget, QTreeWidget, QTextBrowser {
-  background-color: #ffffff;
-  color: #14202b;
-  border: 1px solid #b4bec8;
+  background-color: @field;
+  border: 1px solid @edge;
   border-radius: 3px;
-  selection-background-color: #1f5f99;
-  selection-color: #ffffff;
+  selection-background-color: @accent;
+  selection-color: @on accent;
 }
 QLineEdit { padding: 1px 4px; min-height: 20px; }
+QLineEdit[readOnly="true"], QPlainTextEdit[readOnly="true"] {
+  background-color: @shown;
+  border: 1px solid @line;
+  border-bottom: 1px solid @edge;
+  border-radius: 0;
+}
+QMainWindow QLineEdit[readOnly="true"], QMainWindow QPlainTextEdit[readOnly="true"] {
+  background-color: @field;
+}
+QLineEdit[frame="false"] { background-color: transparent; border: none; }
 QLineEdit:disabled, QPlainTextEdit:disabled, QTextEdit:disabled {
-  background-color: #e6eaee;
-  color: #6f7a85;
-  border-color: #ccd4db;
+  background-color: @off;
+  color: @faint;
+  border-color: @line;
 }
 QLineEdit:focus, QPlainTextEdit:focus, QTextEdit:focus, QTableWidget:focus, QListWidget:focus,
-QTreeWidget:focus, QTextBrowser:focus { border: 2px solid #1f5f99; }
+QTreeWidget:focus, QTextBrowser:focus { border: 2px solid @accent; }
 QLineEdit:focus { padding: 0 3px; }
-QTableWidget { alternate-background-color: #f3f7fa; gridline-color: #dde3e8; }
+QTableWidget { alternate-background-color: @stripe; gridline-color: @line; }
 QHeaderView::section {
-  background-color: #e4e9ee;
-  color: #1b2733;
+  background-color: @bar;
+  color: @words;
   border: none;
-  border-right: 1px solid #c3ccd5;
-  border-bottom: 1px solid #c3ccd5;
+  border-right: 1px solid @line;
+  border-bottom: 1px solid @line;
   padding: 4px 8px;
   font-weight: 600;
 }
 QPushButton {
-  background-color: #fbfcfd;
-  color: #1b2733;
-  border: 1px solid #a3afba;
+  background-color: @button;
+  color: @words;
+  border: 1px solid @edge;
   border-radius: 4px;
   padding: 3px 14px;
   min-height: 20px;
-  min-width: 64px;
+  min-width: 80px;
 }
-QPushButton:hover { background-color: #e8f0f7; border-color: #1f5f99; }
-QPushButton:pressed { background-color: #d3e2f0; }
-QPushButton:default { border: 2px solid #1f5f99; padding: 2px 13px; }
-QPushButton:focus { border: 2px solid #1f5f99; padding: 2px 13px; }
-QPushButton:disabled { background-color: #e9edf0; color: #6f7a85; border-color: #ccd4db; }
+QPushButton:hover { background-color: @under; border-color: @accent; }
+QPushButton:pressed { background-color: @pressed; }
+QPushButton:default { border: 2px solid @accent; padding: 2px 13px; }
+QPushButton:focus { border: 2px solid @accent; padding: 2px 13px; background-color: @under; }
+QPushButton:disabled { background-color: @off; color: @faint; border-color: @line; }
 QRadioButton, QCheckBox { spacing: 6px; min-height: 20px; }
-QRadioButton:focus, QCheckBox:focus { border: 1px dashed #1f5f99; border-radius: 3px; }
+QRadioButton::indicator, QCheckBox::indicator {
+  width: 13px;
+  height: 13px;
+  background-color: @field;
+  border: 1px solid @edge;
+}
+QRadioButton::indicator { border-radius: 7px; }
+QCheckBox::indicator { border-radius: 2px; }
+QRadioButton::indicator:checked { border: 4px solid @chosen; width: 7px; height: 7px; }
+QCheckBox::indicator:checked { background-color: @chosen; image: url(:/pictures/check.png); }
+QRadioButton::indicator:disabled, QCheckBox::indicator:disabled {
+  background-color: @off;
+  border-color: @line;
+}
+QRadioButton::indicator:checked:disabled { border-color: @faint; }
+QCheckBox::indicator:checked:disabled { background-color: @faint; }
+QRadioButton:focus, QCheckBox:focus { border: 1px dashed @accent; border-radius: 3px; }
 QProgressBar {
-  background-color: #ffffff;
-  border: 1px solid #b4bec8;
+  background-color: @field;
+  color: @words;
+  border: 1px solid @edge;
   border-radius: 3px;
   text-align: center;
   min-height: 18px;
 }
-QProgressBar::chunk { background-color: #8fcaa6; border-radius: 2px; }
-QMenuBar { background-color: #e4e9ee; border-bottom: 1px solid #c3ccd5; }
+QProgressBar::chunk { background-color: @done; border-radius: 2px; }
+QMenuBar { background-color: @bar; border-bottom: 1px solid @line; }
 QMenuBar::item { padding: 4px 10px; background: transparent; }
-QMenuBar::item:selected { background-color: #1f5f99; color: #ffffff; }
-QMenuBar::item:disabled { color: #8b97a3; }
+QMenuBar::item:selected { background-color: @accent; color: @on accent; }
+QMenuBar::item:disabled { color: @faint; }
 QToolBar {
-  background-color: #eef1f4;
-  border-bottom: 1px solid #c3ccd5;
+  background-color: @ground;
+  border-bottom: 1px solid @line;
   spacing: 3px;
   padding: 2px;
 }
 QToolButton { padding: 3px; border: 1px solid transparent; border-radius: 4px; }
-QToolButton:hover { background-color: #e8f0f7; border-color: #a3afba; }
-QToolButton:focus { border: 2px solid #1f5f99; padding: 2px; }
-QToolTip { background-color: #fffbe6; color: #1b2733; border: 1px solid #8b97a3; padding: 2px; }
+QToolButton:hover { background-color: @under; border-color: @edge; }
+QToolButton:focus { border: 2px solid @accent; padding: 2px; }
+QToolTip { background-color: @tip; color: @words; border: 1px solid @edge; padding: 2px; }
 )";
 
-QPalette WorkshopPalette() {
+QString ColorOf(const QString& name, bool dark) {
+  for (const ColorRow& row : kColors)
+    if (name == QLatin1String(row.name)) return QLatin1String(dark ? row.dark : row.light);
+  qFatal("There is no colour \"%s\".", qPrintable(name));
+}
+
+QString Sheet(bool dark) {
+  QString sheet = QLatin1String(kSheet);
+  for (const ColorRow& row : kColors)
+    sheet.replace(QRegularExpression(QStringLiteral("@%1\\b").arg(QLatin1String(row.name))),
+                  QLatin1String(dark ? row.dark : row.light));
+  return sheet;
+}
+
+QPalette WorkshopPalette(bool dark) {
   QPalette palette;
-  for (const ColorRow& row : kColors) {
-    palette.setColor(QPalette::Active, row.role, QColor(QLatin1String(row.normal)));
-    palette.setColor(QPalette::Inactive, row.role, QColor(QLatin1String(row.normal)));
-    palette.setColor(QPalette::Disabled, row.role, QColor(QLatin1String(row.disabled)));
+  for (const RoleRow& row : kRoles) {
+    const QColor normal(ColorOf(QLatin1String(row.normal), dark));
+    palette.setColor(QPalette::Active, row.role, normal);
+    palette.setColor(QPalette::Inactive, row.role, normal);
+    palette.setColor(QPalette::Disabled, row.role,
+                     QColor(ColorOf(QLatin1String(row.disabled), dark)));
   }
   return palette;
 }
@@ -161,12 +236,15 @@ QIcon ProgramIcon() {
 
 }  // namespace
 
-void ApplyStyle(QApplication& application) {
+void ApplyStyle(QApplication& application, Look look) {
+  constexpr int kHalfLight = 128;
+  const bool by_night = QApplication::palette().color(QPalette::Window).lightness() < kHalfLight;
+  const bool dark = look == Look::kAsTheDesktop ? by_night : look == Look::kDark;
   QApplication::setStyle(QStyleFactory::create(QStringLiteral("Fusion")));
-  QApplication::setPalette(WorkshopPalette());
+  QApplication::setPalette(WorkshopPalette(dark));
   QApplication::setFont(WorkshopFont());
   QApplication::setWindowIcon(ProgramIcon());
-  application.setStyleSheet(QLatin1String(kSheet));
+  application.setStyleSheet(Sheet(dark));
 }
 
 }  // namespace lorimet

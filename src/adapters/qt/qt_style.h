@@ -5,7 +5,9 @@ class QApplication;
 
 namespace lorimet {
 
-// Called once, before the first window.
-void ApplyStyle(QApplication& application);
+enum class Look { kAsTheDesktop, kLight, kDark };
+
+// Called once, before the first window. As the desktop means dark where its own windows are.
+void ApplyStyle(QApplication& application, Look look = Look::kAsTheDesktop);
 
 }  // namespace lorimet

@@ -1,10 +1,12 @@
 #include "adapters/qt/qt_text_binding.h"
 
 #include <QGuiApplication>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QScrollBar>
 #include <QTextCursor>
+#include <QTextDocumentFragment>
 #include <QTextEdit>
 #include <QTimer>
 #include <QVariant>
@@ -33,9 +35,14 @@ class TextBinding : public WidgetBinding {
     if (changes & Control::kText) {
       const QString text = ToWidgetText(box_.Text());
       // The same text again would lose the user's place in it.
-      if (Read() != text) Write(text);
+      if (const QString shown = Shown(text); Read() != text && Read() != shown) Write(shown);
     }
     if ((changes & (Control::kText | Control::kSelection)) && box_.AllSelected()) SelectAll();
+  }
+
+  QString CopyText() const override {
+    if (!IsReadOnly()) return {};
+    return HasSelection() ? Selected() : Read();
   }
 
   void MouseReleased() override {
@@ -46,6 +53,10 @@ class TextBinding : public WidgetBinding {
   }
 
  protected:
+  // What is shown of a text that code has set.
+  virtual QString Shown(const QString& text) const { return text; }
+  virtual bool IsReadOnly() const = 0;
+  virtual QString Selected() const = 0;
   virtual QString Read() const = 0;
   virtual void Write(const QString& text) = 0;
   virtual void SelectAll() = 0;
@@ -73,7 +84,24 @@ class LineBinding : public TextBinding {
     return design;
   }
 
+  // In a field of numbers the comma, also that of the keypad, is the decimal point.
+  bool HandleKey(const QKeyEvent& key) override {
+    const bool takes_numbers = edit_->inputMethodHints() & Qt::ImhFormattedNumbersOnly;
+    if (!takes_numbers || edit_->isReadOnly() || key.text() != QLatin1String(",")) return false;
+    edit_->insert(QStringLiteral("."));
+    return true;
+  }
+
  protected:
+  // Blanks that fill a field up to its size are in nobody's way: the control keeps them until the
+  // user types.
+  QString Shown(const QString& text) const override {
+    qsizetype end = text.size();
+    while (end > 0 && text.at(end - 1) == QLatin1Char(' ')) --end;
+    return text.left(end);
+  }
+  bool IsReadOnly() const override { return edit_->isReadOnly(); }
+  QString Selected() const override { return edit_->selectedText(); }
   QString Read() const override { return edit_->text(); }
   void Write(const QString& text) override {
     Limit(text.size());
@@ -125,6 +153,8 @@ class PageBinding : public TextBinding {
   }
 
  protected:
+  bool IsReadOnly() const override { return edit_->isReadOnly(); }
+  QString Selected() const override { return edit_->textCursor().selection().toPlainText(); }
   QString Read() const override { return edit_->toPlainText(); }
   void Write(const QString& text) override {
     if (!runs_on_)
