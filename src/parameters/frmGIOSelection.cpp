@@ -4,6 +4,7 @@
 #include "parameters/gio_functions.h"
 #include "parameters/parameter_map.h"
 #include "parameters/side_dialog.h"
+#include "parameters/wizard_step.h"
 #include "support/dictionary.h"
 
 namespace lorimet {
@@ -31,6 +32,7 @@ frmGIOSelection::frmGIOSelection(const WizardParts& parts)
 
 void frmGIOSelection::OnLoad() {
   parts_.dictionary.TranslateForm(*this);
+  lblStep.SetCaption(StepWords(parts_, WizardStep::kGio));
   CenterOnScreen();
   ResetFunctionBlocks(parts_.image);
   ApplyWrites(kAtLoad, parts_.image);

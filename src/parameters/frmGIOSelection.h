@@ -14,6 +14,7 @@ class frmGIOSelection : public Form {
   explicit frmGIOSelection(const WizardParts& parts);
 
   ControlArray<CheckBox> chkGIO{*this, "chkGIO", 9};
+  Label lblStep{*this, "lblStep"};
   Button cmdPrev{*this, "cmdPrev"};
   Button cmdNext{*this, "cmdNext"};
   Button cmdClose{*this, "cmdClose"};

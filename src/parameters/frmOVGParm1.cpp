@@ -1,6 +1,7 @@
 #include "parameters/frmOVGParm1.h"
 
 #include "parameters/parameter_map.h"
+#include "parameters/wizard_step.h"
 #include "session/ecu_data.h"
 #include "support/dictionary.h"
 
@@ -66,6 +67,7 @@ void frmOVGParm1::OnLoad() {
   bLoading_ = true;
   nAxlePos_ = {};
   parts_.dictionary.TranslateForm(*this);
+  lblStep.SetCaption(StepWords(parts_, WizardStep::kSystem));
   CenterOnScreen();
   Select(optVehicleType, parts_.ecu_data.nVehicleType.Load());
   LoadMounting();

@@ -51,6 +51,7 @@ class frmOVGParm1 : public Form {
   Picture picOVGFwd{*this, "picOVGFwd"};
   Picture picOVGRear{*this, "picOVGRear"};
 
+  Label lblStep{*this, "lblStep"};
   Button cmdNext{*this, "cmdNext"};
   Button cmdClose{*this, "cmdClose"};
 

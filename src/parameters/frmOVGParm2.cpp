@@ -2,6 +2,7 @@
 
 #include "parameters/conversions.h"
 #include "parameters/parameter_map.h"
+#include "parameters/wizard_step.h"
 #include "session/ecu_data.h"
 #include "support/dictionary.h"
 #include "support/numbers.h"
@@ -115,6 +116,7 @@ bool frmOVGParm2::IsUnused(const ControlArray<TextBox>& column, int row) const {
 
 void frmOVGParm2::OnLoad() {
   parts_.dictionary.TranslateForm(*this);
+  lblStep.SetCaption(StepWords(parts_, WizardStep::kLoadSensing));
   CenterOnScreen();
   bAirSuspension_ = parts_.choices.air_suspension;
   ShowDiagram();

@@ -58,6 +58,7 @@ class frmOVGParm2 : public Form {
   Label lblTrailerType{*this, "lblTrailerType"};
   TextBox txtTrailerType{*this, "txtTrailerType"};
 
+  Label lblStep{*this, "lblStep"};
   Button cmdPrev{*this, "cmdPrev"};
   Button cmdNext{*this, "cmdNext"};
   Button cmdClose{*this, "cmdClose"};

@@ -5,6 +5,7 @@
 #include "parameters/parameter_map.h"
 #include "parameters/parameter_writing.h"
 #include "parameters/record_refresh.h"
+#include "parameters/wizard_step.h"
 #include "platform/desktop.h"
 #include "session/ecu_data.h"
 #include "support/dictionary.h"
@@ -50,6 +51,7 @@ frmOVGParm3::frmOVGParm3(const WizardParts& parts, Clock& clock, Faults& faults,
 
 void frmOVGParm3::OnLoad() {
   parts_.dictionary.TranslateForm(*this);
+  lblStep.SetCaption(StepWords(parts_, WizardStep::kOverturnGuard));
   CenterOnScreen();
   const ParameterImage& image = parts_.image;
   optOVGStatus[kNotAvailable].SetEnabled(false);

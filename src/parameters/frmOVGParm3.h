@@ -27,6 +27,7 @@ class frmOVGParm3 : public Form {
   ControlArray<TextBox> txtTireSize{*this, "txtTireSize", 2};
   ControlArray<TextBox> txtNumTeeth{*this, "txtNumTeeth", 2};
   TextBox txtStatus{*this, "txtStatus"};
+  Label lblStep{*this, "lblStep"};
   Button cmdSaveToECU{*this, "cmdSaveToECU"};
   Button cmdSaveToFile{*this, "cmdSaveToFile"};
   Button cmdPrev{*this, "cmdPrev"};
