@@ -39,7 +39,7 @@ class FieldsTest : public ScreensTest {
 
 TEST_F(FieldsTest, AFieldThatOnlyShowsIsCopiedWholeOrAsSelected) {
   Main().txtSerialNum.SetText("NV-1001");
-  Pump();
+  desktop.Flush();
   auto* field = Find<QLineEdit>(Main(), "txtSerialNum");
   CopyByMenu(field);
   EXPECT_EQ(Copied(), "NV-1001");
@@ -51,7 +51,7 @@ TEST_F(FieldsTest, AFieldThatOnlyShowsIsCopiedWholeOrAsSelected) {
 
 TEST_F(FieldsTest, AClickOnThePanelKeepsWhatIsSelected) {
   Main().txtSerialNum.SetText("NV-1001");
-  Pump();
+  desktop.Flush();
   auto* field = Find<QLineEdit>(Main(), "txtSerialNum");
   field->selectAll();
   road::Click(Find<QLineEdit>(Main(), "txtPartNum"));
@@ -134,14 +134,15 @@ TEST_F(FieldsTest, TheFieldsOfTheLoadsSayWhatTheyHold) {
   frmOVGParm2& page = program.parameters->load_sensing_page;
   page.Show();
   Pump();
-  EXPECT_EQ(Find<QWidget>(page, "txtAxleLoadUnladen_0")->accessibleName(),
+  EXPECT_EQ(Find<QWidget>(page, "txtAxleLoadUnladen_0")->accessibleName().toStdString(),
             "Axle load (kg), Unladen, Axle 1");
-  EXPECT_EQ(Find<QWidget>(page, "txtBrakingPressLadenPm_K1_2")->accessibleName(),
+  EXPECT_EQ(Find<QWidget>(page, "txtBrakingPressLadenPm_K1_2")->accessibleName().toStdString(),
             "Pm_K1, Braking pressure (psi), Laden, Axle 3");
   frmOVGParm3& last = program.parameters->overturn_guard_page;
   last.Show();
   Pump();
-  EXPECT_EQ(Find<QWidget>(last, "txtNumTeeth_1")->accessibleName(), "Number of Teeth, Axle e-f");
+  EXPECT_EQ(Find<QWidget>(last, "txtNumTeeth_1")->accessibleName().toStdString(),
+            "Axle e-f, Number of Teeth");
 }
 
 TEST_F(FieldsTest, ALongWaitHasThePointerOfWaiting) {

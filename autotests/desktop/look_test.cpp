@@ -230,6 +230,10 @@ class Inspection {
       Complain(QString("the window is larger than the screen: %1x%2")
                    .arg(window_.width())
                    .arg(window_.height()));
+    for (const QWidget* widget : widgets_)
+      if (const auto* area = qobject_cast<const QScrollArea*>(widget))
+        if (area->horizontalScrollBar()->maximum() > 0)
+          Complain(area->objectName() + ": must be scrolled sideways");
     for (QWidget* widget : widgets_)
       if (IsControl(widget) && !InScrollArea(widget) && !window_.rect().contains(PlaceOf(widget)))
         Complain(widget->objectName() + ": is beyond the edge");

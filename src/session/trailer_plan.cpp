@@ -11,10 +11,10 @@ constexpr Color kTyre = 0x4A4038;
 constexpr Color kSupplyRed = 0x3030C0;  // as the couplings of trailers are marked
 constexpr Color kControlYellow = 0x20B0E0;
 
-constexpr int kWidth = 330;
+constexpr int kWidth = 286;
 constexpr int kHeight = 268;
-constexpr int kBodyLeft = 76;
-constexpr int kBodyRight = 254;
+constexpr int kBodyLeft = 65;
+constexpr int kBodyRight = 221;
 constexpr int kBodyTop = 26;
 constexpr int kMiddle = kWidth / 2;
 constexpr int kFirstRow = 156;  // the middle of the foremost axle
@@ -62,12 +62,12 @@ class Plan {
 };
 
 void DrawAir(const TrailerPlan& plan, Plan& drawing) {
-  constexpr int kLeft = kBodyLeft + 8;
-  constexpr int kInner = kBodyRight - kBodyLeft - 16;
+  constexpr int kLeft = kBodyLeft + 4;
+  constexpr int kInner = kBodyRight - kBodyLeft - 8;
   drawing.Words(0, 0, kWidth, plan.demand.words);
   drawing.Line(kLeft + 14, kLineHeight, 0, kBodyTop + 10 - kLineHeight, kSupplyRed);
   drawing.Line(kMiddle + 60, kLineHeight, 0, 64 - kLineHeight, kControlYellow);
-  drawing.Round(kLeft, kBodyTop + 8, kInner - 34, kLineHeight + 2, plan.supply.ground,
+  drawing.Round(kLeft, kBodyTop + 8, kInner - 26, kLineHeight + 2, plan.supply.ground,
                 plan.supply.words);
   drawing.Box(kLeft, 64, kInner, kLineHeight, plan.side1.ground, plan.side1.words);
   drawing.Box(kLeft, 64 + kLineHeight, kInner, kLineHeight, plan.side2.ground, plan.side2.words);
@@ -79,7 +79,7 @@ void DrawAir(const TrailerPlan& plan, Plan& drawing) {
 void DrawWheel(const TrailerPlan& plan, int speed, bool left, int middle, Plan& drawing) {
   constexpr int kTyreWidth = 16;
   constexpr int kTyreHeight = 34;
-  constexpr int kValueWidth = 54;
+  constexpr int kValueWidth = 45;
   drawing.Box(left ? kBodyLeft - kTyreWidth - 1 : kBodyRight + 1, middle - kTyreHeight / 2,
               kTyreWidth, kTyreHeight, kTyre, LetterOf(speed));
   if (speed == 0) return;

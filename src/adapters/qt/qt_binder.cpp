@@ -254,6 +254,7 @@ class PictureBinding : public WidgetBinding {
     constexpr int kEdgeDarkness = 160;
     constexpr double kLineWidth = 2.0;
     constexpr double kCorner = 9.0;
+    constexpr double kFilled = 0.92;  // of the width, by words
     const QRect place(shape.x, shape.y, shape.width, shape.height);
     const QColor fill = ToQColor(shape.fill);
     if (shape.kind == Shape::Kind::kLine) {
@@ -268,7 +269,7 @@ class PictureBinding : public WidgetBinding {
     // As small as it takes for the words of each language to have room.
     QFont font = label_->font();
     const QString words = ToQString(shape.words);
-    const double room = (shape.width - 12.0) / QFontMetricsF(font).horizontalAdvance(words);
+    const double room = shape.width * kFilled / QFontMetricsF(font).horizontalAdvance(words);
     if (room < 1.0) font.setPointSizeF(font.pointSizeF() * room);
     painter.setFont(font);
     painter.setPen(TextColorOn(fill));

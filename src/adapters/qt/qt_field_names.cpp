@@ -159,7 +159,8 @@ void FieldNames::FindLabels(QWidget& field, Row& row) const {
 
 QString FieldNames::Words(const QWidget* label) const {
   if (label == nullptr) return {};
-  return label->accessibleName().isEmpty() ? Shown(label) : label->accessibleName();
+  const bool designed = std::ranges::find(designed_, label, &Designed::first) != designed_.end();
+  return designed ? label->accessibleName() : Shown(label);
 }
 
 void FieldNames::Refresh() const {

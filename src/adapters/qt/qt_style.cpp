@@ -152,9 +152,9 @@ QRadioButton::indicator, QCheckBox::indicator {
   background-color: @field;
   border: 1px solid @edge;
 }
-QRadioButton::indicator { border-radius: 7px; }
+QRadioButton::indicator { width: 14px; height: 14px; border-radius: 8px; }
 QCheckBox::indicator { border-radius: 2px; }
-QRadioButton::indicator:checked { border: 4px solid @chosen; width: 7px; height: 7px; }
+QRadioButton::indicator:checked { border: 5px solid @chosen; width: 6px; height: 6px; }
 QCheckBox::indicator:checked { background-color: @chosen; image: url(:/pictures/check.png); }
 QRadioButton::indicator:disabled, QCheckBox::indicator:disabled {
   background-color: @off;
@@ -185,6 +185,8 @@ QToolBar {
 QToolButton { padding: 3px; border: 1px solid transparent; border-radius: 4px; }
 QToolButton:hover { background-color: @under; border-color: @edge; }
 QToolButton:focus { border: 2px solid @accent; padding: 2px; }
+QTabBar { border: 1px solid transparent; }
+QTabBar:focus { border: 1px dashed @accent; }
 QToolTip { background-color: @tip; color: @words; border: 1px solid @edge; padding: 2px; }
 )";
 
