@@ -37,6 +37,11 @@ ${rows}  };
 ")
   file(CONFIGURE OUTPUT ${file} CONTENT "${text}" @ONLY)
   set(${result} ${file} ${headers} PARENT_SCOPE)
+  # What builds of former days made in their own folder would be found first.
+  file(GLOB former ${CMAKE_BINARY_DIR}/lorimet_qt_autogen/include/ui_*.h)
+  if(former)
+    file(REMOVE ${former})
+  endif()
   # Static analysis reads what includes them.
   add_custom_target(lorimet_windows_autogen DEPENDS ${headers})
 endfunction()
