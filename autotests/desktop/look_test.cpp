@@ -4,6 +4,7 @@
 // Each of the screen sizes is a process of its own. LORIMET_LOOK_PICTURES names a folder that takes
 // a picture of every screen.
 #include <QAccessible>
+#include <QDialog>
 #include <QDir>
 #include <QFontMetrics>
 #include <QGroupBox>
@@ -345,6 +346,9 @@ class EveryScreen : public ScreensTest, public testing::WithParamInterface<Scree
       Ecu().dWheelSpeed[i].Store(12.3 + static_cast<double>(10 * language + i));
     program.session->main_form.DisplayCompId();
     program.session->main_form.UpdateLiveData();
+    QTimer modals;
+    QObject::connect(&modals, &QTimer::timeout, [this, language] { LookAtModals(language); });
+    modals.start(0);
     for (Form* form : std::vector<Form*>(desktop.Forms())) {
       form->Load();
       boxes = 0;
@@ -357,6 +361,20 @@ class EveryScreen : public ScreensTest, public testing::WithParamInterface<Scree
     for (std::size_t i = desktop.LoadedForms().size(); i-- > 1;)
       if (i < desktop.LoadedForms().size()) desktop.LoadedForms()[i]->Unload();
     Pump();
+  }
+
+  // A screen that opens itself while it loads is looked at where it stands.
+  void LookAtModals(std::size_t language) {
+    QWidget* window = QApplication::activeModalWidget();
+    if (window == nullptr || window->objectName() == "msgBox") return;
+    if (auto* dialog = qobject_cast<QDialog*>(window); window->objectName() == "dlgFile")
+      return dialog->reject();
+    for (Form* form : std::vector<Form*>(desktop.LoadedForms())) {
+      if (desktop.Window(*form) != window) continue;
+      Look(*form, language);
+      form->Unload();
+      if (form->Loaded()) form->Hide();
+    }
   }
 
   void Look(Form& form, std::size_t language) {
