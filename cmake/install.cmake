@@ -24,6 +24,8 @@ install(FILES README.md CHANGELOG.md
 
 install(TARGETS Lorimet32 LIBRARY DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT simulator
   RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT simulator)
+install(TARGETS lorimet_bench_window RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR}
+  COMPONENT simulator OPTIONAL)
 install(DIRECTORY simulator/scenarios DESTINATION ${folder} COMPONENT simulator)
 install(FILES docs/simulator.md
   DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/norvick-lorimet-simulator COMPONENT simulator)

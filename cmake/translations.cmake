@@ -1,43 +1,50 @@
 # Compiles translations/*.ts and lays them, the toolkit's own words and the pictures into the
-# program, and the help pages beside it.
+# programs, and the help pages beside them.
 find_program(LRELEASE lrelease HINTS /usr/lib/qt6/bin ${QT6_INSTALL_PREFIX}/lib/qt6/bin REQUIRED)
-
-file(GLOB LORIMET_TS CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/translations/*.ts)
-set(LORIMET_QM "")
-set(qrc_rows "")
-foreach(ts ${LORIMET_TS})
-  get_filename_component(name ${ts} NAME_WE)
-  set(qm ${CMAKE_BINARY_DIR}/resources/${name}.qm)
-  add_custom_command(OUTPUT ${qm}
-    COMMAND ${LRELEASE} -silent ${ts} -qm ${qm}
-    DEPENDS ${ts} VERBATIM)
-  list(APPEND LORIMET_QM ${qm})
-  string(APPEND qrc_rows "    <file alias=\"translations/${name}.qm\">${qm}</file>\n")
-endforeach()
 
 # The words of the toolkit's own boxes and dialogs.
 foreach(language fr es)
   find_file(LORIMET_QTBASE_${language} qtbase_${language}.qm REQUIRED
     HINTS ${QT6_INSTALL_PREFIX}/share/qt6/translations ${QT6_INSTALL_PREFIX}/translations)
-  string(APPEND qrc_rows "    <file alias=\"translations/qtbase_${language}.qm\">"
-    "${LORIMET_QTBASE_${language}}</file>\n")
 endforeach()
 
 file(GLOB LORIMET_PICTURES CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/packaging/pictures/*.png)
-foreach(picture ${LORIMET_PICTURES})
-  get_filename_component(name ${picture} NAME)
-  string(APPEND qrc_rows "    <file alias=\"pictures/${name}\">${picture}</file>\n")
-endforeach()
 
-file(CONFIGURE OUTPUT ${CMAKE_BINARY_DIR}/resources/lorimet.qrc CONTENT
+# The resources of a program, as sources for its target: translations/<name>_*.ts compiled, and what
+# all programs share. To be called in the folder of a target that has them.
+function(lorimet_resources result name)
+  file(GLOB texts CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/translations/${name}_*.ts)
+  set(compiled "")
+  set(rows "")
+  foreach(ts ${texts})
+    get_filename_component(stem ${ts} NAME_WE)
+    set(qm ${CMAKE_BINARY_DIR}/resources/${stem}.qm)
+    add_custom_command(OUTPUT ${qm}
+      COMMAND ${LRELEASE} -silent ${ts} -qm ${qm}
+      DEPENDS ${ts} VERBATIM)
+    list(APPEND compiled ${qm})
+    string(APPEND rows "    <file alias=\"translations/${stem}.qm\">${qm}</file>\n")
+  endforeach()
+  foreach(language fr es)
+    string(APPEND rows "    <file alias=\"translations/qtbase_${language}.qm\">"
+      "${LORIMET_QTBASE_${language}}</file>\n")
+  endforeach()
+  foreach(picture ${LORIMET_PICTURES})
+    get_filename_component(file ${picture} NAME)
+    string(APPEND rows "    <file alias=\"pictures/${file}\">${picture}</file>\n")
+  endforeach()
+  set(qrc ${CMAKE_BINARY_DIR}/resources/${name}.qrc)
+  file(CONFIGURE OUTPUT ${qrc} CONTENT
 "<RCC>
   <qresource prefix=\"/\">
-${qrc_rows}  </qresource>
+${rows}  </qresource>
 </RCC>
 ")
-set_source_files_properties(${CMAKE_BINARY_DIR}/resources/lorimet.qrc PROPERTIES
-  AUTORCC_OPTIONS "--compress-algo;zlib")
-set(LORIMET_RESOURCES ${CMAKE_BINARY_DIR}/resources/lorimet.qrc ${LORIMET_QM})
+  set_source_files_properties(${qrc} PROPERTIES AUTORCC_OPTIONS "--compress-algo;zlib")
+  set(${result} ${qrc} ${compiled} PARENT_SCOPE)
+endfunction()
+
+lorimet_resources(LORIMET_RESOURCES lorimet)
 
 # The help pages and what they show are files beside the program, where the help viewer finds them.
 file(GLOB_RECURSE LORIMET_HELP CONFIGURE_DEPENDS ${CMAKE_SOURCE_DIR}/help/*)

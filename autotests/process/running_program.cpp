@@ -14,6 +14,7 @@
 #include <chrono>
 #include <sstream>
 #include <thread>
+#include <utility>
 
 #include "autotests/places.h"
 
@@ -67,7 +68,11 @@ void ProcessTest::InstallLauncher() {
   WriteFile(script, "#!/bin/sh\nprintf '[%s]' \"$@\" > " + launched + ".new && mv " + launched +
                         ".new " + launched + "\n");
   chmod(script.c_str(), 0700);
-  machine_ = std::string("[") + kLauncherKey + "]\r\n@=\"" + script + "\"\r\n";
+  NameLauncher(script);
+}
+
+void ProcessTest::NameLauncher(const std::string& path) {
+  machine_ = std::string("[") + kLauncherKey + "]\r\n@=\"" + path + "\"\r\n";
 }
 
 void ProcessTest::WriteSettings() const {
@@ -100,8 +105,10 @@ std::vector<std::string> ProcessTest::Record() const {
   return names;
 }
 
-ProcessTest::Run::Run(ProcessTest& test, const std::string& name)
-    : output_(test.folder / (name + ".output")), socket_(test.folder / (name + ".socket")) {
+ProcessTest::Run::Run(ProcessTest& test, const std::string& name, std::string program)
+    : program_(std::move(program)),
+      output_(test.folder / (name + ".output")),
+      socket_(test.folder / (name + ".socket")) {
   test.WriteSettings();
   auto variables = test.environment;
   variables["LORIMET_WINDOW_PROBE"] = socket_;
@@ -121,7 +128,7 @@ void ProcessTest::Run::Become(const std::map<std::string, std::string>& variable
   for (const char* name : {"LORIMET32_SCENARIO", "LORIMET32_STATE", "LC_ALL", "LANGUAGE"})
     unsetenv(name);
   for (const auto& [name, value] : variables) setenv(name.c_str(), value.c_str(), 1);
-  execl(InBuild("lorimet").c_str(), "lorimet", nullptr);
+  execl(InBuild(program_).c_str(), program_.c_str(), nullptr);
   _exit(127);
 }
 

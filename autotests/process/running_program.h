@@ -32,6 +32,8 @@ class ProcessTest : public testing::Test {
   void StoreSetting(const std::string& row) { settings_ += row + "\r\n"; }
   // A script that leaves its arguments in the file "launched".
   void InstallLauncher();
+  // The program of a path as the launcher.
+  void NameLauncher(const std::string& path);
   // A command to the simulated trailer.
   void Trailer(const std::string& command);
   // The counts that the library gives for the operations so far; needs a connection.
@@ -43,7 +45,7 @@ class ProcessTest : public testing::Test {
   // test if it complained.
   class Run {
    public:
-    Run(ProcessTest& test, const std::string& name);
+    Run(ProcessTest& test, const std::string& name, std::string program = "lorimet");
     ~Run();
     Run(const Run&) = delete;
     Run& operator=(const Run&) = delete;
@@ -76,6 +78,7 @@ class ProcessTest : public testing::Test {
     // Takes the child's end, if it has come.
     bool Reaped();
 
+    std::string program_;
     std::string output_;
     std::string socket_;
     pid_t child_ = -1;

@@ -69,8 +69,8 @@ std::string ReadFile(const std::filesystem::path& path) {
   return text.str();
 }
 
-std::vector<TranslationRow> RowsOf(const std::string& language) {
-  const std::string xml = ReadFile(InSource("translations/lorimet_") + language + ".ts");
+std::vector<TranslationRow> RowsOf(const std::string& language, const std::string& program) {
+  const std::string xml = ReadFile(InSource("translations/") + program + "_" + language + ".ts");
   XmlReader reader(xml);
   std::vector<TranslationRow> rows;
   std::string value;

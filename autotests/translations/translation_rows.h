@@ -18,7 +18,9 @@ struct TranslationRow {
 constexpr std::array<const char*, 2> kLanguages = {"fr", "es"};
 
 std::string ReadFile(const std::filesystem::path& path);
-std::vector<TranslationRow> RowsOf(const std::string& language);
+// program: "lorimet", or "bench" for the window beside it.
+std::vector<TranslationRow> RowsOf(const std::string& language,
+                                   const std::string& program = "lorimet");
 
 // The paragraphs of the help, headings and cells among them. A name in bold stands in brackets; a
 // name in code is left out, but for a letter that keeps its place.

@@ -10,6 +10,9 @@
 //     trigger WINDOW NAME          a menu item or toolbar button
 //     choose WINDOW FILE           a file in a file dialog, by its whole path
 //     close WINDOW                 the window's close box
+//     press WINDOW NAME            the mouse on the middle of a widget, by the window system's road
+//     key WINDOW KEY               a key, such as 3 or Return, by the same road
+//     grab WINDOW FILE             a picture of the window, as PNG
 //     exit                         the end of the application's event loop
 //
 // What a user could not reach, because it is hidden, disabled or behind a modal window, is refused.
@@ -21,6 +24,7 @@
 #include <QAction>
 #include <QApplication>
 #include <QGenericPlugin>
+#include <QKeySequence>
 #include <QLineEdit>
 #include <QMessageBox>
 #include <QPointer>
@@ -28,7 +32,18 @@
 #include <QStringList>
 #include <QTimer>
 #include <QWidget>
+#include <QWindow>
 #include <algorithm>
+
+// The toolkit exports these for its own tests; they bring an event as the window system would.
+Q_GUI_EXPORT void qt_handleKeyEvent(QWindow* window, QEvent::Type type, int key,
+                                    Qt::KeyboardModifiers modifiers,
+                                    const QString& text = QString(), bool autorepeat = false,
+                                    ushort count = 1);
+Q_GUI_EXPORT void qt_handleMouseEvent(QWindow* window, const QPointF& local, const QPointF& global,
+                                      Qt::MouseButtons state, Qt::MouseButton button,
+                                      QEvent::Type type, Qt::KeyboardModifiers modifiers,
+                                      int timestamp);
 
 namespace {
 
@@ -102,6 +117,34 @@ QString Get(const QStringList& words) {
   return value.toString();
 }
 
+QString Press(QWidget* window, QWidget* target) {
+  const QPointF local = target->mapTo(window, target->rect().center());
+  const QPointF global = window->mapToGlobal(local);
+  return Later(window, [local, global](QWidget* there) {
+    QWindow* handle = there->windowHandle();
+    qt_handleMouseEvent(handle, local, global, Qt::LeftButton, Qt::LeftButton,
+                        QEvent::MouseButtonPress, Qt::NoModifier, 0);
+    qt_handleMouseEvent(handle, local, global, Qt::NoButton, Qt::LeftButton,
+                        QEvent::MouseButtonRelease, Qt::NoModifier, 0);
+  });
+}
+
+QString Key(QWidget* window, const QString& name) {
+  const QKeySequence keys(name);
+  if (keys.isEmpty()) throw Refused("there is no key " + name);
+  const int key = keys[0].key();
+  const QString text = name.size() == 1 ? name : QString();
+  return Later(window, [key, text](QWidget* there) {
+    for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease})
+      qt_handleKeyEvent(there->windowHandle(), type, key, Qt::NoModifier, text);
+  });
+}
+
+QString Grab(QWidget* window, const QString& file) {
+  if (!window->grab().save(file)) throw Refused(file + " cannot be written");
+  return {};
+}
+
 QString Do(const QStringList& words) {
   if (words == QStringList{"windows"}) return VisibleWindows();
   if (words.size() == 4 && words[0] == "get") return Get(words);
@@ -118,6 +161,12 @@ QString Do(const QStringList& words) {
     });
   if (words.size() == 2 && words[0] == "close")
     return Later(ReachableWindow(words[1]), [](QWidget* window) { window->close(); });
+  if (words.size() == 3 && words[0] == "press") {
+    QWidget* window = ReachableWindow(words[1]);
+    return Press(window, Usable(Named<QWidget>(window, words[2])));
+  }
+  if (words.size() == 3 && words[0] == "key") return Key(ReachableWindow(words[1]), words[2]);
+  if (words.size() == 3 && words[0] == "grab") return Grab(VisibleWindow(words[1]), words[2]);
   if (words == QStringList{"exit"})
     return Later(qApp, [](QCoreApplication*) { QCoreApplication::exit(); });
   throw Refused("unknown command " + words.join(' '));

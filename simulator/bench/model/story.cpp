@@ -52,7 +52,55 @@ std::optional<Activity> ActivityOf(const ToldRequest& request) {
 
 bool IsChannelOfLoad(int channel) { return channel == 4 || channel == 6; }
 
+// What a request means. A number of -1 stands for any.
+struct WordsRow {
+  std::string_view operation;
+  int number;  // the first one: a routine, or a block
+  int index;   // of the byte that tells more
+  int byte;
+  const char* words;
+};
+
+constexpr WordsRow kWords[] = {
+    {"Connect", -1, -1, -1, "Connected"},
+    {"ReadStaticData", -1, -1, -1, "Identity read"},
+    {"StartSession", -1, -1, -1, "Session opened"},
+    {"Password", -1, -1, -1, "Password sent"},
+    {"StartRoutine", 0x42, 2, 1, "Work begun"},
+    {"StartRoutine", 0x42, 2, 0, "Work ended"},
+    {"StartRoutine", 0x37, 2, 0, "Brakes normal"},
+    {"StartRoutine", 0x37, 2, 1, "Brakes in redundancy"},
+    {"StartRoutine", 0x37, 2, 2, "Brakes in test mode"},
+    {"StartRoutine", 0x06, 0, 0, "Control pressure set"},
+    {"StartRoutine", 0x06, 0, 1, "Pressure of H1 set"},
+    {"StartRoutine", 0x06, 0, 2, "Pressure of H2 set"},
+    {"StartRoutine", 0x06, -1, -1, "Load set"},
+    {"StartRoutine", 0x07, 0, 1, "Warning lamp switched on"},
+    {"StartRoutine", 0x07, 0, 0, "Warning lamp switched off"},
+    {"StartRoutine", 0x3C, -1, -1, "Height sensor calibrated"},
+    {"StartRoutine", kEndValves, -1, -1, "Valves released"},
+    {"StartRoutine", 0x05, -1, -1, "Changes stored"},
+    {"ReadData", -1, -1, -1, "Block read"},
+    {"WriteMemory", kFlagId, -1, -1, "End-of-line flag written"},
+    {"WriteMemory", -1, -1, -1, "Block written"},
+    {"IOControl", -1, -1, -1, "Height sensor read"},
+    {"ClearAllFaults", -1, -1, -1, "Faults cleared"},
+    {"FaultGetData", -1, -1, -1, "Faults read"},
+    {"ResetECU", -1, -1, -1, "ECU restarted"},
+    {"StopLightActivation", -1, -1, -1, "Stop lights switched"},
+};
+
 }  // namespace
+
+std::string WordsOf(const ToldRequest& request) {
+  for (const WordsRow& row : kWords) {
+    if (row.operation != request.operation) continue;
+    if (row.number >= 0 && row.number != request.Number(0)) continue;
+    if (row.index < 0 || request.Byte(static_cast<std::size_t>(row.index)) == row.byte)
+      return row.words;
+  }
+  return {};
+}
 
 ToldRequest ReadRequest(std::string_view text) {
   ToldRequest request;

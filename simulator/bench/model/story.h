@@ -19,6 +19,9 @@ struct ToldRequest {
   int Byte(std::size_t index) const { return index < data.size() ? data[index] : -1; }
 };
 ToldRequest ReadRequest(std::string_view text);
+// What that means, in an English text that is the key of its translation; empty where the request
+// says it well enough.
+std::string WordsOf(const ToldRequest& request);
 
 enum class Activity {
   kNothing,

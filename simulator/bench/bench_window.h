@@ -1,0 +1,71 @@
+// The bench's window: the advice above, the trailer on the left, what a person does on the right,
+// and below what the ECU was told and the line for every other command.
+#pragma once
+
+#include <QComboBox>
+#include <QFrame>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QStringList>
+#include <QWidget>
+#include <string>
+#include <vector>
+
+#include "simulator/bench/bench_socket.h"
+#include "simulator/bench/control_panel.h"
+#include "simulator/bench/model/bench.h"
+#include "simulator/bench/model/ready.h"
+#include "simulator/bench/texts.h"
+#include "simulator/bench/trailer_picture.h"
+
+namespace lorimet::bench {
+
+class BenchWindow : public QWidget {
+ public:
+  // socket: the path of the trailer's control socket. start_program: starts the program beside the
+  // bench; nothing where there is none.
+  BenchWindow(const QString& socket, std::vector<Ready> trailers, const QString& language,
+              std::function<void()> start_program = nullptr);
+  ~BenchWindow() override;
+
+  void ComeForward();
+  // As when the person had typed it.
+  void Do(const std::string& command);
+  const Bench& Model() const { return bench_; }
+
+ private:
+  QWidget* MakeHead();
+  QWidget* MakeRequests();
+  QWidget* MakeCommandLine();
+  void Name();
+  void Refresh();
+  void ShowAdvice(const Advice& advice);
+  void ShowRequests();
+  QString Line(const ToldLine& told) const;
+  void ShowAnswer(const std::string& command, const Answer& answer);
+  void Enter();
+
+  Texts texts_;
+  Bench bench_;
+  std::function<void()> start_program_;
+  QFrame* head_ = nullptr;
+  QLabel* waits_ = nullptr;
+  QLabel* next_ = nullptr;
+  QPushButton* start_ = nullptr;
+  QComboBox* language_ = nullptr;
+  TrailerPicture* picture_ = nullptr;
+  ControlPanel* panel_ = nullptr;
+  QListWidget* requests_ = nullptr;
+  QLineEdit* command_ = nullptr;
+  QLabel* usage_ = nullptr;
+  QPlainTextEdit* answers_ = nullptr;
+  std::size_t shown_requests_ = 0;
+  double shown_until_ = -1;
+  QString typed_;  // the command whose answer is to be shown
+  BenchSocket socket_;
+};
+
+}  // namespace lorimet::bench
