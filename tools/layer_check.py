@@ -15,16 +15,19 @@ The floors, the lowest first; a file includes its own folder and the floors belo
     program     src/program.*          composes records and forms from ports
     adapters    src/adapters/{qt,windows,posix,headless}   use any floor of the core but program,
                                        and never one another
-    roots       src/main.cpp, src/tour/*, and src/desktop_program.*, which
-                makes the adapters for both; they know everybody, and nobody includes them
+    roots       src/main.cpp, and src/desktop_program.*, which makes the adapters for it and for
+                the tour; they know everybody in src/, and nothing in src/ includes them
+
+Beside src/ stand simulator/, which shares the contract with it, and above both tour/.
 
 What is checked, with the word that a finding begins with:
 
 toolkit   The core (all of src/ but adapters and roots) includes the standard library alone. The Qt
           adapter adds Qt, the other adapters what their platform has, but no Qt; the headless
           adapter adds nothing.
-up        An include points down. Nothing in src/ includes simulator/, but for the tour, which has
-          the trailer's operator work (simulator/operator). simulator/trailer includes itself, the
+up        An include points down. Nothing in src/ includes what stands beside it. tour/ includes
+          src/, and of simulator/ the trailer's operator (simulator/operator); but for tests, nobody
+          includes tour/, and nobody but they includes autotests/. simulator/trailer includes itself, the
           standard library and src/session/{ecu_data,lorimet32}.h; the other folders of simulator/
           add one another and their platform; simulator/operator also reads the program's screens
           (src/platform). Only the window in simulator/bench may use Qt, not the model under it, and
@@ -79,7 +82,7 @@ ADAPTERS = ("qt", "windows", "posix", "headless")
 ACROSS = {("parameters", "faults")}
 ROOTS = ("main.cpp", "desktop_program.h", "desktop_program.cpp")
 SIMULATOR_MAY_USE = {"src/session/ecu_data.h", "src/session/lorimet32.h"}
-SOURCE_FOLDERS = ("src", "simulator", "autotests", "benchmarks", "fuzz")
+SOURCE_FOLDERS = ("src", "simulator", "tour", "autotests", "benchmarks", "fuzz")
 
 STANDARD = set("""
 algorithm any array atomic barrier bit bitset charconv chrono codecvt compare complex concepts
@@ -195,8 +198,10 @@ class Tree:
 
 
 def place(name):
-    """(kind, folder) of a file: kind is core, adapter, root, simulator or other."""
+    """(kind, folder) of a file: kind is core, adapter, root, simulator, tour or other."""
     parts = name.split("/")
+    if parts[0] == "tour":
+        return "tour", ""
     if parts[0] == "simulator":
         return "simulator", parts[1] if len(parts) > 2 else ""
     if parts[0] != "src":
@@ -205,8 +210,6 @@ def place(name):
         return ("root", "") if parts[1] in ROOTS else ("core", parts[1].split(".")[0])
     if parts[1] == "adapters" and len(parts) > 3:
         return "adapter", parts[2]
-    if parts[1] == "tour":
-        return "root", "tour"
     return "core", parts[1]
 
 
@@ -235,9 +238,13 @@ def check_toolkit(tree):
 def may_include(name, target):
     kind, folder = place(name)
     target_kind, target_folder = place(target)
-    if kind in ("other", "root"):
-        return (kind == "other" or target_kind != "simulator" or
-                (folder, target_folder) == ("tour", "operator"))
+    if kind == "other":
+        return True
+    if kind == "tour":
+        return (target_kind not in ("simulator", "other") or
+                (target_kind, target_folder) == ("simulator", "operator"))
+    if kind == "root":
+        return target_kind in ("core", "adapter", "root")
     if kind == "simulator":
         if target_kind == "simulator":
             return folder != "trailer" or target_folder == "trailer"
@@ -566,7 +573,7 @@ def private_members(body):
 
 def check_names(tree):
     for file, text in sorted(tree.text.items()):
-        if not file.startswith(("src/", "simulator/")):
+        if not file.startswith(("src/", "simulator/", "tour/")):
             continue
         for m in re.finditer(r"\bclass\s+(\w+)[^;{]*\{", text):
             depth, end = 1, m.end()

@@ -182,18 +182,39 @@ class LayerCheckTest(unittest.TestCase):
         self.include("simulator/bench/e.cpp", "adapters/qt/b.h", "src/adapters/qt/b.h")
         self.assert_finds("simulator/bench/e.cpp:1: up")
 
-    def test_nothing_in_src_includes_the_simulator(self):
-        for name in ("src/session/a.cpp", "src/adapters/qt/a.cpp", "src/tour/a.cpp"):
-            with self.subTest(name):
-                self.include(name, "simulator/trailer/b.h", "simulator/trailer/b.h")
-                self.assert_finds(name, "simulator/trailer/b.h")
-                (self.root / name).unlink()
+    def test_nothing_in_src_includes_what_stands_beside_it(self):
+        for name in ("src/session/a.cpp", "src/adapters/qt/a.cpp", "src/program.cpp",
+                     "src/main.cpp"):
+            for target in ("simulator/trailer/b.h", "simulator/operator/b.h", "tour/b.h",
+                           "autotests/common/b.h", "benchmarks/b.h", "fuzz/b.h"):
+                with self.subTest(f"{name} {target}"):
+                    self.include(name, target, target)
+                    self.assert_finds(f"{name}:1: up", target)
+                    (self.root / name).unlink()
 
-    def test_the_tour_has_the_trailers_operator_work(self):
-        self.include("src/tour/a.cpp", "simulator/operator/b.h", "simulator/operator/b.h")
+    def test_the_tour_stands_above_the_program_and_the_trailers_operator(self):
+        self.write("tour/a.cpp", '#include "tour/b.h"\n#include "desktop_program.h"\n'
+                   '#include "adapters/qt/c.h"\n#include "session/d.h"\n'
+                   '#include "simulator/operator/e.h"\n#include <QApplication>\n'
+                   '#include <dlfcn.h>\n')
+        for name in ("tour/b.h", "src/desktop_program.h", "src/adapters/qt/c.h",
+                     "src/session/d.h", "simulator/operator/e.h"):
+            self.write(name, "")
         self.assert_clean()
-        self.include("src/main.cpp", "simulator/operator/b.h", "simulator/operator/b.h")
-        self.assert_finds("src/main.cpp:1: up")
+
+    def test_the_tour_looks_into_no_trailer_and_takes_nothing_from_the_tests(self):
+        for target in ("simulator/trailer/b.h", "simulator/library/b.h", "autotests/common/b.h"):
+            with self.subTest(target):
+                self.include("tour/a.cpp", target, target)
+                self.assert_finds("tour/a.cpp:1: up", target)
+
+    def test_the_simulator_includes_neither_tour_nor_tests(self):
+        for folder in ("trailer", "library", "operator", "bench", "bench/model"):
+            for target in ("tour/b.h", "autotests/common/b.h"):
+                with self.subTest(f"{folder} {target}"):
+                    self.include(f"simulator/{folder}/a.cpp", target, target)
+                    self.assert_finds(f"simulator/{folder}/a.cpp:1: up", target)
+                    (self.root / f"simulator/{folder}/a.cpp").unlink()
 
     def test_the_operator_reads_the_programs_screens_and_no_more(self):
         self.include("simulator/operator/a.cpp", "platform/forms.h", "src/platform/forms.h")
@@ -224,6 +245,7 @@ class LayerCheckTest(unittest.TestCase):
     def test_tests_include_everything(self):
         self.include("autotests/a/b_test.cpp", "simulator/trailer/b.h", "simulator/trailer/b.h")
         self.include("autotests/a/c_test.cpp", "gtest/gtest.h")
+        self.include("autotests/a/d_test.cpp", "tour/b.h", "tour/b.h")
         self.assert_clean()
 
     def test_a_folder_on_no_floor_is_found(self):

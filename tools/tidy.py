@@ -20,7 +20,7 @@ import time
 from pathlib import Path
 
 ROOT = Path(__file__).resolve().parent.parent
-FOLDERS = ("src", "simulator", "autotests", "benchmarks", "fuzz")
+FOLDERS = ("src", "simulator", "tour", "autotests", "benchmarks", "fuzz")
 GCC_ONLY = ("-fno-gnu-unique",)  # clang refuses to read these
 INCLUDE = re.compile(rb'^\s*#\s*include\s*"([^"]+)"', re.MULTILINE)
 

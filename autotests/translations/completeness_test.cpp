@@ -122,8 +122,8 @@ void CollectSources(std::vector<NeededText>& needed) {
     const std::string extension = entry.path().extension().string();
     if (extension != ".h" && extension != ".cpp") continue;
     // Adapters speak to the developer, in English; what they show comes from the core.
-    const bool adapter = file.starts_with("platform/") || file.starts_with("adapters/") ||
-                         file == "main.cpp" || file.starts_with("tour/");
+    const bool adapter =
+        file.starts_with("platform/") || file.starts_with("adapters/") || file == "main.cpp";
     for (const SourceLiteral& literal : LiteralReader(ReadFile(entry.path())).Read()) {
       const bool sentence =
           !adapter && !UntranslatedFiles().contains(file) && HasTwoWords(literal.text);
