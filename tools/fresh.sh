@@ -71,27 +71,35 @@ fresh_base() {
   printf '%s' "$wanted" >"$base.made"
 }
 
+# Where what was compiled is kept: the same source, with the same headers, by the same compiler, which
+# is asked for each of them, is not compiled twice. Linking and all the rest is done anew.
+fresh_compiled() {
+  ccache --get-config cache_dir 2>/dev/null || printf '%s' "$fresh_cache/ccache"
+}
+
 # Runs a command in the clone inside the copy. Its mounts and processes are its own; they vanish with
 # it, and it ends with this script.
 within_fresh() {
-  local root=$1
+  local root=$1 compiled
   shift
+  compiled=$(fresh_compiled)
+  mkdir -p "$compiled"
   # shellcheck disable=SC2016  # expanded inside
   setpriv --pdeathsig KILL unshare --mount --pid --ipc --uts --fork --kill-child --propagation private -- \
     bash -ceu '
-      root=$1 cache=$2 home=$3
-      shift 3
+      root=$1 cache=$2 compiled=$3 home=$4
+      shift 4
       mount -t proc proc "$root/proc"
       mount --rbind /dev "$root/dev"
       mount -t tmpfs -o mode=1777 tmp "$root/run"
       mount --bind "$cache/debs" "$root/var/cache/apt/archives"
       mkdir -p "$root/var/cache/ccache"
-      mount --bind "$cache/ccache" "$root/var/cache/ccache"
+      mount --bind "$compiled" "$root/var/cache/ccache"
       exec chroot "$root" /usr/bin/env -i HOME=/root USER=root LOGNAME=root SHELL=/bin/bash \
         PATH=/usr/local/sbin:/usr/local/bin:/usr/sbin:/usr/bin:/sbin:/bin \
         TERM="${TERM:-dumb}" LANG=C.UTF-8 CCACHE_DIR=/var/cache/ccache bash -ceu "cd \"\$1\"; shift; exec \"\$@\"" bash \
         "$home" "$@"
-    ' bash "$root" "$fresh_cache" "$fresh_home" "$@" </dev/null
+    ' bash "$root" "$fresh_cache" "$compiled" "$fresh_home" "$@" </dev/null
 }
 
 # A copy of the bare system for this run alone; `fresh_copy` names it. It goes with this script.
@@ -100,7 +108,7 @@ fresh_make_copy() {
   command -v apt-get >/dev/null || cannot "No fresh system: this is no Debian-like system."
   unshare --mount --pid --fork true 2>/dev/null ||
     cannot "No fresh system: this system allows no mounts of its own (a container?)."
-  mkdir -p "$fresh_cache"/{debs/partial,ccache}
+  mkdir -p "$fresh_cache/debs/partial"
   exec 9>"$fresh_cache/lock"
   if ! flock --nonblock 9; then
     say "Waiting for another fresh run to end"
