@@ -208,10 +208,6 @@
         <translation>E&amp;nlace:</translation>
     </message>
     <message>
-        <source>Fault (&amp;S):</source>
-        <translation>Fallo (&amp;S):</translation>
-    </message>
-    <message>
         <source>Break</source>
         <translation>Romper</translation>
     </message>
@@ -240,8 +236,8 @@
         <translation>Defectos: %1</translation>
     </message>
     <message>
-        <source>Link: %1</source>
-        <translation>Enlace: %1</translation>
+        <source>Link failures: %1</source>
+        <translation>Fallos del enlace: %1</translation>
     </message>
     <message>
         <source>Faults in the ECU: %1</source>

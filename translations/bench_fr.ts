@@ -208,10 +208,6 @@
         <translation>Liaiso&amp;n :</translation>
     </message>
     <message>
-        <source>Fault (&amp;S):</source>
-        <translation>Code (&amp;S) :</translation>
-    </message>
-    <message>
         <source>Break</source>
         <translation>Casser</translation>
     </message>
@@ -237,11 +233,11 @@
     </message>
     <message>
         <source>Defects: %1</source>
-        <translation>Défectuosités : %1</translation>
+        <translation>Pannes : %1</translation>
     </message>
     <message>
-        <source>Link: %1</source>
-        <translation>Liaison : %1</translation>
+        <source>Link failures: %1</source>
+        <translation>Liaison perturbée : %1</translation>
     </message>
     <message>
         <source>Faults in the ECU: %1</source>

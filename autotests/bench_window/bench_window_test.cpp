@@ -6,6 +6,7 @@
 #include <unistd.h>
 
 #include <QAbstractButton>
+#include <QAbstractSpinBox>
 #include <QAccessible>
 #include <QApplication>
 #include <QComboBox>
@@ -20,6 +21,7 @@
 #include <optional>
 #include <set>
 #include <string>
+#include <vector>
 
 #include "autotests/places.h"
 #include "simulator/library/library.h"
@@ -202,6 +204,67 @@ TEST_F(BenchWindowTest, WaitsWhileSomebodyElseHasTheTrailer) {
   EXPECT_EQ(Find<QLabel>("lblWaits")->text(), "Somebody else has this trailer.");
   other.disconnectFromServer();
   EXPECT_TRUE(There());
+}
+
+// What cannot be read, or lies over something else, in the window as it stands.
+std::string Clipped(const QWidget& window) {
+  std::string found;
+  const auto complain = [&found](const QWidget* widget, const char* what) {
+    found += "\n  " + widget->objectName().toStdString() + " " + what;
+  };
+  std::vector<const QWidget*> leaves;
+  for (const QWidget* widget : window.findChildren<QWidget*>()) {
+    if (!widget->isVisible()) continue;
+    if (const auto* button = qobject_cast<const QAbstractButton*>(widget)) {
+      if (button->width() < button->minimumSizeHint().width() ||
+          button->width() <
+              button->fontMetrics().size(Qt::TextShowMnemonic, button->text()).width())
+        complain(button, "has no room for its words");
+      leaves.push_back(widget);
+    } else if (qobject_cast<const QComboBox*>(widget) || qobject_cast<const QLabel*>(widget) ||
+               qobject_cast<const QAbstractSpinBox*>(widget)) {
+      leaves.push_back(widget);
+    }
+    const QRect place(widget->mapTo(&window, QPoint()), widget->size());
+    if (place.left() < 0 || place.right() >= window.width())
+      complain(widget, "is outside of the window");
+  }
+  for (std::size_t i = 0; i < leaves.size(); ++i)
+    for (std::size_t k = i + 1; k < leaves.size(); ++k)
+      if (leaves[i]->parent() == leaves[k]->parent() &&
+          leaves[i]->geometry().intersects(leaves[k]->geometry()))
+        complain(leaves[i], ("lies over " + leaves[k]->objectName().toStdString()).c_str());
+  return found;
+}
+
+TEST_F(BenchWindowTest, NothingIsClippedInAnyLanguageAndSize) {
+  StartTrailer();
+  for (const char* language : {"en", "fr", "es"}) {
+    Show(language);
+    ASSERT_TRUE(There());
+    for (const QSize& size : {QSize(0, 728), QSize(0, 300), QSize(683, 344), QSize(940, 740),
+                              QSize(1180, 740), QSize(1900, 1000)}) {
+      window_->resize(size.expandedTo(window_->minimumSize()));
+      QApplication::processEvents();
+      EXPECT_EQ(Clipped(*window_), "") << language << " " << size.width() << "x" << size.height();
+    }
+    EXPECT_LT(window_->minimumWidth(), 400) << language << ": no room beside the program";
+  }
+}
+
+TEST_F(BenchWindowTest, ADeedThatIsAdvisedIsInSightInANarrowWindow) {
+  StartTrailer();
+  Show();
+  ASSERT_TRUE(There());
+  window_->resize(window_->minimumWidth(), 600);
+  const auto in_sight = [this](const char* name) {
+    auto* widget = Find<QWidget>(name);
+    return widget->visibleRegion().boundingRect() == widget->rect();
+  };
+  EXPECT_TRUE(Eventually([&] { return in_sight("cmdPump"); }));
+  EXPECT_FALSE(in_sight("chkAdapter"));
+  window_->Do("adapter off");
+  EXPECT_TRUE(Eventually([&] { return in_sight("chkAdapter"); }));
 }
 
 TEST_F(BenchWindowTest, EverythingThatTakesTheFocusHasANameOfItsOwn) {

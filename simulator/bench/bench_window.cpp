@@ -1,14 +1,12 @@
 #include "simulator/bench/bench_window.h"
 
 #include <QCompleter>
-#include <QGridLayout>
 #include <QGroupBox>
-#include <QHBoxLayout>
-#include <QScrollArea>
+#include <QScreen>
 #include <QScrollBar>
 #include <QStringListModel>
-#include <QVBoxLayout>
 #include <algorithm>
+#include <initializer_list>
 #include <utility>
 
 #include "simulator/bench/colors.h"
@@ -18,6 +16,11 @@ namespace {
 
 constexpr int kShownAnswers = 200;  // lines
 constexpr QSize kSize(1180, 740);
+constexpr int kProgram = 980;  // pixels of width that the program's main window takes
+constexpr int kFrame = 40;     // pixels of height that the frame of a window takes
+constexpr int kLow = 560;      // pixels of height that a column of everything needs
+constexpr int kHigh = 620;     // pixels of height that leave room below the picture
+constexpr int kBetween = 40;   // pixels of the margins and between two columns
 
 struct LanguageRow {
   const char* code;
@@ -32,8 +35,8 @@ QString SheetOf(const Colors& colors) {
              "QPushButton[advised=\"true\"] { border: 2px solid %3; background-color: %4; }"
              "QCheckBox[advised=\"true\"] { border: 2px solid %3; border-radius: 3px;"
              " background-color: %4; }"
-             "QPushButton { min-width: 40px; padding: 3px 8px; }"
-             "QPushButton:checked { border: 2px solid %2; padding: 2px 7px; font-weight: 600; }")
+             "QPushButton { padding: 2px 6px; }"
+             "QPushButton:checked { border: 2px solid %2; padding: 1px 5px; font-weight: 600; }")
       .arg(colors.ground.name(), colors.accent.name(), colors.advised.name(),
            colors.advised_ground.name());
 }
@@ -52,23 +55,7 @@ BenchWindow::BenchWindow(const QString& socket, std::vector<Ready> trailers,
   picture_->on_spin = [this](int position) {
     Do("spin " + std::to_string(position) + " " + std::to_string(panel_->HandSpeed()));
   };
-  auto* scroll = new QScrollArea(this);
-  scroll->setWidget(panel_);
-  scroll->setWidgetResizable(true);
-  scroll->setFrameShape(QFrame::NoFrame);
-  scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-  scroll->setFocusPolicy(Qt::NoFocus);
-  scroll->setMinimumWidth(panel_->minimumSizeHint().width() +
-                          scroll->verticalScrollBar()->sizeHint().width());
-  auto* grid = new QGridLayout(this);
-  grid->addWidget(MakeHead(), 0, 0, 1, 3);
-  grid->addWidget(picture_, 1, 0, 1, 2);
-  grid->addWidget(MakeRequests(), 2, 0);
-  grid->addWidget(MakeCommandLine(), 2, 1);
-  grid->addWidget(scroll, 1, 2, 2, 1);
-  grid->setRowStretch(1, 1);
-  grid->setColumnStretch(0, 3);
-  grid->setColumnStretch(1, 2);
+  MakeColumns();
   resize(kSize);
   bench_.on_seen = [this] { Refresh(); };
   bench_.on_answer = [this](const std::string& done, const Answer& answer) {
@@ -81,11 +68,35 @@ BenchWindow::~BenchWindow() { bench_.on_seen = nullptr; }
 
 // --- The parts -----------------------------------------------------------------------------------
 
+void BenchWindow::MakeColumns() {
+  below_ = new QWidget(this);
+  below_row_ = new QBoxLayout(QBoxLayout::LeftToRight, below_);
+  below_row_->setContentsMargins(0, 0, 0, 0);
+  below_row_->addWidget(MakeRequests(), 3);
+  below_row_->addWidget(MakeCommandLine(), 2);
+  scroll_ = new QScrollArea(this);
+  auto* all = new QWidget(scroll_);
+  column_ = new QVBoxLayout(all);
+  column_->setContentsMargins(0, 0, 0, 0);
+  column_->setSpacing(4);
+  column_->addWidget(panel_);
+  column_->addStretch();
+  scroll_->setWidget(all);
+  scroll_->setWidgetResizable(true);
+  scroll_->setFrameShape(QFrame::NoFrame);
+  scroll_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+  scroll_->setFocusPolicy(Qt::NoFocus);
+  panel_->on_advised = [this](QWidget* place) { scroll_->ensureWidgetVisible(place, 0, 20); };
+  grid_ = new QGridLayout(this);
+  grid_->setContentsMargins(8, 8, 8, 8);
+  grid_->setSizeConstraint(QLayout::SetNoConstraint);
+  grid_->addWidget(MakeHead(), 0, 0, 1, 2);
+}
+
 QWidget* BenchWindow::MakeHead() {
   head_ = new QFrame(this);
   head_->setObjectName(QStringLiteral("frmBenchHead"));
-  auto* row = new QHBoxLayout(head_);
-  auto* column = new QVBoxLayout;
+  auto* grid = new QGridLayout(head_);
   waits_ = new QLabel(head_);
   waits_->setObjectName(QStringLiteral("lblWaits"));
   next_ = new QLabel(head_);
@@ -98,9 +109,10 @@ QWidget* BenchWindow::MakeHead() {
     label->setWordWrap(true);
     label->setTextFormat(Qt::PlainText);
     label->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    column->addWidget(label);
   }
-  row->addLayout(column, 1);
+  grid->addWidget(waits_, 0, 0);
+  grid->addWidget(next_, 1, 0, 1, 2);
+  grid->setColumnStretch(0, 1);
   start_ = new QPushButton(head_);
   start_->setObjectName(QStringLiteral("cmdStartProgram"));
   start_->setAutoDefault(false);
@@ -108,7 +120,7 @@ QWidget* BenchWindow::MakeHead() {
   connect(start_, &QPushButton::clicked, this, [this] {
     if (start_program_) start_program_();
   });
-  row->addWidget(start_, 0, Qt::AlignVCenter);
+  grid->addWidget(start_, 2, 0, 1, 2, Qt::AlignLeft);
   language_ = new QComboBox(head_);
   language_->setObjectName(QStringLiteral("cmbLanguage"));
   for (const LanguageRow& each : kLanguageRows)
@@ -116,7 +128,7 @@ QWidget* BenchWindow::MakeHead() {
   language_->setCurrentIndex(language_->findData(texts_.Language()));
   connect(language_, &QComboBox::activated, this,
           [this](int index) { texts_.SetLanguage(language_->itemData(index).toString()); });
-  row->addWidget(language_, 0, Qt::AlignTop);
+  grid->addWidget(language_, 0, 1, Qt::AlignTop);
   return head_;
 }
 
@@ -178,6 +190,60 @@ QWidget* BenchWindow::MakeCommandLine() {
   return box;
 }
 
+// --- Where they lie ------------------------------------------------------------------------------
+
+// The picture beside what a person does, or above it in a window that is narrow.
+void BenchWindow::Arrange() {
+  const bool beside =
+      width() >= scroll_->minimumWidth() + picture_->minimumSizeHint().width() + kBetween;
+  const bool below = beside && height() >= kHigh;
+  if (arranged_ && beside == beside_ && below == below_picture_) return;
+  arranged_ = true;
+  beside_ = beside;
+  below_picture_ = below;
+  for (QWidget* widget : std::initializer_list<QWidget*>{picture_, scroll_, below_})
+    grid_->removeWidget(widget);
+  column_->removeWidget(below_);
+  grid_->addWidget(picture_, 1, 0);
+  if (below) {
+    grid_->addWidget(below_, 2, 0);
+  } else {
+    column_->insertWidget(1, below_);
+  }
+  below_row_->setDirection(below ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
+  if (beside) {
+    grid_->addWidget(scroll_, 1, 1, 2, 1);
+  } else {
+    grid_->addWidget(scroll_, 2, 0);
+  }
+  below_->show();
+  grid_->setColumnStretch(0, 3);
+  grid_->setColumnStretch(1, beside ? 2 : 0);
+  grid_->setRowStretch(1, 3);
+  grid_->setRowStretch(2, beside ? 0 : 2);
+}
+
+// The widths follow the words of the language.
+void BenchWindow::Fit() {
+  const int panel = panel_->minimumSizeHint().width();
+  scroll_->setMinimumWidth(panel + scroll_->verticalScrollBar()->sizeHint().width());
+  const QMargins margins = grid_->contentsMargins();
+  setMinimumSize(scroll_->minimumWidth() + margins.left() + margins.right(), kLow / 2);
+  Arrange();
+}
+
+void BenchWindow::resizeEvent(QResizeEvent*) { Arrange(); }
+
+void BenchWindow::StandBesideTheProgram() {
+  const QRect free = screen()->availableGeometry();
+  const int high = free.height() - kFrame;
+  int wide = std::clamp(free.width() - kProgram, minimumWidth(), kSize.width());
+  if (high < kLow) wide = std::min(kSize.width(), free.width());
+  resize(wide, beside_ && high >= kLow ? std::min(high, kSize.height()) : high);
+  if (!beside_) resize(wide, high);
+  move(free.right() + 1 - wide, free.top());
+}
+
 // --- What happens --------------------------------------------------------------------------------
 
 void BenchWindow::Name() {
@@ -185,6 +251,7 @@ void BenchWindow::Name() {
   language_->setAccessibleName(texts_.Translate("Language"));
   start_->setText(texts_.Translate("Start the program"));
   Refresh();
+  Fit();
 }
 
 void BenchWindow::ComeForward() {
@@ -254,7 +321,9 @@ void BenchWindow::ShowRequests() {
   if (lines.size() < shown_requests_) requests_->clear();
   const int before = requests_->count();
   for (std::size_t i = lines.size(); i > 0 && lines[i - 1].time > shown_until_; --i)
-    requests_->insertItem(before, Line(lines[i - 1]));
+    requests_->insertItem(before, new QListWidgetItem(Line(lines[i - 1])));
+  for (int i = before; i < requests_->count(); ++i)
+    requests_->item(i)->setToolTip(requests_->item(i)->text());
   while (requests_->count() > static_cast<int>(Bench::kKeptRequests)) delete requests_->takeItem(0);
   if (requests_->count() != before) requests_->scrollToBottom();
   shown_requests_ = lines.size();

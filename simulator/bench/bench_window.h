@@ -2,13 +2,16 @@
 // and below what the ECU was told and the line for every other command.
 #pragma once
 
+#include <QBoxLayout>
 #include <QComboBox>
 #include <QFrame>
+#include <QGridLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPlainTextEdit>
 #include <QPushButton>
+#include <QScrollArea>
 #include <QStringList>
 #include <QWidget>
 #include <string>
@@ -31,12 +34,20 @@ class BenchWindow : public QWidget {
               std::function<void()> start_program = nullptr);
   ~BenchWindow() override;
 
+  // At the right edge of its screen, and so small that the program can be seen beside it.
+  void StandBesideTheProgram();
   void ComeForward();
   // As when the person had typed it.
   void Do(const std::string& command);
   const Bench& Model() const { return bench_; }
 
+ protected:
+  void resizeEvent(QResizeEvent* event) override;
+
  private:
+  void MakeColumns();
+  void Arrange();
+  void Fit();
   QWidget* MakeHead();
   QWidget* MakeRequests();
   QWidget* MakeCommandLine();
@@ -51,6 +62,14 @@ class BenchWindow : public QWidget {
   Texts texts_;
   Bench bench_;
   std::function<void()> start_program_;
+  QGridLayout* grid_ = nullptr;
+  QScrollArea* scroll_ = nullptr;
+  QVBoxLayout* column_ = nullptr;  // within it
+  QWidget* below_ = nullptr;       // the requests and the command line
+  QBoxLayout* below_row_ = nullptr;
+  bool arranged_ = false;
+  bool beside_ = false;
+  bool below_picture_ = false;
   QFrame* head_ = nullptr;
   QLabel* waits_ = nullptr;
   QLabel* next_ = nullptr;

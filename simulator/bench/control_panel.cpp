@@ -1,5 +1,7 @@
 #include "simulator/bench/control_panel.h"
 
+#include <QAbstractItemView>
+#include <QScrollBar>
 #include <QSignalBlocker>
 #include <QStyle>
 #include <QVBoxLayout>
@@ -18,7 +20,8 @@ constexpr int kHandSpeed = 7;        // mph
 constexpr int kMostLever = 30;       // degrees
 constexpr int kHorizontal = 1310;    // counts of the height sensor
 constexpr double kCountsPerDegree = 11.5;
-constexpr int kMoving = 500;  // ms in which a slider that was moved is left alone
+constexpr int kBesideWords = 6;  // pixels, for words that are bold while they hold
+constexpr int kMoving = 500;     // ms in which a slider that was moved is left alone
 
 std::string Number(double value) { return QString::number(value, 'f', 1).toStdString(); }
 
@@ -35,9 +38,9 @@ ControlPanel::ControlPanel(Texts& texts, std::vector<Ready> trailers, Command do
   auto* column = new QVBoxLayout(this);
   column->setContentsMargins(0, 0, 0, 0);
   column->setSpacing(4);
-  MakeTrailer();
   MakeAir();
   MakeWheels();
+  MakeTrailer();
   MakeSwitches();
   MakeTroubles();
   column->addStretch();
@@ -50,6 +53,7 @@ QGridLayout* ControlPanel::Group(const char* title) {
   auto* grid = new QGridLayout(box);
   grid->setHorizontalSpacing(6);
   grid->setVerticalSpacing(4);
+  grid->setContentsMargins(8, 6, 8, 8);
   grid->setColumnStretch(1, 1);
   texts_.Bind([this, box, title] { box->setTitle(texts_.Translate(title)); });
   layout()->addWidget(box);
@@ -68,7 +72,12 @@ QPushButton* ControlPanel::Button(const char* name, const char* key, std::functi
   button->setObjectName(QLatin1String(name));
   button->setAutoDefault(false);
   connect(button, &QPushButton::clicked, this, std::move(act));
-  texts_.Bind([this, button, key] { button->setText(texts_.Translate(key)); });
+  texts_.Bind([this, button, key] {
+    button->setText(texts_.Translate(key));
+    // The style's least width is made for dialogs; a button's own words are the least here.
+    const int words = button->fontMetrics().size(Qt::TextShowMnemonic, button->text()).width();
+    button->setStyleSheet(QStringLiteral("min-width: %1px;").arg(words + kBesideWords));
+  });
   return button;
 }
 
@@ -86,7 +95,7 @@ QComboBox* ControlPanel::Choice(const char* name, const char* key, const std::ve
   auto* box = new QComboBox(this);
   box->setObjectName(QLatin1String(name));
   box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-  box->setMinimumContentsLength(16);
+  box->setMinimumContentsLength(6);
   for (const Ready& row : *rows)
     box->addItem(QString(), QVariant(QString::fromStdString(row.command)));
   texts_.Bind([this, box, key, rows] {
@@ -96,6 +105,8 @@ QComboBox* ControlPanel::Choice(const char* name, const char* key, const std::ve
       box->setItemText(index, texts_.Translate((*rows)[i].label));
       box->setItemData(index, QString::fromStdString((*rows)[i].command), Qt::ToolTipRole);
     }
+    box->view()->setMinimumWidth(box->view()->sizeHintForColumn(0) +
+                                 box->view()->verticalScrollBar()->sizeHint().width());
   });
   return box;
 }
@@ -105,7 +116,7 @@ QSlider* ControlPanel::Slider(const char* name, const char* key, int low, int hi
   slider->setObjectName(QLatin1String(name));
   slider->setRange(low, high);
   slider->setPageStep(10);
-  slider->setMinimumWidth(110);
+  slider->setMinimumWidth(80);
   connect(slider, &QSlider::valueChanged, this, [this] { moved_.start(); });
   texts_.Bind([this, slider, key] { slider->setAccessibleName(texts_.Translate(key)); });
   return slider;
@@ -138,12 +149,10 @@ void ControlPanel::MakeAir() {
   auto* bleed = Button("cmdBleed", "&Bleed", [this] { Pump(-kPumpStroke); });
   for (QPushButton* button : {pump, bleed}) button->setAutoRepeat(true);
   places_[Deed::kFill] = pump;
-  compressor_ = Switch("chkCompressor", "&Compressor", "compressor on", "compressor off");
   grid->setColumnStretch(2, 1);
   grid->addWidget(Caption("Reservoir:", pump), 0, 0);
   grid->addWidget(pump, 0, 1);
   grid->addWidget(bleed, 0, 2);
-  grid->addWidget(compressor_, 0, 3);
   pedal_ = Slider("sldPedal", "Pedal, psi", 0, kFullPedal);
   connect(pedal_, &QSlider::valueChanged, this,
           [this](int psi) { do_("press demand " + std::to_string(psi)); });
@@ -195,10 +204,12 @@ void ControlPanel::MakeSwitches() {
   places_[Deed::kSwitchPower] = power_;
   places_[Deed::kPlugCable] = cable_;
   places_[Deed::kSwitchAdapter] = adapter_;
+  compressor_ = Switch("chkCompressor", "&Compressor", "compressor on", "compressor off");
   grid->addWidget(power_, 0, 0, Qt::AlignLeft);
-  grid->addWidget(cable_, 0, 1, Qt::AlignLeft);
-  grid->addWidget(adapter_, 0, 2, Qt::AlignLeft);
-  for (const int column : {0, 1, 2}) grid->setColumnStretch(column, 1);
+  grid->addWidget(compressor_, 0, 1, Qt::AlignLeft);
+  grid->addWidget(cable_, 1, 0, Qt::AlignLeft);
+  grid->addWidget(adapter_, 1, 1, Qt::AlignLeft);
+  grid->setColumnStretch(0, 1);
 }
 
 void ControlPanel::MakeTroubles() {
@@ -210,12 +221,16 @@ void ControlPanel::MakeTroubles() {
   grid->addWidget(Caption("De&fect:", defect_), 0, 0);
   grid->addWidget(defect_, 0, 1);
   grid->addWidget(Button("cmdBreak", "Break", [this, chosen] { do_(chosen(defect_)); }), 0, 2);
-  grid->addWidget(Button("cmdMend", "Mend all", [this] { do_("repair all"); }), 0, 3);
+  defects_ = Standing("lblDefects");
+  grid->addWidget(defects_, 1, 0, 1, 2);
+  grid->addWidget(Button("cmdMend", "Mend all", [this] { do_("repair all"); }), 1, 2);
   failure_ = Choice("cmbFailure", "Failure of the link", &ReadyFailures());
-  grid->addWidget(Caption("L&ink:", failure_), 1, 0);
-  grid->addWidget(failure_, 1, 1);
-  grid->addWidget(Button("cmdFail", "Fail", [this, chosen] { do_(chosen(failure_)); }), 1, 2);
-  grid->addWidget(Button("cmdHeal", "Heal all", [this] { do_("heal all"); }), 1, 3);
+  grid->addWidget(Caption("L&ink:", failure_), 2, 0);
+  grid->addWidget(failure_, 2, 1);
+  grid->addWidget(Button("cmdFail", "Fail", [this, chosen] { do_(chosen(failure_)); }), 2, 2);
+  failures_ = Standing("lblFailures");
+  grid->addWidget(failures_, 3, 0, 1, 2);
+  grid->addWidget(Button("cmdHeal", "Heal all", [this] { do_("heal all"); }), 3, 2);
   const auto number = [this](const char* name, const char* key, int high, int value) {
     auto* box = new QSpinBox(this);
     box->setObjectName(QLatin1String(name));
@@ -233,15 +248,21 @@ void ControlPanel::MakeTroubles() {
   const auto fault = [this](const char* state) {
     do_("fault " + std::to_string(sid_->value()) + " " + std::to_string(fmi_->value()) + state);
   };
-  grid->addWidget(Caption("Fault (&S):", sid_), 2, 0);
-  grid->addLayout(numbers, 2, 1);
-  grid->addWidget(Button("cmdFault", "Raise", [fault] { fault(" active"); }), 2, 2);
-  grid->addWidget(Button("cmdFaultGone", "Cause gone", [fault] { fault(" gone"); }), 2, 3);
-  standing_ = new QLabel(this);
-  standing_->setWordWrap(true);
-  standing_->setObjectName(QStringLiteral("lblStanding"));
-  grid->addWidget(standing_, 3, 0, 1, 4);
+  grid->addLayout(numbers, 4, 0, 1, 2);
+  grid->addWidget(Button("cmdFault", "Raise", [fault] { fault(" active"); }), 4, 2);
+  faults_ = Standing("lblFaults");
+  grid->addWidget(faults_, 5, 0, 1, 2);
+  grid->addWidget(Button("cmdFaultGone", "Cause gone", [fault] { fault(" gone"); }), 5, 2);
   texts_.Bind([this] { ShowTroubles(); });
+}
+
+// What stands wrong now, beside what ends it.
+QLabel* ControlPanel::Standing(const char* name) {
+  auto* label = new QLabel(this);
+  label->setObjectName(QLatin1String(name));
+  label->setTextFormat(Qt::PlainText);
+  label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
+  return label;
 }
 
 void ControlPanel::Pump(double psi) {
@@ -295,9 +316,13 @@ void ControlPanel::ShowTroubles() {
     return texts_.Translate(key).arg(
         names.empty() || names == "none" ? QStringLiteral("-") : QString::fromStdString(names));
   };
-  standing_->setText(told("Defects: %1", sight_.defects) + QLatin1Char('\n') +
-                     told("Link: %1", sight_.failures) + QLatin1Char('\n') +
-                     texts_.Translate("Faults in the ECU: %1").arg(sight_.faults));
+  const auto show = [](QLabel* label, const QString& text) {
+    label->setText(text);
+    label->setToolTip(text);
+  };
+  show(defects_, told("Defects: %1", sight_.defects));
+  show(failures_, told("Link failures: %1", sight_.failures));
+  show(faults_, texts_.Translate("Faults in the ECU: %1").arg(sight_.faults));
 }
 
 void ControlPanel::Mark(Deed deed) {
@@ -310,6 +335,8 @@ void ControlPanel::Mark(Deed deed) {
     place->second->style()->polish(place->second);
   }
   marked_ = deed;
+  if (const auto place = places_.find(deed); place != places_.end() && on_advised)
+    on_advised(place->second);
 }
 
 }  // namespace lorimet::bench

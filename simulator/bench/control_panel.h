@@ -31,6 +31,8 @@ class ControlPanel : public QWidget {
                QWidget* parent = nullptr);
 
   void Show(const Sight& sight, const Advice& advice, bool there);
+  // The place of what the person is to do has changed.
+  std::function<void(QWidget* place)> on_advised;
   // The speed that a hand gives a wheel, mph.
   int HandSpeed() const { return hand_speed_->value(); }
 
@@ -41,6 +43,8 @@ class ControlPanel : public QWidget {
   QCheckBox* Switch(const char* name, const char* key, const char* on, const char* off);
   QComboBox* Choice(const char* name, const char* key, const std::vector<Ready>* rows);
   QSlider* Slider(const char* name, const char* key, int low, int high);
+
+  QLabel* Standing(const char* name);
 
   void MakeTrailer();
   void MakeAir();
@@ -78,7 +82,9 @@ class ControlPanel : public QWidget {
   QComboBox* failure_ = nullptr;
   QSpinBox* sid_ = nullptr;
   QSpinBox* fmi_ = nullptr;
-  QLabel* standing_ = nullptr;
+  QLabel* defects_ = nullptr;
+  QLabel* failures_ = nullptr;
+  QLabel* faults_ = nullptr;
 };
 
 }  // namespace lorimet::bench

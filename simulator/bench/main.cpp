@@ -69,6 +69,7 @@ std::function<void()> ProgramStarter(const QString& control) {
     environment.insert(QStringLiteral("LORIMET32_CONTROL"), control);
     QProcess process;
     process.setProgram(program);
+    process.setArguments({QStringLiteral("-qwindowgeometry"), QStringLiteral("+0+0")});
     process.setProcessEnvironment(environment);
     process.startDetached();
   };
@@ -92,6 +93,7 @@ int main(int argc, char** argv) {
   BenchWindow window(options.control + QStringLiteral(".socket"), ReadyTrailers(ScenarioFolders()),
                      options.language, ProgramStarter(options.control));
   single.Stand([&window] { window.ComeForward(); });
+  window.StandBesideTheProgram();
   window.show();
   return QApplication::exec();
 }

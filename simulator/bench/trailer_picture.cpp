@@ -10,18 +10,19 @@ namespace {
 using namespace std::chrono_literals;
 
 // The plan. The front is at the top, the positions 1 to 3 on the left.
-constexpr QSizeF kPlan(600, 640);
-constexpr QRectF kBody(150, 84, 300, 540);
-constexpr double kFirstAxle = 360;
-constexpr double kBetweenAxles = 96;
-constexpr QSizeF kWheel(58, 84);
-constexpr double kWheelLeft = 74;  // its middle
-constexpr double kWheelRight = 526;
-constexpr QRectF kReservoir(210, 150, 180, 46);
-constexpr QRectF kModulatorLeft(186, 262, 92, 52);
-constexpr QRectF kModulatorRight(322, 262, 92, 52);
-constexpr QRectF kModulatorMiddle(254, 262, 92, 52);
-constexpr QRectF kModulatorThird(254, 206, 92, 46);
+constexpr QSizeF kPlan(520, 480);
+constexpr QRectF kBody(110, 58, 300, 418);
+constexpr double kMiddle = 260;
+constexpr double kFirstAxle = 270;
+constexpr double kBetweenAxles = 80;
+constexpr QSizeF kWheel(60, 66);
+constexpr double kWheelLeft = 44;  // its middle
+constexpr double kWheelRight = 476;
+constexpr QRectF kReservoir(170, 88, 180, 46);
+constexpr QRectF kModulatorLeft(144, 190, 96, 46);
+constexpr QRectF kModulatorRight(280, 190, 96, 46);
+constexpr QRectF kModulatorMiddle(212, 190, 96, 46);
+constexpr QRectF kModulatorThird(212, 139, 96, 44);
 constexpr double kFullReservoir = 130;  // psi
 constexpr int kSmall = 14;              // pixels of the plan, as all sizes of letters
 constexpr int kLarge = 17;
@@ -167,12 +168,12 @@ void TrailerPicture::DrawBody(QPainter& painter, const Colors& colors) const {
 void TrailerPicture::DrawHoses(QPainter& painter, const Colors& colors) const {
   const auto head = [&](double x, const QString& name, double psi, double to) {
     painter.setPen(Pipe(colors, psi));
-    painter.drawLine(QPointF(x, 52), QPointF(x, to));
+    painter.drawLine(QPointF(x, 34), QPointF(x, to));
     painter.setPen(QPen(colors.line, 1.5));
     painter.setBrush(colors.Pressure(psi));
-    painter.drawEllipse(QPointF(x, 48), 13, 13);
+    painter.drawEllipse(QPointF(x, 30), 12, 12);
     const bool left = x < kPlan.width() / 2;
-    const QRectF text = left ? QRectF(0, 28, x - 22, 40) : QRectF(x + 22, 28, 220, 40);
+    const QRectF text = left ? QRectF(0, 10, x - 20, 40) : QRectF(x + 20, 10, 200, 40);
     const auto side = left ? Qt::AlignRight : Qt::AlignLeft;
     SetLetters(painter, kSmall, false);
     painter.setPen(colors.words);
@@ -180,8 +181,8 @@ void TrailerPicture::DrawHoses(QPainter& painter, const Colors& colors) const {
     SetLetters(painter, kLarge, true);
     painter.drawText(text, side | Qt::AlignBottom, Psi(psi));
   };
-  head(256, texts_.Translate("Control line"), sight_.control_line, 132);
-  head(344, texts_.Translate("Supply"), sight_.supply, kReservoir.top());
+  head(216, texts_.Translate("Control line"), sight_.control_line, 78);
+  head(304, texts_.Translate("Supply"), sight_.supply, kReservoir.top());
 }
 
 void TrailerPicture::DrawReservoir(QPainter& painter, const Colors& colors) const {
@@ -234,8 +235,8 @@ void TrailerPicture::DrawPipes(QPainter& painter, const Colors& colors) const {
     const bool left = OnTheLeft(position);
     const double axle = AxleAt(position);
     const QRectF from = ModulatorAt(modulator);
-    double trunk = left ? 206 : 394;
-    if (modulator == 3) trunk = left ? 172 : 428;
+    double trunk = left ? 164 : 356;
+    if (modulator == 3) trunk = left ? 130 : 390;
     const QPolygonF pipe = {from.center(), QPointF(trunk, from.center().y()), QPointF(trunk, axle),
                             QPointF(left ? kWheelLeft + 24 : kWheelRight - 24, axle)};
     painter.setPen(Pipe(colors, sight_.modulators[static_cast<std::size_t>(modulator - 1)]));
@@ -258,7 +259,7 @@ void TrailerPicture::DrawModulators(QPainter& painter, const Colors& colors) con
 }
 
 void TrailerPicture::DrawLamps(QPainter& painter, const Colors& colors) const {
-  const QRectF lamp(172, 100, 34, 34);
+  const QRectF lamp(122, 72, 36, 36);
   if (sight_.lamp) {
     QColor glow = colors.lamp;
     glow.setAlphaF(0.35);
@@ -272,28 +273,28 @@ void TrailerPicture::DrawLamps(QPainter& painter, const Colors& colors) const {
   SetLetters(painter, kSmall, true);
   painter.setPen(sight_.lamp ? QColor("#1b2733") : colors.words);
   painter.drawText(lamp, Qt::AlignCenter, QStringLiteral("ABS"));
-  for (const double x : {168.0, 384.0}) {
+  for (const double x : {126.0, 346.0}) {
     painter.setPen(QPen(colors.line, 1.5));
     painter.setBrush(sight_.stop_lights ? colors.stop_light : colors.out);
-    painter.drawRoundedRect(QRectF(x, 606, 48, 14), 4, 4);
+    painter.drawRoundedRect(QRectF(x, 456, 48, 14), 4, 4);
   }
   painter.setPen(colors.faint);
   SetLetters(painter, kSmall, false);
-  painter.drawText(QRectF(216, 602, 168, 20), Qt::AlignCenter, texts_.Translate("Stop lights"));
+  painter.drawText(QRectF(176, 452, 168, 20), Qt::AlignCenter, texts_.Translate("Stop lights"));
 }
 
 // The bellows between the axles, or the height sensor with its lever.
 void TrailerPicture::DrawSuspension(QPainter& painter, const Colors& colors) const {
-  constexpr QRectF box(236, 392, 128, 56);
+  constexpr QRectF box(kMiddle - 68, 300, 136, 50);
   DrawBox(painter, colors, box);
   painter.setPen(colors.words);
   SetLetters(painter, kSmall, false);
-  painter.drawText(box.adjusted(0, 6, 0, 0), Qt::AlignHCenter | Qt::AlignTop,
+  painter.drawText(box.adjusted(0, 4, 0, 0), Qt::AlignHCenter | Qt::AlignTop,
                    texts_.Translate(sight_.air ? "Bellows" : "Height sensor"));
   SetLetters(painter, kLarge, true);
   QString value = Psi(sight_.bellows);
   if (!sight_.air) value = sight_.height ? QString::number(*sight_.height) : QStringLiteral("-");
-  painter.drawText(box.adjusted(0, 0, 0, -6), Qt::AlignHCenter | Qt::AlignBottom, value);
+  painter.drawText(box.adjusted(0, 0, 0, -4), Qt::AlignHCenter | Qt::AlignBottom, value);
   if (sight_.air || !sight_.height) return;
   constexpr int kHorizontal = 1310;
   constexpr double kCountsPerDegree = 11.5;
@@ -316,7 +317,7 @@ void TrailerPicture::DrawWheelTexts(QPainter& painter, const Colors& colors) con
     if (!wheel.present || wheel.speed <= 0) continue;
     const double x = OnTheLeft(position) ? kWheelLeft : kWheelRight;
     painter.setPen(colors.words);
-    painter.drawText(QRectF(x - 60, AxleAt(position) - 62, 120, 18), Qt::AlignCenter,
+    painter.drawText(QRectF(x - 44, AxleAt(position) - 48, 88, 16), Qt::AlignCenter,
                      QStringLiteral("%1 mph").arg(wheel.speed, 0, 'f', 1));
   }
 }

@@ -25,15 +25,15 @@ class TrailerPicture : public QWidget {
 
   std::function<void(int position)> on_spin;
 
-  QSize sizeHint() const override { return {560, 560}; }
-  QSize minimumSizeHint() const override { return {340, 360}; }
+  QSize sizeHint() const override { return {560, 480}; }
+  QSize minimumSizeHint() const override { return {240, 220}; }
 
  protected:
   void paintEvent(QPaintEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
 
  private:
-  // Of the plan, 600 wide and 640 high, on the widget.
+  // Of the plan, 520 wide and 480 high, on the widget.
   double Scale() const;
   QRectF OnWidget(const QRectF& plan) const;
   void PlaceWheels();

@@ -58,7 +58,7 @@ void WheelButton::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.setRenderHint(QPainter::Antialiasing);
   const Colors colors(palette());
-  const QRectF tyre = QRectF(rect()).adjusted(4, 4, -4, -4);
+  const QRectF tyre = QRectF(rect()).adjusted(3.5, 3.5, -3.5, -3.5);
   const double round = tyre.width() * 0.28;
   if (advised_ || hasFocus()) {
     painter.setPen(QPen(advised_ ? colors.advised : colors.accent, 3));
@@ -68,6 +68,7 @@ void WheelButton::paintEvent(QPaintEvent*) {
   QPainterPath shape;
   shape.addRoundedRect(tyre, round, round);
   painter.fillPath(shape, isDown() ? colors.tyre.lighter(130) : colors.tyre);
+  if (colors.dark) painter.strokePath(shape, QPen(colors.line, 1));
   painter.setClipPath(shape);
   painter.setPen(QPen(colors.tread, std::max(1.0, tyre.height() * 0.03)));
   const double step = tyre.height() * kStripe / 100;
@@ -85,7 +86,8 @@ void WheelButton::paintEvent(QPaintEvent*) {
         2, 2);
   }
   QFont font = this->font();
-  font.setPixelSize(std::max(11, static_cast<int>(tyre.height() * 0.24)));
+  font.setPixelSize(
+      std::max(8, static_cast<int>(std::min(tyre.height() * 0.32, tyre.width() * 0.46))));
   font.setBold(true);
   painter.setFont(font);
   painter.setPen(colors.on_tyre);
