@@ -15,6 +15,9 @@ char ByteOf(char32_t character);
 // The small letter of a letter that the page has; any other character is its own.
 char32_t SmallLetterOf(char32_t character);
 
+// For a character of the first plane, up to 0xFFFF.
+void AppendUtf8(std::string& text, char32_t character);
+
 // A character that has no code becomes "?"; so does each byte of malformed UTF-8.
 std::string ToCp1252(std::string_view utf8);
 std::string FromCp1252(std::string_view bytes);

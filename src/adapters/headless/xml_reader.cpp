@@ -3,36 +3,26 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <cstdint>
 #include <stdexcept>
 #include <utility>
+
+#include "support/text.h"
 
 namespace lorimet {
 namespace {
 
 constexpr std::string_view kBlanks = " \t\r\n";
 
-void AppendUtf8(std::string& text, unsigned long c) {
-  if (c < 0x80) {
-    text += static_cast<char>(c);
-  } else if (c < 0x800) {
-    text += static_cast<char>(0xC0 | (c >> 6));
-    text += static_cast<char>(0x80 | (c & 0x3F));
-  } else {
-    text += static_cast<char>(0xE0 | (c >> 12));
-    text += static_cast<char>(0x80 | ((c >> 6) & 0x3F));
-    text += static_cast<char>(0x80 | (c & 0x3F));
-  }
-}
-
 constexpr std::array<std::pair<std::string_view, char>, 5> kEntities{
     {{"lt", '<'}, {"gt", '>'}, {"amp", '&'}, {"quot", '"'}, {"apos", '\''}}};
 
-unsigned long CharacterOf(std::string_view entity) {
+char32_t CharacterOfEntity(std::string_view entity) {
   for (const auto& [name, character] : kEntities)
     if (name == entity) return static_cast<unsigned char>(character);
   const bool hex = entity.starts_with("#x");
   const char* const end = entity.data() + entity.size();
-  unsigned long code = 0;
+  std::uint32_t code = 0;
   const bool numbered = entity.starts_with('#');
   const char* const digits = entity.data() + std::min<std::size_t>(entity.size(), hex ? 2 : 1);
   const auto result = std::from_chars(digits, end, code, hex ? 16 : 10);
@@ -147,7 +137,7 @@ std::string XmlReader::Decode(std::string_view raw) const {
     if (end == std::string_view::npos) throw std::runtime_error("XML entity without an end");
     const std::string_view entity = raw.substr(i + 1, end - i - 1);
     i = end;
-    AppendUtf8(text, CharacterOf(entity));
+    AppendUtf8(text, CharacterOfEntity(entity));
   }
   return text;
 }
