@@ -5,7 +5,6 @@
 #include <utility>
 
 #include "session/session_part.h"
-#include "support/settings.h"
 #include "tests/tests_part.h"
 
 namespace lorimet::testing_support {
@@ -59,16 +58,8 @@ OperatedProgram::OperatedProgram(const std::string& scenario,
   date.tm_mday = 21;
   date.tm_hour = 15;
   clock.SetDate(date);
-  process.files = {"/launcher"};
-  registry.SetText(RegistryHive::kLocalMachine, std::string(kAppPathsKey) + "Hubrest.exe", "",
-                   "/launcher");
-  Trailer().SetStatusSink([this](std::int32_t status) { hook.Post(status); });
-  Trailer().SetWaiter(
-      [this](double seconds) { clock.Advance(static_cast<std::uint32_t>(seconds * 1000)); });
+  Drive(Trailer(), clock);
   Trailer().Log().Keep(true);
-  clock.on_advance = [this](std::uint32_t milliseconds) {
-    Trailer().Advance(milliseconds / 1000.0);
-  };
   clock.on_sleep = [this](std::uint32_t milliseconds) { NoteSleep(milliseconds); };
   desktop.on_do_events = [this] { hook.Deliver(); };
   desktop.on_unhandled_error = [this](const RuntimeError& error) {

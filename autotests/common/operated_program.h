@@ -9,12 +9,8 @@
 #include <vector>
 
 #include "adapters/headless/headless_desktop.h"
-#include "adapters/headless/headless_files.h"
-#include "adapters/headless/headless_ports.h"
-#include "adapters/headless/recording_printer.h"
-#include "adapters/posix/posix_profile_file.h"
 #include "autotests/common/simulated_link.h"
-#include "autotests/places.h"
+#include "autotests/common/stand_ins.h"
 #include "program.h"
 #include "session/ecu_data.h"
 #include "simulator/operator/form_screen.h"
@@ -58,7 +54,7 @@ class HeadlessScreen : public simulator::FormScreen {
   std::optional<BoxButton> answer_;
 };
 
-class OperatedProgram {
+class OperatedProgram : public StandIns {
  public:
   // Starts the program and connects it. A scenario that is broken, or a program that does not
   // start, is a std::runtime_error.
@@ -84,17 +80,8 @@ class OperatedProgram {
 
   ToldClock clock;
   HeadlessDesktop desktop{clock};
-  MemoryRegistry registry;
-  HeadlessMessageHook hook;
-  HeadlessProcess process;
   SimulatedLink link;
-  RecordingHelpViewer help_viewer;
-  TsTranslations translations{InSource("translations")};
-  PosixProfileFile profile_file;
-  MemoryTextFiles text_files;
-  RecordingPrinter printer;
-  Program program{{desktop, clock, registry, hook, process, link, help_viewer, translations,
-                   profile_file, text_files, printer}};
+  Program program{With(desktop, clock, link)};
   HeadlessScreen screen{desktop};
   simulator::LinkYard yard{link.link};
   simulator::ScriptedOperator hand;

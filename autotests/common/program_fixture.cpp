@@ -8,9 +8,6 @@ namespace lorimet::testing_support {
 ProgramTest::ProgramTest() {
   link.on_static_read = [this] { Ecu().nLinkJobDone.Store(-1); };
   desktop.on_do_events = [this] { hook.Deliver(); };
-  process.files = {"/opt/hubrest"};
-  registry.SetText(RegistryHive::kLocalMachine, std::string(kAppPathsKey) + "Hubrest.exe", "",
-                   "/opt/hubrest");
 }
 
 ProgramTest::~ProgramTest() {

@@ -15,25 +15,18 @@
 #include "adapters/headless/recording_printer.h"
 #include "adapters/qt/qt_page_printer.h"
 #include "adapters/qt/qt_text.h"
+#include "autotests/common/gestures.h"
 #include "autotests/desktop/desktop_fixture.h"
 
 namespace lorimet {
 namespace {
 
+using testing_support::ErrorOf;
+
 const PrinterFont kTitle{"Arial", 14, true};
 const PrinterFont kBody{"Arial", 9.75, false};
 const PrinterFont kBold{"Arial", 9.75, true};
 constexpr double kDotsPerTwip = 600.0 / 1440.0;
-
-// The number of the error that the action raises, 0 for none.
-int NumberOf(const std::function<void()>& action) {
-  try {
-    action();
-  } catch (const RuntimeError& error) {
-    return error.Number();
-  }
-  return 0;
-}
 
 QByteArray BytesOf(const QString& path) {
   QFile file(path);
@@ -146,18 +139,18 @@ TEST_P(PagePrinterContract, EndingOrCancellingNothingDoesNothing) {
   printer_->PrintToFile(FromQString(file_));
   printer_->PrintLine("x");
   printer_->Cancel();
-  EXPECT_EQ(NumberOf([&] { printer_->EndDocument(); }), 0);
+  EXPECT_EQ(ErrorOf([&] { printer_->EndDocument(); }), 0);
 }
 
 TEST_P(PagePrinterContract, AFileIsForOneDocument) {
   printer_->PrintLine("x");
   printer_->EndDocument();
   if (printer_->HasPrinter()) GTEST_SKIP() << "nothing may be printed on a real printer";
-  EXPECT_EQ(NumberOf([&] { printer_->PrintLine("x"); }), 482);
+  EXPECT_EQ(ErrorOf([&] { printer_->PrintLine("x"); }), 482);
   printer_->Cancel();
   printer_->PrintToFile(FromQString(file_));
   printer_->Cancel();
-  EXPECT_EQ(NumberOf([&] { printer_->PrintLine("x"); }), 482);
+  EXPECT_EQ(ErrorOf([&] { printer_->PrintLine("x"); }), 482);
 }
 
 // What stands in a page's content: the texts with their places, and the lines, in dots.
@@ -305,7 +298,7 @@ TEST_F(QtPagePrinterTest, WhatIsCancelledLeavesNothing) {
 
 TEST_F(QtPagePrinterTest, AFileThatCannotBeWrittenIsError482) {
   printer_.PrintToFile(FromQString(folder_.filePath("none/pages.pdf")));
-  EXPECT_EQ(NumberOf([&] { printer_.PrintLine("x"); }), 482);
+  EXPECT_EQ(ErrorOf([&] { printer_.PrintLine("x"); }), 482);
   printer_.Cancel();
   EXPECT_EQ(Names(), QStringList());
 }
@@ -320,7 +313,7 @@ TEST_F(QtPagePrinterTest, AFullDiskIsError482AndKeepsTheOldFile) {
   auto* const handler = std::signal(SIGXFSZ, SIG_IGN);
   const rlimit small{2000, before.rlim_max};
   setrlimit(RLIMIT_FSIZE, &small);
-  const int number = NumberOf([&] {
+  const int number = ErrorOf([&] {
     for (int i = 0; i < 300; ++i) printer_.PrintLine("line " + std::to_string(i));
     printer_.EndDocument();
   });
@@ -335,8 +328,8 @@ TEST_F(QtPagePrinterTest, AFullDiskIsError482AndKeepsTheOldFile) {
 TEST_F(QtPagePrinterTest, WithoutAPrinterItIsError482) {
   QtPagePrinter printer;
   if (printer.HasPrinter()) GTEST_SKIP() << "this machine has a printer";
-  EXPECT_EQ(NumberOf([&] { printer.PrintLine("x"); }), 482);
-  EXPECT_EQ(NumberOf([&] { printer.TextWidth("x"); }), 482);
+  EXPECT_EQ(ErrorOf([&] { printer.PrintLine("x"); }), 482);
+  EXPECT_EQ(ErrorOf([&] { printer.TextWidth("x"); }), 482);
 }
 
 }  // namespace

@@ -11,14 +11,10 @@
 #include <vector>
 
 #include "adapters/headless/headless_desktop.h"
-#include "adapters/headless/headless_files.h"
-#include "adapters/headless/headless_ports.h"
-#include "adapters/headless/recording_printer.h"
-#include "adapters/posix/posix_profile_file.h"
 #include "adapters/qt/qt_desktop.h"
 #include "autotests/common/fake_link.h"
+#include "autotests/common/stand_ins.h"
 #include "autotests/desktop/desktop_fixture.h"
-#include "autotests/places.h"
 #include "faults/faults_part.h"
 #include "parameters/parameters_part.h"
 #include "platform/runtime_error.h"
@@ -28,16 +24,13 @@
 
 namespace lorimet {
 
-class ScreensTest : public testing::Test {
+class ScreensTest : public testing::Test, protected testing_support::StandIns {
  protected:
   ScreensTest() {
     desktop.on_unhandled_error = [](const RuntimeError& error) {
       ADD_FAILURE() << error.Number() << ": " << error.Description();
     };
     link.on_static_read = [this] { Ecu().nLinkJobDone.Store(-1); };
-    process.files = {"/opt/hubrest"};
-    registry.SetText(RegistryHive::kLocalMachine, std::string(kAppPathsKey) + "Hubrest.exe", "",
-                     "/opt/hubrest");
   }
   ~ScreensTest() override {
     boxes_.stop();
@@ -92,17 +85,8 @@ class ScreensTest : public testing::Test {
   int boxes = 0;
   QtDesktop desktop;
   VirtualClock clock;
-  MemoryRegistry registry;
-  HeadlessMessageHook hook;
-  HeadlessProcess process;
   testing_support::FakeLink link;
-  RecordingHelpViewer help_viewer;
-  TsTranslations translations{InSource("translations")};
-  PosixProfileFile profile_file;
-  MemoryTextFiles text_files;
-  RecordingPrinter printer;
-  Program program{{desktop, clock, registry, hook, process, link, help_viewer, translations,
-                   profile_file, text_files, printer}};
+  Program program{With(desktop, clock, link)};
 
  private:
   QTimer boxes_;

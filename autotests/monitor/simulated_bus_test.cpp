@@ -2,8 +2,6 @@
 // go wrong there, row by row, and what the user sees of it.
 #include <gtest/gtest.h>
 
-#include <unistd.h>
-
 #include <algorithm>
 #include <filesystem>
 #include <fstream>
@@ -16,12 +14,9 @@
 #include <vector>
 
 #include "adapters/headless/headless_desktop.h"
-#include "adapters/headless/headless_files.h"
-#include "adapters/headless/headless_ports.h"
-#include "adapters/headless/recording_printer.h"
-#include "adapters/posix/posix_profile_file.h"
+#include "autotests/common/scratch_folder.h"
 #include "autotests/common/simulated_link.h"
-#include "autotests/places.h"
+#include "autotests/common/stand_ins.h"
 #include "monitor/monitor_part.h"
 #include "program.h"
 #include "session/session_part.h"
@@ -31,18 +26,12 @@ namespace lorimet::testing_support {
 namespace {
 
 // One run of the program on one trailer.
-class Bench {
+class Bench : public StandIns {
  public:
   explicit Bench(const std::string& scenario, const std::filesystem::path& folder)
       : link(scenario) {
     process.folder = folder.string();
-    process.files = {"/launcher"};
-    registry.SetText(RegistryHive::kLocalMachine, std::string(kAppPathsKey) + "Hubrest.exe", "",
-                     "/launcher");
-    clock.on_advance = [this](std::uint32_t milliseconds) {
-      link.link.Advance(milliseconds / 1000.0);
-    };
-    link.link.SetStatusSink([this](std::int32_t status) { hook.Post(status); });
+    Drive(link.link, clock);
     desktop.on_do_events = [this] { hook.Deliver(); };
     desktop.on_lay_out = [](Form& form) {
       if (form.Name() != "frmBusMonitor") return;
@@ -86,17 +75,8 @@ class Bench {
 
   VirtualClock clock;
   HeadlessDesktop desktop{clock};
-  MemoryRegistry registry;
-  HeadlessMessageHook hook;
-  HeadlessProcess process;
   SimulatedLink link;
-  RecordingHelpViewer help_viewer;
-  TsTranslations translations{InSource("translations")};
-  PosixProfileFile profile_file;
-  MemoryTextFiles text_files;
-  RecordingPrinter printer;
-  Program program{{desktop, clock, registry, hook, process, link, help_viewer, translations,
-                   profile_file, text_files, printer}};
+  Program program{With(desktop, clock, link)};
 };
 
 std::string ReadAll(const std::filesystem::path& path) {
@@ -106,25 +86,17 @@ std::string ReadAll(const std::filesystem::path& path) {
 
 class SimulatedBusTest : public testing::Test {
  protected:
-  SimulatedBusTest() {
-    folder_ = std::filesystem::temp_directory_path() /
-              ("lorimet_bus_" + std::to_string(::getpid()) + "_" +
-               testing::UnitTest::GetInstance()->current_test_info()->name());
-    std::filesystem::create_directories(folder_);
-  }
-  ~SimulatedBusTest() override {
-    bench_.reset();
-    std::filesystem::remove_all(folder_);
-  }
   Bench& On(const std::string& scenario) {
     bench_.reset();
     bench_ = std::make_unique<Bench>(scenario, folder_);
     return *bench_;
   }
-  std::filesystem::path folder_;
+
+  ScratchFolder scratch_;
+  const std::filesystem::path folder_ = scratch_.Path();
 
  private:
-  std::unique_ptr<Bench> bench_;
+  std::unique_ptr<Bench> bench_;  // whose recording is closed before its folder goes
 };
 
 TEST_F(SimulatedBusTest, ShowsTheTrafficOfAHealthyTrailer) {

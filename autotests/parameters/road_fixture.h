@@ -14,7 +14,7 @@
 #include "autotests/common/gestures.h"
 #include "autotests/common/program_fixture.h"
 #include "autotests/common/simulated_link.h"
-#include "autotests/places.h"
+#include "autotests/common/stand_ins.h"
 #include "parameters/parameters_part.h"
 #include "session/session_part.h"
 
@@ -27,21 +27,14 @@ constexpr std::array<std::uint8_t, 16> kBlocks = {0x03, 0x3D, 0x27, 0x17, 0x28, 
 
 // A program on a simulated trailer; time passes in both at once.
 template <typename Base>
-class RoadFixture : public Base {
+class RoadFixture : public Base, protected StandIns {
  protected:
   void Begin(const std::string& scenario) {
     link = std::make_unique<SimulatedLink>(scenario);
     ASSERT_EQ(link->link.ScenarioError(), "");
-    link->link.SetStatusSink([this](std::int32_t status) { hook.Post(status); });
-    link->link.SetWaiter(
-        [this](double seconds) { clock.Advance(static_cast<std::uint32_t>(seconds * 1000)); });
-    clock.on_advance = [this](std::uint32_t milliseconds) {
-      link->link.Advance(milliseconds / 1000.0);
-    };
+    Drive(link->link, clock);
     desktop.on_do_events = [this] { hook.Deliver(); };
-    program =
-        std::make_unique<Program>(Ports{desktop, clock, registry, hook, process, *link, help_viewer,
-                                        translations, profile_file, text_files, printer});
+    program = std::make_unique<Program>(With(desktop, clock, *link));
     ASSERT_EQ(program->Start(), EntryResult::kRunning);
     one_modulator_ = Ecu().bNumModulators.Load() == 1;
   }
@@ -98,14 +91,6 @@ class RoadFixture : public Base {
 
   VirtualClock clock;
   HeadlessDesktop desktop{clock};
-  MemoryRegistry registry;
-  HeadlessMessageHook hook;
-  HeadlessProcess process;
-  RecordingHelpViewer help_viewer;
-  TsTranslations translations{InSource("translations")};
-  PosixProfileFile profile_file;
-  MemoryTextFiles text_files;
-  RecordingPrinter printer;
   std::unique_ptr<SimulatedLink> link;
   std::unique_ptr<Program> program;
 

@@ -1,38 +1,18 @@
-// What the tests of the system's own adapters share: a folder of their own and a set environment.
+// What the tests of the system's own adapters share: a set environment and what files hold.
 #pragma once
 
 #include <gtest/gtest.h>
 
 #include <cstdlib>
-#include <filesystem>
 #include <fstream>
 #include <iterator>
 #include <map>
 #include <optional>
 #include <string>
 
+#include "autotests/common/scratch_folder.h"
+
 namespace lorimet {
-
-// A folder that is gone with all that is in it when the test ends.
-class ScratchFolder {
- public:
-  ScratchFolder() {
-    std::string name = (std::filesystem::temp_directory_path() / "lorimet-test-XXXXXX").string();
-    path_ = mkdtemp(name.data());
-  }
-  ~ScratchFolder() {
-    std::error_code error;
-    std::filesystem::remove_all(path_, error);
-  }
-  ScratchFolder(const ScratchFolder&) = delete;
-  ScratchFolder& operator=(const ScratchFolder&) = delete;
-
-  std::string Path() const { return path_; }
-  std::string operator/(const std::string& name) const { return path_ + "/" + name; }
-
- private:
-  std::string path_;
-};
 
 // Sets environment variables and puts the old ones back when the test ends.
 class ScratchEnvironment {

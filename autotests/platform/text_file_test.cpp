@@ -13,6 +13,7 @@
 
 #include "adapters/headless/headless_files.h"
 #include "adapters/posix/posix_text_file.h"
+#include "autotests/common/gestures.h"
 #include "autotests/platform/file_faults.h"
 #include "autotests/platform/native_fixture.h"
 #include "platform/runtime_error.h"
@@ -20,17 +21,9 @@
 namespace lorimet {
 namespace {
 
-namespace fs = std::filesystem;
+using testing_support::ErrorOf;
 
-// The number of the error that the action raises, 0 for none.
-int NumberOf(const std::function<void()>& action) {
-  try {
-    action();
-  } catch (const RuntimeError& error) {
-    return error.Number();
-  }
-  return 0;
-}
+namespace fs = std::filesystem;
 
 void WriteText(TextFiles& files, const std::string& path, const std::string& bytes) {
   const auto file = files.OpenForOutput(path);
@@ -69,7 +62,7 @@ TEST_P(TextFilesContract, BytesComeBackAsTheyWereGiven) {
 TEST_P(TextFilesContract, NothingStandsBeforeTheEnd) {
   const auto file = files_->OpenForOutput(path_);
   file->Write("x");
-  EXPECT_EQ(NumberOf([&] { files_->ReadWhole(path_); }), 53);
+  EXPECT_EQ(ErrorOf([&] { files_->ReadWhole(path_); }), 53);
   file->Close();
   EXPECT_EQ(files_->ReadWhole(path_), "x");
 }
@@ -89,9 +82,9 @@ TEST_P(TextFilesContract, WhatIsNotClosedLeavesTheOldFile) {
 }
 
 TEST_P(TextFilesContract, MissingFilesAndBadNamesHaveTheirNumbers) {
-  EXPECT_EQ(NumberOf([&] { files_->ReadWhole(path_); }), 53);
-  EXPECT_EQ(NumberOf([&] { files_->ReadWhole(""); }), 52);
-  EXPECT_EQ(NumberOf([&] { files_->OpenForOutput(""); }), 52);
+  EXPECT_EQ(ErrorOf([&] { files_->ReadWhole(path_); }), 53);
+  EXPECT_EQ(ErrorOf([&] { files_->ReadWhole(""); }), 52);
+  EXPECT_EQ(ErrorOf([&] { files_->OpenForOutput(""); }), 52);
 }
 
 class PosixTextFileTest : public testing::Test {
@@ -105,7 +98,7 @@ class PosixTextFileTest : public testing::Test {
     return stat(path.c_str(), &status) == 0 ? status.st_mode & 07777U : 0;
   }
   int NumberOfWriting(const std::string& path, TextFiles& files) {
-    return NumberOf([&] { WriteText(files, path, "new"); });
+    return ErrorOf([&] { WriteText(files, path, "new"); });
   }
   int NumberOfWriting(const std::string& path) { return NumberOfWriting(path, files_); }
 
@@ -127,10 +120,10 @@ TEST_F(PosixTextFileTest, NoTemporaryFileIsLeft) {
 
 TEST_F(PosixTextFileTest, AMissingFolderIsError76AndNoneIsMade) {
   EXPECT_EQ(NumberOfWriting(folder_ / "none/AB.txt"), 76);
-  EXPECT_EQ(NumberOf([&] { files_.ReadWhole(folder_ / "none/AB.txt"); }), 76);
+  EXPECT_EQ(ErrorOf([&] { files_.ReadWhole(folder_ / "none/AB.txt"); }), 76);
   WriteText(files_, path_, "x");
   EXPECT_EQ(NumberOfWriting(path_ + "/AB.txt"), 76);
-  EXPECT_EQ(NumberOf([&] { files_.ReadWhole(path_ + "/AB.txt"); }), 76);
+  EXPECT_EQ(ErrorOf([&] { files_.ReadWhole(path_ + "/AB.txt"); }), 76);
   EXPECT_EQ(FilesInFolder(), 1U);
 }
 
@@ -139,9 +132,9 @@ TEST_F(PosixTextFileTest, WhatIsNoFileIsError75) {
   ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
   for (const std::string& path : {folder_.Path(), pipe}) {
     EXPECT_EQ(NumberOfWriting(path), 75) << path;
-    EXPECT_EQ(NumberOf([&] { files_.ReadWhole(path); }), 75) << path;
+    EXPECT_EQ(ErrorOf([&] { files_.ReadWhole(path); }), 75) << path;
   }
-  EXPECT_EQ(NumberOf([&] { files_.ReadWhole("/dev/zero"); }), 75);
+  EXPECT_EQ(ErrorOf([&] { files_.ReadWhole("/dev/zero"); }), 75);
   EXPECT_TRUE(fs::is_fifo(pipe));
 }
 
@@ -149,7 +142,7 @@ TEST_F(PosixTextFileTest, ANameThatCannotBeOneIsError52) {
   const std::string nul("A\0B", 3);
   for (const std::string& name : {folder_ / nul, folder_ / std::string(300, 'n')}) {
     EXPECT_EQ(NumberOfWriting(name), 52);
-    EXPECT_EQ(NumberOf([&] { files_.ReadWhole(name); }), 52);
+    EXPECT_EQ(ErrorOf([&] { files_.ReadWhole(name); }), 52);
   }
   EXPECT_EQ(FilesInFolder(), 0U);
 }
@@ -167,7 +160,7 @@ TEST_F(PosixTextFileTest, WhatTheUserMayNotWriteIsError75) {
     const OrdinaryUser user;
     EXPECT_EQ(NumberOfWriting(path_), 75);
     EXPECT_EQ(NumberOfWriting(closed + "/AB.txt"), 75);
-    EXPECT_EQ(NumberOf([&] { files_.ReadWhole(folder_ / "secret.txt"); }), 75);
+    EXPECT_EQ(ErrorOf([&] { files_.ReadWhole(folder_ / "secret.txt"); }), 75);
     EXPECT_EQ(NumberOfWriting(folder_ / "free.txt"), 0);
   }
   EXPECT_EQ(ReadFile(path_), "old");
@@ -195,7 +188,7 @@ TEST_F(PosixTextFileTest, EachFaultOfTheDiskHasItsNumberAndLeavesTheOldFile) {
     EXPECT_EQ(FilesInFolder(), 1U);
   }
   PosixTextFiles broken(FailingCalls(FileCall::kRead, EIO));
-  EXPECT_EQ(NumberOf([&] { broken.ReadWhole(path_); }), 57);
+  EXPECT_EQ(ErrorOf([&] { broken.ReadWhole(path_); }), 57);
 }
 
 TEST_F(PosixTextFileTest, AWriteThatMovesNothingIsError57AndEnds) {
@@ -218,7 +211,7 @@ TEST_F(PosixTextFileTest, ShortAndInterruptedCallsLoseNothing) {
 TEST_F(PosixTextFileTest, AFileBeyondAllReasonIsNotRead) {
   WriteFile(path_, "x");
   ASSERT_EQ(truncate(path_.c_str(), (64 << 20) + 1), 0);
-  EXPECT_EQ(NumberOf([&] { files_.ReadWhole(path_); }), 57);
+  EXPECT_EQ(ErrorOf([&] { files_.ReadWhole(path_); }), 57);
   ASSERT_EQ(truncate(path_.c_str(), 64 << 20), 0);
   EXPECT_EQ(files_.ReadWhole(path_).size(), std::size_t{64} << 20);
 }
@@ -265,14 +258,14 @@ TEST(MemoryTextFilesTest, FailOnOrder) {
     MemoryTextFiles files;
     files.files["/AB.txt"] = "old";
     files.trouble = row.trouble;
-    EXPECT_EQ(NumberOf([&] { files.OpenForOutput("/AB.txt"); }), row.opening);
-    EXPECT_EQ(NumberOf([&] { files.ReadWhole("/AB.txt"); }), row.reading);
+    EXPECT_EQ(ErrorOf([&] { files.OpenForOutput("/AB.txt"); }), row.opening);
+    EXPECT_EQ(ErrorOf([&] { files.ReadWhole("/AB.txt"); }), row.reading);
     files.trouble = FileTrouble::kNone;
     const auto file = files.OpenForOutput("/AB.txt");
     EXPECT_EQ(files.open_files, 1);
     file->Write("new");
     files.trouble = row.trouble;
-    EXPECT_EQ(NumberOf([&] { file->Close(); }), row.closing);
+    EXPECT_EQ(ErrorOf([&] { file->Close(); }), row.closing);
     EXPECT_EQ(files.files["/AB.txt"], row.closing == 0 ? "new" : "old");
   }
 }

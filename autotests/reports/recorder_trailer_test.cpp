@@ -6,6 +6,7 @@
 #include <functional>
 #include <memory>
 
+#include "autotests/common/boxes.h"
 #include "autotests/common/memory_file_reader.h"
 #include "autotests/common/operated_program.h"
 #include "autotests/platform/native_fixture.h"
@@ -17,7 +18,6 @@ namespace lorimet::testing_support {
 namespace {
 
 using Lines = std::vector<std::string>;
-using Boxes = std::vector<MessageBox>;
 
 class RecorderTrailerTest : public testing::Test {
  protected:

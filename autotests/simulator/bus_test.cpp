@@ -20,6 +20,7 @@
 #include <string>
 #include <vector>
 
+#include "autotests/common/scratch_folder.h"
 #include "autotests/simulator/link_fixture.h"
 #include "simulator/library/bus_monitor.h"
 #include "simulator/library/data_log.h"
@@ -663,13 +664,6 @@ LogFile ReadLog(const std::filesystem::path& path) {
 
 class DataLogTest : public BusTest {
  protected:
-  void SetUp() override {
-    folder_ = std::filesystem::temp_directory_path() /
-              ("lorimet_log_" + std::to_string(::getpid()) + "_" +
-               testing::UnitTest::GetInstance()->current_test_info()->name());
-    std::filesystem::create_directories(folder_);
-  }
-  void TearDown() override { std::filesystem::remove_all(folder_); }
   std::int32_t StartLog(const std::string& path, const std::string& comments = {}) {
     path_text_ = path;
     path_text_.resize(1024);
@@ -679,7 +673,8 @@ class DataLogTest : public BusTest {
   }
   std::string Path(const char* name = "log.txt") const { return (folder_ / name).string(); }
 
-  std::filesystem::path folder_;
+  ScratchFolder scratch_;
+  const std::filesystem::path folder_ = scratch_.Path();
   std::string path_text_, comments_text_;
 };
 

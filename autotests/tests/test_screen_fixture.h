@@ -10,6 +10,7 @@
 
 #include "adapters/headless/headless_desktop.h"
 #include "adapters/headless/headless_ports.h"
+#include "autotests/common/boxes.h"
 #include "autotests/common/fake_link.h"
 #include "autotests/places.h"
 #include "faults/fault_table.h"
@@ -22,19 +23,9 @@
 namespace lorimet::testing_support {
 
 using Calls = std::vector<std::string>;
-using Boxes = std::vector<MessageBox>;
 
 constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
-
-inline MessageBox PlainBox(const std::string& text, const std::string& title,
-                           BoxIcon icon = BoxIcon::kNone) {
-  MessageBox box;
-  box.text = text;
-  box.title = title;
-  box.icon = icon;
-  return box;
-}
 
 // Link calls, sleeps and repaintings in the one order in which they happened. Equal sleeps in a row
 // are one entry with their number, "sleep 10 x 40".
