@@ -1,11 +1,9 @@
 // The transfers of the ECU's memory in virtual time, through the program's own screens.
 #include <benchmark/benchmark.h>
 
-#include <unistd.h>
-
 #include <filesystem>
-#include <string>
 
+#include "autotests/common/scratch_folder.h"
 #include "benchmarks/simulated_program.h"
 #include "reports/reports_part.h"
 
@@ -15,17 +13,8 @@ namespace {
 // The program in a folder of its own, with the statuses of the trailer on their way to it.
 struct TransferProgram {
   TransferProgram() {
-    std::string name = (std::filesystem::temp_directory_path() / "lorimet-bench-XXXXXX").string();
-    folder = mkdtemp(name.data());
-    SimulatedProgram& simulated = headless.simulated;
-    simulated.process.folder = folder;
-    simulated.link.link.SetStatusSink(
-        [this](std::int32_t status) { headless.simulated.hook.Post(status); });
+    headless.simulated.process.folder = folder.Path();
     headless.desktop.on_do_events = [this] { headless.simulated.hook.Deliver(); };
-  }
-  ~TransferProgram() {
-    std::error_code error;
-    std::filesystem::remove_all(folder, error);
   }
   // Lets time pass until the screen says so; the seconds that it took.
   double RunUntil(const TextBox& status, const char* end) {
@@ -36,7 +25,7 @@ struct TransferProgram {
   }
 
   HeadlessProgram headless;
-  std::string folder;
+  ScratchFolder folder;
 };
 
 void EepromUpload(benchmark::State& state) {
@@ -44,12 +33,12 @@ void EepromUpload(benchmark::State& state) {
   frmSaveEEPROM& screen = transfer.headless.simulated.program.reports->save_eeprom;
   double seconds = 0;
   for (auto _ : state) {
-    transfer.headless.desktop.AnswerFileDialog(transfer.folder + "/EEPROM.txt");
+    transfer.headless.desktop.AnswerFileDialog(transfer.folder / "EEPROM.txt");
     screen.Load();
     seconds = transfer.RunUntil(screen.txtStatus, "EEPROM Data saved in ");
     screen.cmdClose.UserClick();
   }
-  if (!std::filesystem::exists(transfer.folder + "/EEPROM.txt")) state.SkipWithError("no file");
+  if (!std::filesystem::exists(transfer.folder / "EEPROM.txt")) state.SkipWithError("no file");
   state.counters["trailer_seconds"] = seconds;
 }
 BENCHMARK(EepromUpload)->Unit(benchmark::kMillisecond);
@@ -63,7 +52,7 @@ void RecorderExport(benchmark::State& state) {
     seconds = transfer.RunUntil(screen.txtStatus, "ODR Data saved in ");
     screen.cmdClose.UserClick();
   }
-  if (std::filesystem::is_empty(transfer.folder)) state.SkipWithError("no file");
+  if (std::filesystem::is_empty(transfer.folder.Path())) state.SkipWithError("no file");
   state.counters["trailer_seconds"] = seconds;
 }
 BENCHMARK(RecorderExport)->Unit(benchmark::kMillisecond);

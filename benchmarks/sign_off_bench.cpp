@@ -1,16 +1,12 @@
 // What the end-of-line tests cost: a whole sign-off, one tick of each test, the report as a file.
 #include <benchmark/benchmark.h>
-#include <stdlib.h>
 
+#include <cstddef>
 #include <cstdint>
-#include <cstdlib>
-#include <filesystem>
-#include <string>
 
 #include "adapters/posix/posix_text_file.h"
 #include "autotests/common/operated_program.h"
-#include "benchmarks/simulated_program.h"
-#include "reports/reports_part.h"
+#include "benchmarks/report_program.h"
 #include "tests/tests_part.h"
 
 namespace lorimet::benchmarks {
@@ -92,23 +88,11 @@ BENCHMARK(TickOfTheCalibration)->Unit(benchmark::kMicrosecond);
 // --- The report as a file on a disk --------------------------------------------------------------
 
 void ReportFile(benchmark::State& state) {
-  HeadlessProgram headless;
-  SimulatedProgram& simulated = headless.simulated;
-  simulated.SetFaults(static_cast<std::size_t>(state.range(0)));
-  std::string folder = std::filesystem::temp_directory_path() / "lorimet_report_XXXXXX";
-  if (mkdtemp(folder.data()) == nullptr) std::abort();
-  HeadlessProcess process;
-  process.folder = folder;
+  ReportProgram program(static_cast<std::size_t>(state.range(0)));
   PosixTextFiles files;
-  const ReportParts& all = simulated.program.reports->report;
-  const ReportParts parts{all.desktop,      all.clock,      process,         files,
-                          all.printer,      all.dictionary, all.main_form,   all.message_center,
-                          all.records,      all.faults,     all.fault_table, all.test_results,
-                          all.strTrailerVIN};
+  const ReportParts parts = program.With(files, program.headless.simulated.printer);
   for (auto _ : state) SaveEOLReport(parts);
-  for (const MessageBox& box : headless.desktop.TakeBoxes())
-    if (box.icon != BoxIcon::kInformation) state.SkipWithError("not saved");
-  std::filesystem::remove_all(folder);
+  program.Check(state);
 }
 BENCHMARK(ReportFile)->Arg(0)->Arg(200)->Unit(benchmark::kMicrosecond);
 

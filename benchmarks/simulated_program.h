@@ -8,11 +8,8 @@
 #include <vector>
 
 #include "adapters/headless/headless_desktop.h"
-#include "adapters/headless/headless_files.h"
-#include "adapters/headless/headless_ports.h"
-#include "adapters/headless/recording_printer.h"
-#include "adapters/posix/posix_profile_file.h"
 #include "autotests/common/simulated_link.h"
+#include "autotests/common/stand_ins.h"
 #include "faults/faults.h"
 #include "faults/faults_part.h"
 #include "program.h"
@@ -36,17 +33,12 @@ class BenchLink : public testing_support::SimulatedLink {
 };
 
 // Started and connected.
-struct SimulatedProgram {
-  SimulatedProgram(Desktop& desktop, VirtualClock& virtual_clock, TranslationSource& translations)
+struct SimulatedProgram : testing_support::StandIns {
+  SimulatedProgram(Desktop& desktop, VirtualClock& virtual_clock, TranslationSource& texts)
       : clock(virtual_clock),
-        program({desktop, clock, registry, hook, process, link, help_viewer, translations,
-                 profile_file, text_files, printer}) {
-    process.files = {"/launcher"};
-    registry.SetText(RegistryHive::kLocalMachine, std::string(kAppPathsKey) + "Hubrest.exe", "",
-                     "/launcher");
-    clock.on_advance = [this](std::uint32_t milliseconds) {
-      link.link.Advance(milliseconds / 1000.0);
-    };
+        program({desktop, clock, registry, hook, process, link, help_viewer, texts, profile_file,
+                 text_files, printer}) {
+    Drive(link.link, clock);
     if (program.Start() != EntryResult::kRunning ||
         program.session->main_form.txtECUType.Text().empty())
       std::abort();
@@ -87,14 +79,7 @@ struct SimulatedProgram {
   }
 
   VirtualClock& clock;
-  MemoryRegistry registry;
-  HeadlessMessageHook hook;
-  HeadlessProcess process;
   BenchLink link;
-  RecordingHelpViewer help_viewer;
-  PosixProfileFile profile_file;
-  MemoryTextFiles text_files;
-  RecordingPrinter printer;
   Program program;
   int changes = 0;
 };
@@ -103,7 +88,7 @@ struct SimulatedProgram {
 struct HeadlessProgram {
   VirtualClock clock;
   HeadlessDesktop desktop{clock};
-  TsTranslations translations{LORIMET_SOURCE_ROOT "/translations"};
+  TsTranslations translations{InSource("translations")};
   SimulatedProgram simulated{desktop, clock, translations};
 };
 
