@@ -73,10 +73,8 @@ QString StandingWindows() {
                   ? window->objectName()
                   : QStringLiteral("a box that says \"%1\"").arg(box->text().simplified()));
   }
-  names.sort();
   const QString message = TextIn(QStringLiteral("frmZeltMain"), QStringLiteral("txtError"));
-  if (!message.trimmed().isEmpty())
-    names << QStringLiteral("the message \"%1\"").arg(message.simplified());
+  if (!message.trimmed().isEmpty()) names << QStringLiteral("the message \"%1\"").arg(message);
   return names.join(QStringLiteral(", "));
 }
 

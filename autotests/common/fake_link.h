@@ -40,6 +40,8 @@ class FakeLink : public LinkLibrary {
   std::function<void()> on_static_read;
   std::function<void(void* first)> fault_data;
   std::function<std::int32_t(int address, std::uint8_t* high, std::uint8_t* low)> read_word;
+  // Writes the answer of an input or output over the request.
+  std::function<void(std::uint8_t id, std::uint8_t* data)> io_control;
 
   // The arguments of the last Connect.
   std::string protocol, vendor;
@@ -143,7 +145,9 @@ class FakeLink : public LinkLibrary {
   }
   std::int32_t Trailer_ABS_KWP_IOControlByLocId(std::uint8_t id, std::uint8_t count,
                                                 std::uint8_t* data) override {
-    return Answer("IOControl", Hex(&id, 1) + ":" + Hex(data, count));
+    const std::string request = Hex(&id, 1) + ":" + Hex(data, count);
+    if (io_control) io_control(id, data);
+    return Answer("IOControl", request);
   }
   std::int32_t Trailer_OVG_ReadDataByLocId(std::uint8_t id, std::uint8_t* count,
                                            std::uint8_t* data) override {

@@ -87,15 +87,17 @@ TEST_F(DialogsTest, ClosedBoxAnswersCancelElseItsLastButton) {
   }
 }
 
+// As a hand does it, that has touched no button before.
 TEST_F(DialogsTest, EnterAnswersTheFirstButton) {
-  MessageBox box;
-  box.buttons = kBoxYes | kBoxNo;
-  EXPECT_EQ(Answer(box,
-                   [](QMessageBox& shown) {
-                     QWidget* button = shown.button(QMessageBox::Yes);
-                     Press(button, Qt::Key_Return, Qt::NoModifier, "\r");
-                   }),
-            kBoxYes);
+  for (const unsigned buttons : {kBoxYes | kBoxNo, kBoxOk | kBoxCancel, unsigned{kBoxOk}}) {
+    MessageBox box;
+    box.buttons = buttons;
+    const BoxButton answer = Answer(box, [](QMessageBox& shown) {
+      Pump();
+      road::Key(&shown, Qt::Key_Return, Qt::NoModifier, "\r");
+    });
+    EXPECT_EQ(answer, buttons & kBoxYes ? kBoxYes : kBoxOk);
+  }
 }
 
 TEST_F(DialogsTest, ChangesAreOnTheScreenWhileABoxStands) {

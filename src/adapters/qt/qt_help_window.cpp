@@ -8,6 +8,7 @@
 #include <QLineEdit>
 #include <QListWidget>
 #include <QPalette>
+#include <QScreen>
 #include <QSplitter>
 #include <QStyle>
 #include <QTabWidget>
@@ -25,6 +26,7 @@ namespace {
 
 constexpr int kTargetRole = Qt::UserRole;
 constexpr QSize kWindowSize(900, 620);
+constexpr QSize kFrame(16, 48);  // what a window manager may put round a window
 constexpr int kSideWidth = 280;
 
 // A list row with the title of the page and the words around what was found.
@@ -65,7 +67,7 @@ HelpWindow::HelpWindow(Translator translate)
   splitter->setSizes({kSideWidth, kWindowSize.width() - kSideWidth});
   setCentralWidget(splitter);
   SetWords();
-  resize(kWindowSize);
+  resize(kWindowSize.boundedTo(screen()->availableSize() - kFrame));
 }
 
 QString HelpWindow::Words(const char* text) const { return ToWidgetText(translate_(text)); }
