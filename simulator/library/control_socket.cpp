@@ -17,10 +17,6 @@ namespace lorimet::simulator {
 ControlSocket::ControlSocket(const std::filesystem::path&) {}
 ControlSocket::~ControlSocket() = default;
 void ControlSocket::Poll(const std::function<CommandAnswer(const std::string&)>&) {}
-void ControlSocket::Accept() {}
-bool ControlSocket::Serve(Client&, const std::function<CommandAnswer(const std::string&)>&) {
-  return false;
-}
 
 #else
 
