@@ -1,8 +1,8 @@
 # What `cmake --install` puts under a prefix: bin/ with the program and the link library that it
 # loads from its own folder, share/ with the help pages, the entry of the desktop's menu, the icon
 # and what a software centre tells of it. The translations, the toolkit's own among them, and the
-# pictures are in the program. Two components: the program, and the simulated trailer, which is left
-# out where an adapter's library takes its place.
+# pictures are in the program. Two components: the program, and the simulated trailer with its bench,
+# which is left out where an adapter's library takes its place.
 include(GNUInstallDirs)
 
 set(folder ${CMAKE_INSTALL_DATADIR}/norvick-lorimet)
@@ -25,7 +25,17 @@ install(FILES README.md CHANGELOG.md
 install(TARGETS Lorimet32 LIBRARY DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT simulator
   RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT simulator)
 install(TARGETS lorimet_bench_window RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR}
-  COMPONENT simulator OPTIONAL)
+  COMPONENT simulator)
+install(FILES packaging/bench/norvick-lorimet-bench.desktop
+  DESTINATION ${CMAKE_INSTALL_DATADIR}/applications COMPONENT simulator)
+install(FILES packaging/bench/com.norvick.LorimetBench.metainfo.xml
+  DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo COMPONENT simulator)
+foreach(size 48 64 128)
+  install(FILES packaging/bench/norvick-lorimet-bench_${size}.png RENAME norvick-lorimet-bench.png
+    DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/${size}x${size}/apps COMPONENT simulator)
+endforeach()
+install(FILES packaging/bench/norvick-lorimet-bench.svg
+  DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps COMPONENT simulator)
 install(DIRECTORY simulator/scenarios DESTINATION ${folder} COMPONENT simulator)
 install(FILES docs/simulator.md
   DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/norvick-lorimet-simulator COMPONENT simulator)

@@ -29,8 +29,12 @@ set(CPACK_DEBIAN_SIMULATOR_PACKAGE_NAME norvick-lorimet-simulator)
 set(CPACK_DEBIAN_SIMULATOR_PACKAGE_RECOMMENDS norvick-lorimet)
 set(CPACK_DEBIAN_SIMULATOR_DESCRIPTION
   "A link library that behaves as a trailer with its adapter, for training and
-trying. While it is installed, the program runs on it unless LORIMET32 names
-another library.")
+trying, and the bench, a window at which one pumps, brakes, loads and spins
+wheels, pulls the cable and raises faults. The bench is in the desktop's menu;
+its command is lorimet_bench_window, and it starts the program on the trailer.
+
+While it is installed, the program runs on it unless LORIMET32 names another
+library.")
 
 set(CPACK_ARCHIVE_COMPONENT_INSTALL ON)
 set(CPACK_ARCHIVE_PROGRAM_FILE_NAME

@@ -7,6 +7,7 @@
 int main(int argc, char** argv) {
   QApplication application(argc, argv);
   QApplication::setApplicationName("Norvick Lorimet");
+  QApplication::setDesktopFileName("norvick-lorimet");
   QApplication::setQuitOnLastWindowClosed(false);
   lorimet::ApplyStyle(application);
   // Never deleted: the link library's thread may use the records and the message hook as long as

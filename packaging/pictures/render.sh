@@ -1,6 +1,6 @@
 #!/bin/sh
-# Renders every SVG of this folder to PNG at 1x and 2x, and the application icon at all its sizes
-# and as ../lorimet.ico.
+# Renders every SVG of this folder to PNG at 1x and 2x, the application icon at all its sizes and as
+# ../lorimet.ico, and the bench's icon.
 # Needs rsvg-convert and ImageMagick's convert.
 set -eu
 cd "$(dirname "$0")"
@@ -17,6 +17,11 @@ for size in 16 20 24 32 48 64 128 256; do
   source=lorimet.svg
   if [ "$size" -le 32 ]; then source=lorimet_small.svg; fi
   rsvg-convert -w "$size" -h "$size" "$source" -o "lorimet_$size.png"
+done
+
+for size in 48 64 128; do
+  rsvg-convert -w "$size" -h "$size" ../bench/norvick-lorimet-bench.svg \
+    -o "../bench/norvick-lorimet-bench_$size.png"
 done
 
 cp lorimet_64.png lorimet.png

@@ -80,6 +80,7 @@ std::function<void()> ProgramStarter(const QString& control) {
 int main(int argc, char** argv) {
   QApplication application(argc, argv);
   QApplication::setApplicationName(QStringLiteral("Norvick Lorimet Bench"));
+  QApplication::setDesktopFileName(QStringLiteral("norvick-lorimet-bench"));
   Options options = ReadOptions(QApplication::arguments());
   if (options.usage) {
     std::fputs(kUsage, stderr);
