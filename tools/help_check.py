@@ -1,11 +1,12 @@
 #!/usr/bin/env python3
 """Checks the help pages: links, nesting, the same pages and chapters in all languages, and that
-every name in bold is a text of the program in that language.
+every name in bold is a text of the program, or of the bench beside it, in that language.
 
 Usage: help_check.py [help folder [translations folder]]
 Prints one line a complaint; the exit status is 1 if there is any.
 """
 
+import itertools
 import pathlib
 import re
 import sys
@@ -112,10 +113,10 @@ def normalised(text):
 
 
 def program_texts(folder):
-    """The texts of the program by language, from the translation files."""
+    """The texts of the program and the bench by language, from the translation files."""
     texts = {language: set() for language in LANGUAGES}
-    for language in ("fr", "es"):
-        root = ElementTree.parse(folder / f"lorimet_{language}.ts").getroot()
+    for file, language in itertools.product(("lorimet", "bench"), ("fr", "es")):
+        root = ElementTree.parse(folder / f"{file}_{language}.ts").getroot()
         for message in root.iter("message"):
             source = message.findtext("source") or ""
             texts["en"].add(normalised(source))

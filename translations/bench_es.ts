@@ -732,8 +732,8 @@
         <translation>El programa frena y libera las ruedas.</translation>
     </message>
     <message>
-        <source>Wait until a tire is yellow there.</source>
-        <translation>Espere a que allí haya un neumático amarillo.</translation>
+        <source>Wait until a letter is yellow there.</source>
+        <translation>Espere a que allí haya una letra amarilla.</translation>
     </message>
     <message>
         <source>The wheel turns.</source>
@@ -752,8 +752,8 @@
         <translation>Espere a que pueda girar.</translation>
     </message>
     <message>
-        <source>The sensor test waits for the wheel of the yellow tire.</source>
-        <translation>La prueba de los sensores espera la rueda del neumático amarillo.</translation>
+        <source>The sensor test waits for the wheel of the yellow letter.</source>
+        <translation>La prueba de los sensores espera la rueda de la letra amarilla.</translation>
     </message>
     <message>
         <source>Spin wheel %1 (sensor %2): click it, or press %1.</source>

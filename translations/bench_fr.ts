@@ -141,7 +141,7 @@
     </message>
     <message>
         <source>&amp;Release</source>
-        <translation>Re&amp;lâcher</translation>
+        <translation>&amp;Lever le pied</translation>
     </message>
     <message>
         <source>Wheels and lever</source>
@@ -732,8 +732,8 @@
         <translation>Le programme freine et libère les roues.</translation>
     </message>
     <message>
-        <source>Wait until a tire is yellow there.</source>
-        <translation>Attendez qu&apos;un pneu y soit jaune.</translation>
+        <source>Wait until a letter is yellow there.</source>
+        <translation>Attendez qu&apos;une lettre y soit jaune.</translation>
     </message>
     <message>
         <source>The wheel turns.</source>
@@ -752,8 +752,8 @@
         <translation>Attendez qu&apos;elle puisse tourner.</translation>
     </message>
     <message>
-        <source>The sensor test waits for the wheel of the yellow tire.</source>
-        <translation>Le test des capteurs attend la roue du pneu jaune.</translation>
+        <source>The sensor test waits for the wheel of the yellow letter.</source>
+        <translation>Le test des capteurs attend la roue de la lettre jaune.</translation>
     </message>
     <message>
         <source>Spin wheel %1 (sensor %2): click it, or press %1.</source>

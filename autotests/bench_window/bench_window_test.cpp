@@ -24,6 +24,7 @@
 #include <vector>
 
 #include "autotests/places.h"
+#include "simulator/bench/single_bench.h"
 #include "simulator/library/library.h"
 
 // The toolkit exports these for its own tests; they bring an event as the window system would.
@@ -190,6 +191,18 @@ TEST_F(BenchWindowTest, SaysThatThereIsNoTrailerAndFindsItByItself) {
   EXPECT_TRUE(Eventually([&] { return next() == "There is no simulated trailer."; }));
   StartTrailer();
   EXPECT_TRUE(There());
+}
+
+TEST_F(BenchWindowTest, ASecondBenchBringsTheFirstOneForward) {
+  const QString meeting = Socket() + QStringLiteral(".bench");
+  SingleBench second(meeting);
+  EXPECT_FALSE(second.CallTheOther());
+  Show();
+  window_->showMinimized();
+  SingleBench first(meeting);
+  first.Stand([this] { window_->ComeForward(); });
+  EXPECT_TRUE(second.CallTheOther());
+  EXPECT_TRUE(Eventually([this] { return !window_->isMinimized() && window_->isActiveWindow(); }));
 }
 
 TEST_F(BenchWindowTest, WaitsWhileSomebodyElseHasTheTrailer) {

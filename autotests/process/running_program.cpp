@@ -46,7 +46,26 @@ bool Eventually(const std::function<bool()>& condition) {
   return true;
 }
 
+std::vector<pid_t> LivingChildren() {
+  std::vector<pid_t> children;
+  for (const auto& entry : std::filesystem::directory_iterator("/proc")) {
+    const std::string name = entry.path().filename();
+    if (name.find_first_not_of("0123456789") != std::string::npos) continue;
+    // NUMBER (NAME) STATE PARENT ...
+    const std::string status = ReadFile(entry.path() / "stat");
+    const std::size_t name_end = status.rfind(')');
+    if (name_end == std::string::npos) continue;  // it has just ended
+    std::istringstream words(status.substr(name_end + 1));
+    std::string state;
+    pid_t parent = 0;
+    if (words >> state >> parent && parent == getpid() && state != "Z")
+      children.push_back(std::stoi(name));
+  }
+  return children;
+}
+
 ProcessTest::ProcessTest() {
+  prctl(PR_SET_CHILD_SUBREAPER, 1);  // whoever loses his parent becomes a child of this process
   environment = {
       {"XDG_CONFIG_HOME", MakePrivate(folder / "config")},
       {"XDG_RUNTIME_DIR", MakePrivate(folder / "run")},
@@ -60,6 +79,15 @@ ProcessTest::ProcessTest() {
       {"LORIMET_RECORDED_LIBRARY", kLibrary},
       {"LORIMET_RECORD", folder / "record"},
   };
+}
+
+ProcessTest::~ProcessTest() {
+  for (auto left = LivingChildren(); !left.empty(); left = LivingChildren())
+    for (const pid_t child : left) {
+      kill(child, SIGKILL);
+      waitpid(child, nullptr, 0);
+    }
+  while (waitpid(-1, nullptr, WNOHANG) > 0) continue;
 }
 
 void ProcessTest::InstallLauncher() {
@@ -105,8 +133,10 @@ std::vector<std::string> ProcessTest::Record() const {
   return names;
 }
 
-ProcessTest::Run::Run(ProcessTest& test, const std::string& name, std::string program)
+ProcessTest::Run::Run(ProcessTest& test, const std::string& name, std::string program,
+                      std::vector<std::string> arguments)
     : program_(std::move(program)),
+      arguments_(std::move(arguments)),
       output_(test.folder / (name + ".output")),
       socket_(test.folder / (name + ".socket")) {
   test.WriteSettings();
@@ -128,7 +158,12 @@ void ProcessTest::Run::Become(const std::map<std::string, std::string>& variable
   for (const char* name : {"LORIMET32_SCENARIO", "LORIMET32_STATE", "LC_ALL", "LANGUAGE"})
     unsetenv(name);
   for (const auto& [name, value] : variables) setenv(name.c_str(), value.c_str(), 1);
-  execl(InBuild(program_).c_str(), program_.c_str(), nullptr);
+  std::vector<std::string> words = {program_};
+  words.insert(words.end(), arguments_.begin(), arguments_.end());
+  std::vector<char*> argv;
+  for (std::string& word : words) argv.push_back(word.data());
+  argv.push_back(nullptr);
+  execv(InBuild(program_).c_str(), argv.data());
   _exit(127);
 }
 

@@ -18,6 +18,9 @@ namespace lorimet {
 // Looks again and again until something comes true, and gives up after a generous time.
 bool Eventually(const std::function<bool()>& condition);
 
+// The processes that this one has started, or that have lost the parent whom it had started.
+std::vector<pid_t> LivingChildren();
+
 // What one user has: settings, the lock of the single instance, the simulated trailer.
 class ProcessTest : public testing::Test {
  protected:
@@ -27,6 +30,8 @@ class ProcessTest : public testing::Test {
   static inline const std::string kStubborn = InBuild("autotests/liblorimet_stubborn_library.so");
 
   ProcessTest();
+  // Ends what the programs have started and left behind.
+  ~ProcessTest() override;
 
   // A row of the product's key in the registry, such as "DeviceID"="7"; before the first run.
   void StoreSetting(const std::string& row) { settings_ += row + "\r\n"; }
@@ -45,7 +50,8 @@ class ProcessTest : public testing::Test {
   // test if it complained.
   class Run {
    public:
-    Run(ProcessTest& test, const std::string& name, std::string program = "lorimet");
+    Run(ProcessTest& test, const std::string& name, std::string program = "lorimet",
+        std::vector<std::string> arguments = {});
     ~Run();
     Run(const Run&) = delete;
     Run& operator=(const Run&) = delete;
@@ -79,6 +85,7 @@ class ProcessTest : public testing::Test {
     bool Reaped();
 
     std::string program_;
+    std::vector<std::string> arguments_;
     std::string output_;
     std::string socket_;
     pid_t child_ = -1;

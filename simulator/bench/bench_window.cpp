@@ -2,6 +2,7 @@
 
 #include <QCompleter>
 #include <QGroupBox>
+#include <QResizeEvent>
 #include <QScreen>
 #include <QScrollBar>
 #include <QStringListModel>
@@ -232,7 +233,10 @@ void BenchWindow::Fit() {
   Arrange();
 }
 
-void BenchWindow::resizeEvent(QResizeEvent*) { Arrange(); }
+void BenchWindow::resizeEvent(QResizeEvent* event) {
+  if (event->size().width() != event->oldSize().width()) head_->setMinimumHeight(0);
+  Arrange();
+}
 
 void BenchWindow::StandBesideTheProgram() {
   const QRect free = screen()->availableGeometry();
@@ -304,6 +308,9 @@ void BenchWindow::ShowAdvice(const Advice& advice) {
   waits_->setText(waits);
   next_->setText(next);
   head_->setAccessibleName(waits + QLatin1Char(' ') + next);
+  // A line more of it must not push the wheels away under the mouse, so it never shrinks.
+  head_->setMinimumHeight(std::max(
+      head_->minimumHeight(), head_->layout()->totalHeightForWidth(head_->contentsRect().width())));
 }
 
 // "12.4 s   Brakes in test mode   StartRoutine(0x37, 3, [00 00 02])"

@@ -12,6 +12,9 @@
 //     close WINDOW                 the window's close box
 //     press WINDOW NAME            the mouse on the middle of a widget, by the window system's road
 //     key WINDOW KEY               a key, such as 3 or Return, by the same road
+//     where WINDOW NAME            the middle of a widget, or of the item of a menu or toolbar that
+//     is
+//                                  in sight, on the screen: x and y
 //     grab WINDOW FILE             a picture of the window, as PNG
 //     exit                         the end of the application's event loop
 //
@@ -26,11 +29,14 @@
 #include <QGenericPlugin>
 #include <QKeySequence>
 #include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
 #include <QMessageBox>
 #include <QPointer>
 #include <QSocketNotifier>
 #include <QStringList>
 #include <QTimer>
+#include <QToolBar>
 #include <QWidget>
 #include <QWindow>
 #include <algorithm>
@@ -117,6 +123,37 @@ QString Get(const QStringList& words) {
   return value.toString();
 }
 
+QPoint PlaceOf(QAction* action) {
+  for (const QObject* place : action->associatedObjects()) {
+    const auto* widget = qobject_cast<const QWidget*>(place);
+    if (widget == nullptr || !widget->isVisible()) continue;
+    if (const auto* bar = qobject_cast<const QMenuBar*>(place))
+      return bar->mapToGlobal(bar->actionGeometry(action).center());
+    if (const auto* menu = qobject_cast<const QMenu*>(place))
+      return menu->mapToGlobal(menu->actionGeometry(action).center());
+    if (const auto* bar = qobject_cast<const QToolBar*>(place)) {
+      const QWidget* button = bar->widgetForAction(action);
+      return button->mapToGlobal(button->rect().center());
+    }
+  }
+  throw Refused(action->objectName() + " is not in sight");
+}
+
+QString Where(QWidget* window, const QString& name) {
+  QPoint place;
+  if (const auto* menu = window->findChild<QMenu*>(name)) {
+    place = PlaceOf(Usable(menu->menuAction()));
+  } else if (auto* action = window->findChild<QAction*>(name)) {
+    place = PlaceOf(Usable(action));
+  } else {
+    const auto* widget = Usable(Named<QWidget>(window, name));
+    if (!widget->visibleRegion().contains(widget->rect().center()))
+      throw Refused(name + " is not in sight");
+    place = widget->mapToGlobal(widget->rect().center());
+  }
+  return QStringLiteral("%1 %2").arg(place.x()).arg(place.y());
+}
+
 QString Press(QWidget* window, QWidget* target) {
   const QPointF local = target->mapTo(window, target->rect().center());
   const QPointF global = window->mapToGlobal(local);
@@ -165,6 +202,7 @@ QString Do(const QStringList& words) {
     QWidget* window = ReachableWindow(words[1]);
     return Press(window, Usable(Named<QWidget>(window, words[2])));
   }
+  if (words.size() == 3 && words[0] == "where") return Where(ReachableWindow(words[1]), words[2]);
   if (words.size() == 3 && words[0] == "key") return Key(ReachableWindow(words[1]), words[2]);
   if (words.size() == 3 && words[0] == "grab") return Grab(VisibleWindow(words[1]), words[2]);
   if (words == QStringList{"exit"})

@@ -112,11 +112,11 @@ Advice WhenWheels(const Bench& bench) {
                "Release the parking brake.", Deed::kReleaseParkingBrake);
   const int wheel = NextWheel(bench);
   if (wheel == 0 || !bench.Told().WheelFree())
-    return Say("The program brakes and frees the wheels.", "Wait until a tire is yellow there.");
+    return Say("The program brakes and frees the wheels.", "Wait until a letter is yellow there.");
   const WheelSight& next = sight.Wheel(wheel);
   if (next.speed > kRolling) return Say("The wheel turns.", "Watch the program's screen.");
   if (!next.turnable) return Say("The program frees a wheel.", "Wait until it can be turned.");
-  Advice advice = Say("The sensor test waits for the wheel of the yellow tire.",
+  Advice advice = Say("The sensor test waits for the wheel of the yellow letter.",
                       "Spin wheel %1 (sensor %2): click it, or press %1.", Deed::kSpin);
   advice.next.arguments = {std::to_string(wheel), std::string(1, next.sensor)};
   advice.wheel = wheel;
