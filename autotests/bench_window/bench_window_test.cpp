@@ -23,6 +23,7 @@
 #include <string>
 #include <vector>
 
+#include "adapters/qt/qt_style.h"
 #include "autotests/places.h"
 #include "simulator/bench/single_bench.h"
 #include "simulator/library/library.h"
@@ -47,7 +48,11 @@ QApplication& Application() {
   static char name[] = "bench_window_tests";
   static char* arguments[] = {name, nullptr};
   // Never deleted: the toolkit's own statics may be gone before it.
-  static auto* const application = new QApplication(count, arguments);
+  static auto* const application = [] {
+    auto* made = new QApplication(count, arguments);
+    ApplyStyle(*made);
+    return made;
+  }();
   return *application;
 }
 
@@ -223,7 +228,8 @@ TEST_F(BenchWindowTest, WaitsWhileSomebodyElseHasTheTrailer) {
 std::string Clipped(const QWidget& window) {
   std::string found;
   const auto complain = [&found](const QWidget* widget, const char* what) {
-    found += "\n  " + widget->objectName().toStdString() + " " + what;
+    found += std::string("\n  ") + widget->metaObject()->className() + " " +
+             widget->objectName().toStdString() + " " + what;
   };
   std::vector<const QWidget*> leaves;
   for (const QWidget* widget : window.findChildren<QWidget*>()) {
@@ -238,9 +244,10 @@ std::string Clipped(const QWidget& window) {
                qobject_cast<const QAbstractSpinBox*>(widget)) {
       leaves.push_back(widget);
     }
-    const QRect place(widget->mapTo(&window, QPoint()), widget->size());
-    if (place.left() < 0 || place.right() >= window.width())
-      complain(widget, "is outside of the window");
+    const auto* scroll = window.findChild<QScrollArea*>();
+    const QWidget* part = scroll->widget()->isAncestorOf(widget) ? scroll->viewport() : &window;
+    const int left = widget->mapTo(&window, QPoint()).x() - part->mapTo(&window, QPoint()).x();
+    if (left < 0 || left + widget->width() > part->width()) complain(widget, "is cut off");
   }
   for (std::size_t i = 0; i < leaves.size(); ++i)
     for (std::size_t k = i + 1; k < leaves.size(); ++k)

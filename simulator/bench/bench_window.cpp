@@ -114,6 +114,7 @@ QWidget* BenchWindow::MakeHead() {
   grid->addWidget(waits_, 0, 0);
   grid->addWidget(next_, 1, 0, 1, 2);
   grid->setColumnStretch(0, 1);
+  grid->setRowStretch(3, 1);
   start_ = new QPushButton(head_);
   start_->setObjectName(QStringLiteral("cmdStartProgram"));
   start_->setAutoDefault(false);
@@ -224,13 +225,18 @@ void BenchWindow::Arrange() {
   grid_->setRowStretch(2, beside ? 0 : 2);
 }
 
-// The widths follow the words of the language.
+// The widths follow the words of the language and the style.
 void BenchWindow::Fit() {
-  const int panel = panel_->minimumSizeHint().width();
-  scroll_->setMinimumWidth(panel + scroll_->verticalScrollBar()->sizeHint().width());
+  const int least = std::max(panel_->minimumSizeHint().width(), below_->minimumSizeHint().width());
+  scroll_->setMinimumWidth(least + scroll_->verticalScrollBar()->sizeHint().width());
   const QMargins margins = grid_->contentsMargins();
   setMinimumSize(scroll_->minimumWidth() + margins.left() + margins.right(), kLow / 2);
   Arrange();
+}
+
+bool BenchWindow::event(QEvent* event) {
+  if (event->type() == QEvent::LayoutRequest) Fit();
+  return QWidget::event(event);
 }
 
 void BenchWindow::resizeEvent(QResizeEvent* event) {
@@ -293,10 +299,10 @@ void BenchWindow::Refresh() {
   if (answers_ == nullptr) return;
   const Advice advice = AdviceFor(bench_);
   const bool there = bench_.Where() == Presence::kThere;
+  start_->setVisible(bench_.Where() == Presence::kAbsent && start_program_ != nullptr);
   ShowAdvice(advice);
   picture_->Show(bench_.Seen(), advice, there);
   panel_->Show(bench_.Seen(), advice, there);
-  start_->setVisible(bench_.Where() == Presence::kAbsent && start_program_ != nullptr);
   command_->setEnabled(there);
   ShowRequests();
 }

@@ -42,6 +42,7 @@ class BenchWindow : public QWidget {
   const Bench& Model() const { return bench_; }
 
  protected:
+  bool event(QEvent* event) override;
   void resizeEvent(QResizeEvent* event) override;
 
  private:
