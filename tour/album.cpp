@@ -3,6 +3,7 @@
 #include <QPixmap>
 #include <QWidget>
 #include <cstdio>
+#include <utility>
 
 namespace lorimet {
 namespace {
@@ -28,6 +29,12 @@ p.step { margin: .2em 0; }
 <body>
 )";
 
+QString NameOf(const QString& language) {
+  if (language == QLatin1String("fr")) return QStringLiteral("French");
+  if (language == QLatin1String("es")) return QStringLiteral("Spanish");
+  return QStringLiteral("English");
+}
+
 QString Moment(double moment) { return QStringLiteral("%1 s").arg(moment, 0, 'f', 1); }
 
 }  // namespace
@@ -40,8 +47,8 @@ Album::Album(QString folder, QString language)
 }
 
 void Album::Chapter(const QString& title) {
-  if (!body_.isEmpty()) body_ += QStringLiteral("</div>\n");
-  body_ += QStringLiteral("<h2>%1</h2>\n<div class=\"pictures\">\n").arg(title.toHtmlEscaped());
+  EndPictures();
+  body_ += QStringLiteral("<h2>%1</h2>\n").arg(title.toHtmlEscaped());
   transcript_.write(("\n" + title + "\n").toUtf8());
   std::printf("==> %s\n", qPrintable(title));
 }
@@ -53,9 +60,8 @@ void Album::Note(double moment, const QString& line) {
 
 void Album::Tell(double moment, const QString& line) {
   Note(moment, line);
-  body_ += QStringLiteral(
-               "</div>\n<p class=\"step\"><span class=\"moment\">%1</span>%2</p>\n"
-               "<div class=\"pictures\">\n")
+  EndPictures();
+  body_ += QStringLiteral("<p class=\"step\"><span class=\"moment\">%1</span>%2</p>\n")
                .arg(Moment(moment), line.toHtmlEscaped());
   std::printf("%11s  %s\n", qPrintable(Moment(moment)), qPrintable(line));
   std::fflush(stdout);
@@ -64,11 +70,16 @@ void Album::Tell(double moment, const QString& line) {
 QString Album::Keep(QWidget& window, const QString& name, const QString& caption) {
   const QString file = QStringLiteral("%1-%2.png").arg(++pictures_, 2, 10, QChar('0')).arg(name);
   if (!window.grab().save(folder_ + QChar('/') + file, "PNG", kFastPng)) return {};
+  if (!std::exchange(in_pictures_, true)) body_ += QStringLiteral("<div class=\"pictures\">\n");
   body_ += QStringLiteral(
                "<figure><a href=\"%1\"><img src=\"%1\" alt=\"%2\"></a>"
                "<figcaption>%2</figcaption></figure>\n")
                .arg(file, caption.toHtmlEscaped());
   return file;
+}
+
+void Album::EndPictures() {
+  if (std::exchange(in_pictures_, false)) body_ += QStringLiteral("</div>\n");
 }
 
 void Album::Show(const QString& file, const QString& caption) {
@@ -79,15 +90,15 @@ void Album::Show(const QString& file, const QString& caption) {
 bool Album::Close(const QString& verdict) {
   QFile page(folder_ + QStringLiteral("/index.html"));
   if (!page.open(QIODevice::WriteOnly | QIODevice::Text)) return false;
+  EndPictures();
   const QString text =
       QStringLiteral(
           "<h1>Norvick Lorimet: the tour</h1>\n"
           "<p>The program by itself on the simulated trailer, in %1. %2</p>\n"
           "<p>Moments are seconds of the trailer's time. Everything, step by step: "
           "<a href=\"transcript.txt\">transcript</a>.</p>\n")
-          .arg(language_, verdict.toHtmlEscaped()) +
-      body_ + (body_.isEmpty() ? QString() : QStringLiteral("</div>\n")) +
-      QStringLiteral("<h2>Files</h2>\n<ul>\n") + files_.join(QString()) +
+          .arg(NameOf(language_), verdict.toHtmlEscaped()) +
+      body_ + QStringLiteral("<h2>Files</h2>\n<ul>\n") + files_.join(QString()) +
       QStringLiteral("</ul>\n</body>\n</html>\n");
   return page.write(kHead + text.toUtf8()) > 0 && page.flush() && transcript_.flush();
 }

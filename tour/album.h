@@ -12,7 +12,7 @@ namespace lorimet {
 
 class Album {
  public:
-  // The folder stands. `language` is that of the pictures.
+  // The folder stands. `language` is that of the pictures: en, fr or es.
   Album(QString folder, QString language);
 
   const QString& Folder() const { return folder_; }
@@ -31,12 +31,15 @@ class Album {
   bool Close(const QString& verdict);
 
  private:
+  void EndPictures();
+
   QString folder_;
   QString language_;
   QString body_;
   QStringList files_;
   QFile transcript_;
   int pictures_ = 0;
+  bool in_pictures_ = false;  // the page's last element holds them, and is open
 };
 
 }  // namespace lorimet

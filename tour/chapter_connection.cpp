@@ -16,7 +16,8 @@ void ShowConnection(Script& script) {
   script.AtTrailer("cable out");
   script.Picture("frmErr", "link-lost", "The cable has been pulled");
   script.Press("frmErr", "cmdOK");
-  script.Picture("frmZeltMain", "main-link-lost", "The message stays until the link is back");
+  script.Picture("frmZeltMain", "main-link-lost", "The message stays until the link is back",
+                 Content::kError);
   script.AtTrailer("cable in");
   script.UntilText("frmZeltMain", "txtError",
                    [](const QString& text) { return text.trimmed().isEmpty(); });

@@ -16,11 +16,12 @@ constexpr char kType[] = "TOUR TRAILER, TIPPER";
 constexpr char kFile[] = "tour.ecu";
 constexpr TrailerRow kTrailer = {"4S/2M", "air", 3, "semi", "forward", ""};
 
-// From the first page of the wizard to the last. Pictures are named with `name`, where it has one.
-void WalkTo(Script& script, const QString& name) {
-  const auto picture = [&](const char* form, const char* page, const char* caption) {
+// From the first page of the wizard to the last but one. Pictures are named with `name`, where it
+// has one; `of` begins their captions.
+void WalkTo(Script& script, const QString& name, const QString& of = {}) {
+  const auto picture = [&](const char* form, const char* page, const QString& caption) {
     script.UntilShown(form);
-    if (!name.isEmpty()) script.Picture(form, name + page, caption);
+    if (!name.isEmpty()) script.Picture(form, name + page, of + caption);
   };
   picture("frmOVGParm1", "-system", "The system: vehicle, axles, sensors, modulators");
   script.Press("frmOVGParm1", "cmdNext");
@@ -36,7 +37,7 @@ void Edit(Script& script) {
   script.Type("frmOVGParm2", "txtManufacturer", kManufacturer);
   script.Type("frmOVGParm2", "txtTrailerType", kType);
   script.Press("frmOVGParm2", "cmdNext");
-  script.Picture("frmOVGParm3", "parameters-overturn-guard", "Overturn Guard and tyres");
+  script.Picture("frmOVGParm3", "parameters-overturn-guard", "Overturn Guard and tires");
 }
 
 void ExpectType(Script& script) {
@@ -70,7 +71,7 @@ void ShowParameters(Script& script) {
 
   script.Command("mnuSystem_1");
   script.ChooseFile(script.Files() + '/' + kFile);
-  WalkTo(script, "parameters-from-file");
+  WalkTo(script, "parameters-from-file", "From the file. ");
   ExpectType(script);
   script.Press("frmOVGParm2", "cmdClose");
   script.UntilGone("frmOVGParm2");

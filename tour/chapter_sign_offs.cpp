@@ -25,8 +25,8 @@ constexpr TrailerRow kTrailers[] = {
 
 // What the operator sees on the way through the first sign-off.
 void ShowScreens(Script& script) {
-  script.OperateUntilText("frmPressureTest", "lblStatus_4", "OK");
-  script.Picture("frmPressureTest", "pressure-test", "Pressure test: laden, part of the way");
+  script.OperateUntilText("frmPressureTest", "lblStatus_5", "OK");
+  script.Picture("frmPressureTest", "pressure-test", "Pressure test: all laden rows have passed");
   script.OperateUntilText("frmRedundancyTest", "txtStatus", "CONTROL PRESSURE");
   script.Picture("frmRedundancyTest", "redundancy-test", "Redundancy test: the pedal is asked for");
   script.OperateUntilText("frmSensorOrientation", "txtStatus",

@@ -73,8 +73,10 @@ QString StandingWindows() {
                   ? window->objectName()
                   : QStringLiteral("a box that says \"%1\"").arg(box->text().simplified()));
   }
+  names.sort();
   const QString message = TextIn(QStringLiteral("frmZeltMain"), QStringLiteral("txtError"));
-  if (!message.trimmed().isEmpty()) names << QStringLiteral("the message \"%1\"").arg(message);
+  if (!message.trimmed().isEmpty())
+    names << QStringLiteral("the message \"%1\"").arg(message.simplified());
   return names.join(QStringLiteral(", "));
 }
 

@@ -3,15 +3,20 @@
 // program wrote, a transcript and a page that shows them, and fails when a step does not end as it
 // should.
 //
-//     lorimet_tour FOLDER [en|fr|es] [--slow]
+//     lorimet_tour FOLDER [en|fr|es] [--slow] [--trailer COMMAND]...
 //
 // LORIMET32 names the simulated trailer's library. Settings and files lie in the folder, so the
 // user's own are left alone. --slow keeps to the speed of a hand, for a person who watches.
+// --trailer does something at the trailer before the program starts, such as "adapter off", which
+// a tour does not survive.
 #include <QApplication>
 #include <QDir>
 #include <QFile>
 #include <csignal>
 #include <cstdio>
+#include <optional>
+#include <string>
+#include <vector>
 
 #include "adapters/qt/qt_style.h"
 #include "desktop_program.h"
@@ -48,19 +53,28 @@ struct Arguments {
   QString folder;
   QString language = "en";
   bool slow = false;
+  std::vector<std::string> commands;  // at the trailer
 };
 
-Arguments ArgumentsOf(int argc, char** argv) {
+// Nothing when they are not to be understood.
+std::optional<Arguments> ArgumentsOf(const QStringList& words) {
   Arguments arguments;
-  for (int i = 1; i < argc; ++i) {
-    const QString word = QString::fromLocal8Bit(argv[i]);
+  for (qsizetype i = 0; i < words.size(); ++i) {
+    const QString& word = words[i];
     if (word == "--slow")
       arguments.slow = true;
-    else if (i == 1)
+    else if (word == "--trailer" && i + 1 < words.size())
+      arguments.commands.push_back(words[++i].toStdString());
+    else if (word.startsWith('-'))
+      return {};
+    else if (arguments.folder.isEmpty())
       arguments.folder = QDir(word).absolutePath();
-    else
+    else if (word == "en" || word == "fr" || word == "es")
       arguments.language = word;
+    else
+      return {};
   }
+  if (arguments.folder.isEmpty()) return {};
   return arguments;
 }
 
@@ -69,6 +83,17 @@ int LanguageIndex(const QString& code) {
   if (code == "fr") return kFrench;
   if (code == "es") return kSpanish;
   return kNative;
+}
+
+// The screen of the platform without a display has 800 pixels a side, too few for the pages of the
+// wizard. It gets those of a laptop.
+bool MakeRoom() {
+  if (qgetenv("QT_QPA_PLATFORM") != "offscreen") return true;
+  QFile screen("screen.json");
+  qputenv("QT_QPA_PLATFORM", "offscreen:configfile=screen.json");
+  return screen.open(QIODevice::WriteOnly) &&
+         screen.write(R"({"screens": [{"name": "screen", "x": 0, "y": 0, "width": 1366,)"
+                      R"( "height": 768, "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})") > 0;
 }
 
 // The folder becomes the working directory.
@@ -89,7 +114,7 @@ bool Prepare(const Arguments& arguments) {
   qputenv("LORIMET32_CONTROL", kControl);
   qunsetenv("LORIMET32_SCENARIO");
   qputenv("QT_NO_GLIB", "1");  // the toolkit's own event loop tells when it has nothing to do
-  return QDir::setCurrent(folder);
+  return QDir::setCurrent(folder) && MakeRoom();
 }
 
 void Plan(Script& script) {
@@ -117,6 +142,7 @@ int RunTour(const Arguments& arguments) {
   std::function<void(const std::string&)> fail = FailEarly;
   SimulatedTrailer trailer([&fail](const std::string& why) { fail(why); });
   trailer.Load(PosixLibraryLoader().LinkLibraryPath(), std::string(kControl) + ".socket");
+  for (const std::string& command : arguments.commands) trailer.Do(command);
   DrivenTime time([&trailer](std::int32_t milliseconds) { trailer.Advance(milliseconds); });
   if (arguments.slow) time.fastest = kSlow;
   const QString files = arguments.folder + "/files";
@@ -142,6 +168,7 @@ int RunTour(const Arguments& arguments) {
   Plan(script);
   const int status = desktop_program->Run();
   if (status != 0 || !script.Done()) fail("The program ended before the tour did");
+  album.Tell(script.Seconds(), "The link is closed, and the program has ended");
   if (!QFile::rename(QString(kControl) + ".report", "requests.txt"))
     fail("The simulated trailer has not told what was asked of it");
   album.Show("requests.txt", "what the program asked of the ECU, how often and in which order");
@@ -153,13 +180,15 @@ int RunTour(const Arguments& arguments) {
 }  // namespace lorimet
 
 int main(int argc, char** argv) {
-  const lorimet::Arguments arguments = lorimet::ArgumentsOf(argc, argv);
-  if (arguments.folder.isEmpty()) {
-    std::fprintf(stderr, "lorimet_tour FOLDER [en|fr|es] [--slow]\n");
+  QStringList words;
+  for (int i = 1; i < argc; ++i) words << QString::fromLocal8Bit(argv[i]);
+  const auto arguments = lorimet::ArgumentsOf(words);
+  if (!arguments) {
+    std::fprintf(stderr, "lorimet_tour FOLDER [en|fr|es] [--slow] [--trailer COMMAND]...\n");
     return 2;
   }
-  if (!lorimet::Prepare(arguments)) {
-    std::fprintf(stderr, "The folder %s cannot be written.\n", qPrintable(arguments.folder));
+  if (!lorimet::Prepare(*arguments)) {
+    std::fprintf(stderr, "The folder %s cannot be written.\n", qPrintable(arguments->folder));
     return 1;
   }
   std::signal(SIGPIPE, SIG_IGN);
@@ -167,5 +196,5 @@ int main(int argc, char** argv) {
   QApplication application(argc, argv);
   QApplication::setQuitOnLastWindowClosed(false);
   lorimet::ApplyStyle(application);
-  return lorimet::RunTour(arguments);
+  return lorimet::RunTour(*arguments);
 }

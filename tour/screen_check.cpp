@@ -21,6 +21,19 @@ QString InFront(const QWidget& screen) {
   return {};
 }
 
+// The first line of what a field says.
+QString ErrorIn(const QWidget& screen, const QStringList& error_words) {
+  for (const QWidget* widget : screen.findChildren<QWidget*>()) {
+    if (!widget->isVisible()) continue;
+    for (const char* property : {"text", "plainText"}) {
+      const QString line = widget->property(property).toString().trimmed().section('\n', 0, 0);
+      for (const QString& word : error_words)
+        if (line.startsWith(word)) return QStringLiteral("it says \"%1\"").arg(line);
+    }
+  }
+  return {};
+}
+
 QString WrongWithPage(const QTextBrowser& page) {
   if (page.source().isEmpty()) return QStringLiteral("it shows no page of the help");
   const QTextDocument& document = *page.document();
@@ -51,11 +64,14 @@ QString Emptiness(const QWidget& screen) {
 
 }  // namespace
 
-QString WrongWith(const QWidget& screen, bool may_be_empty) {
+QString WrongWith(const QWidget& screen, Content content, const QStringList& error_words) {
   if (const QString alarm = InFront(screen); !alarm.isEmpty()) return alarm;
+  if (const QString error = ErrorIn(screen, error_words);
+      content != Content::kError && !error.isEmpty())
+    return error;
   for (const auto* page : screen.findChildren<QTextBrowser*>())
     if (const QString wrong = WrongWithPage(*page); !wrong.isEmpty()) return wrong;
-  return may_be_empty ? QString() : Emptiness(screen);
+  return content == Content::kPerhapsNone ? QString() : Emptiness(screen);
 }
 
 }  // namespace lorimet

@@ -19,7 +19,6 @@
 #include "tour/album.h"
 #include "tour/driven_time.h"
 #include "tour/hand.h"
-#include "tour/screen_check.h"
 #include "tour/simulated_trailer.h"
 
 namespace lorimet {
@@ -130,7 +129,9 @@ void Script::Picture(const QString& window, const QString& name, const QString& 
         QWidget* shown = FindWindow(window);
         const QString file = album_.Keep(*shown, name, caption);
         if (file.isEmpty()) Fail(QStringLiteral("The picture of %1 cannot be written").arg(window));
-        const QString wrong = WrongWith(*shown, content == Content::kPerhapsNone);
+        const QStringList errors = {QStringLiteral("Error:"),
+                                    QString::fromStdString(translate_("Error:"))};
+        const QString wrong = WrongWith(*shown, content, errors);
         if (!wrong.isEmpty())
           Fail(QStringLiteral("%1 shows %2 in an error state: %3").arg(file, window, wrong));
       });

@@ -8,6 +8,7 @@
 #include <string>
 
 #include "simulator/operator/scripted_operator.h"
+#include "tour/screen_check.h"
 
 namespace lorimet {
 
@@ -15,9 +16,6 @@ class Album;
 class DrivenTime;
 class QtDesktop;
 class SimulatedTrailer;
-
-// Whether a screen may be shown with nothing in it.
-enum class Content { kSome, kPerhapsNone };
 
 class Script {
  public:
@@ -45,7 +43,7 @@ class Script {
   // Lets time pass.
   void Pause(double seconds);
   void Picture(const QString& window, const QString& name, const QString& caption,
-               Content content = Content::kSome);
+               Content content = Content::kGood);
   // Clicks: a button; a command of the main window's menu or, "tbrABS_...", of its toolbar.
   void Press(const QString& window, const QString& button);
   void Command(const QString& action);
