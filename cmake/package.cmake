@@ -3,7 +3,7 @@ set(CPACK_GENERATOR DEB TGZ)
 set(CPACK_PACKAGE_NAME norvick-lorimet)
 set(CPACK_PACKAGE_VENDOR Norvick)
 set(CPACK_PACKAGE_CONTACT "Norvick <lorimet@norvick.example>")
-set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "diagnostics of trailer brake ECUs")
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "")  # the first line of each package's own
 set(CPACK_PACKAGE_DIRECTORY ${CMAKE_BINARY_DIR}/packages)
 set(CPACK_STRIP_FILES ON)
 set(CPACK_COMPONENTS_ALL program simulator)
@@ -18,7 +18,8 @@ set(CPACK_DEBIAN_PROGRAM_PACKAGE_NAME norvick-lorimet)
 set(CPACK_DEBIAN_PROGRAM_PACKAGE_RECOMMENDS "fonts-liberation, qt6-wayland")
 set(CPACK_DEBIAN_PROGRAM_PACKAGE_SUGGESTS norvick-lorimet-simulator)
 set(CPACK_DEBIAN_PROGRAM_DESCRIPTION
-  "Shows identity and live values of the brake ECU of a road trailer, reads and
+  "diagnostics of trailer brake ECUs
+Shows identity and live values of the brake ECU of a road trailer, reads and
 clears its faults, edits its parameters, runs the end-of-line tests and signs
 the trailer off. In English, French and Spanish.
 
@@ -28,7 +29,8 @@ the documents of whoever runs it, and messages name the whole path.")
 set(CPACK_DEBIAN_SIMULATOR_PACKAGE_NAME norvick-lorimet-simulator)
 set(CPACK_DEBIAN_SIMULATOR_PACKAGE_RECOMMENDS norvick-lorimet)
 set(CPACK_DEBIAN_SIMULATOR_DESCRIPTION
-  "A link library that behaves as a trailer with its adapter, for training and
+  "simulated trailer for Norvick Lorimet, with its bench
+A link library that behaves as a trailer with its adapter, for training and
 trying, and the bench, a window at which one pumps, brakes, loads and spins
 wheels, pulls the cable and raises faults. The bench is in the desktop's menu;
 its command is lorimet_bench_window, and it starts the program on the trailer.

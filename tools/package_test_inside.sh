@@ -107,6 +107,8 @@ for path in /usr/bin/libLorimet32.so /usr/bin/lorimet_bench_window \
   [[ $(dpkg -S "$path") == norvick-lorimet-simulator:* ]] ||
     fail "$path is not in the simulated trailer's package."
 done
+[[ $(dpkg-query -W -f '${binary:Summary}' norvick-lorimet-simulator) == "simulated trailer "* ]] ||
+  fail "The simulated trailer's package tells of another one."
 dpkg -L norvick-lorimet norvick-lorimet-simulator | sort -u >installed
 run_all
 run_without_trailer
