@@ -17,8 +17,7 @@ void ShowHelp(Script& script) {
   script.Type("frmHelp", "txtHelpSearch", "ABS");
   script.Do([] { PressKey(*FindWindow("frmHelp"), Qt::Key_Return); });
   script.Picture("frmHelp", "help-search", "The pages that hold a word");
-  script.Do([] { FindWindow("frmHelp")->close(); });
-  script.UntilGone("frmHelp");
+  script.Close("frmHelp");
   script.Command("mnuHelp_3");
   script.Picture("frmAbout", "about", "About the program");
   script.Press("frmAbout", "cmdOK");

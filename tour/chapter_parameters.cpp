@@ -16,9 +16,27 @@ constexpr char kType[] = "TOUR TRAILER, TIPPER";
 constexpr char kFile[] = "tour.ecu";
 constexpr TrailerRow kTrailer = {"4S/2M", "air", 3, "semi", "forward", ""};
 
+enum class Dialogs { kPassed, kShown };
+
+// The dialogs behind two of the functions. Left by its close box, each has asked for nothing.
+void ShowSideDialogs(Script& script) {
+  script.Press("frmGIOSelection", "chkGIO_6");
+  script.Picture("frmLiftAxlePressures", "parameters-lift-axle",
+                 "The pressures at which the lift axle is lowered and lifted");
+  script.Close("frmLiftAxlePressures");
+  script.Press("frmGIOSelection", "chkGIO_8");
+  script.Picture("frmGIOSpecial", "parameters-special-functions", "The special functions");
+  script.Press("frmGIOSpecial", "chkPerkins_2");
+  script.Picture("frmSpeedSwitchThresh", "parameters-speed-switch",
+                 "The speeds at which the speed switch turns on and off");
+  script.Close("frmSpeedSwitchThresh");
+  script.Close("frmGIOSpecial");
+}
+
 // From the first page of the wizard to the last but one. Pictures are named with `name`, where it
 // has one; `of` begins their captions.
-void WalkTo(Script& script, const QString& name, const QString& of = {}) {
+void WalkTo(Script& script, const QString& name, const QString& of = {},
+            Dialogs dialogs = Dialogs::kPassed) {
   const auto picture = [&](const char* form, const char* page, const QString& caption) {
     script.UntilShown(form);
     if (!name.isEmpty()) script.Picture(form, name + page, of + caption);
@@ -26,13 +44,14 @@ void WalkTo(Script& script, const QString& name, const QString& of = {}) {
   picture("frmOVGParm1", "-system", "The system: vehicle, axles, sensors, modulators");
   script.Press("frmOVGParm1", "cmdNext");
   picture("frmGIOSelection", "-functions", "The functions of the freely assignable pins");
+  if (dialogs == Dialogs::kShown) ShowSideDialogs(script);
   script.Press("frmGIOSelection", "cmdNext");
   picture("frmOVGParm2", "-load-sensing", "Loads, pressures and the trailer's identity");
 }
 
 void Edit(Script& script) {
   script.Command("mnuSystem_0");
-  WalkTo(script, "parameters");
+  WalkTo(script, "parameters", {}, Dialogs::kShown);
   script.Type("frmOVGParm2", "txtTrailerVIN", kId);
   script.Type("frmOVGParm2", "txtManufacturer", kManufacturer);
   script.Type("frmOVGParm2", "txtTrailerType", kType);

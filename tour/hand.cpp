@@ -1,6 +1,7 @@
 #include "tour/hand.h"
 
 #include <QAbstractButton>
+#include <QCheckBox>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -26,7 +27,8 @@ QT_END_NAMESPACE
 namespace lorimet {
 namespace {
 
-constexpr int kNoDoubleClick = 2000;  // ms between two clicks
+constexpr int kNoDoubleClick = 2000;   // ms between two clicks
+constexpr int kCheckBoxIndicator = 8;  // pixels from its left edge
 
 // The moment of the next click, as the window system tells it.
 int NextClick() {
@@ -82,7 +84,12 @@ QString StandingWindows() {
 
 void ClickAt(QWidget& widget, const QPoint& place) { ClickAtTime(widget, place, NextClick()); }
 
-void Click(QWidget& widget) { ClickAt(widget, widget.rect().center()); }
+void Click(QWidget& widget) {
+  QPoint place = widget.rect().center();
+  // Behind its words a check box does not feel the mouse.
+  if (qobject_cast<QCheckBox*>(&widget) != nullptr) place.setX(kCheckBoxIndicator);
+  ClickAt(widget, place);
+}
 
 void DoubleClick(QWidget& widget) {
   const QPointer<QWidget> alive(&widget);

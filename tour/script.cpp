@@ -182,6 +182,14 @@ void Script::Command(const QString& action) {
       });
 }
 
+void Script::Close(const QString& window) {
+  When(
+      QStringLiteral("the close box of ") + window,
+      [window] { return FindWindow(window) != nullptr; },
+      [window] { FindWindow(window)->close(); });
+  UntilGone(window);
+}
+
 // The menu's title, then the command in the menu that opens.
 void Script::ClickMenu(const QString& action) {
   auto* bar = FindIn<QMenuBar>(kMain, QString());

@@ -47,6 +47,8 @@ class Script {
   // Clicks: a button; a command of the main window's menu or, "tbrABS_...", of its toolbar.
   void Press(const QString& window, const QString& button);
   void Command(const QString& action);
+  // By its close box, until it is gone.
+  void Close(const QString& window);
   void Type(const QString& window, const QString& field, const QString& text);
   // Answers a message box, which must say `text` in the language of the tour, with a button of
   // QMessageBox.
