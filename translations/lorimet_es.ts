@@ -3305,5 +3305,17 @@ frenado&#13;
         <source>Rear right tire</source>
         <translation>Neumático trasero derecho</translation>
     </message>
+    <message>
+        <source>Reading the faults from the ECU...</source>
+        <translation>Leyendo los fallos de la ECU...</translation>
+    </message>
+    <message>
+        <source>Saving the data...</source>
+        <translation>Guardando los datos...</translation>
+    </message>
+    <message>
+        <source>Setting the flag takes about ten seconds.  The ECU restarts.</source>
+        <translation>Establecer el indicador dura unos diez segundos. La ECU se reinicia.</translation>
+    </message>
 </context>
 </TS>

@@ -3305,5 +3305,17 @@ freinage&#13;
         <source>Rear right tire</source>
         <translation>Pneu arrière droit</translation>
     </message>
+    <message>
+        <source>Reading the faults from the ECU...</source>
+        <translation>Lecture des défauts de l&apos;ECU...</translation>
+    </message>
+    <message>
+        <source>Saving the data...</source>
+        <translation>Enregistrement des données...</translation>
+    </message>
+    <message>
+        <source>Setting the flag takes about ten seconds.  The ECU restarts.</source>
+        <translation>Le positionnement de l&apos;indicateur dure environ dix secondes. L&apos;ECU redémarre.</translation>
+    </message>
 </context>
 </TS>

@@ -6,7 +6,10 @@
 #include <QPalette>
 #include <QWidget>
 
+#include <map>
+
 #include "adapters/qt/qt_colors.h"
+#include "adapters/qt/qt_pictures.h"
 #include "adapters/qt/qt_style.h"
 
 namespace lorimet {
@@ -45,6 +48,26 @@ TEST_P(ColoursTest, AFieldHasItsEdgeAndOneThatOnlyShowsAnother) {
   EXPECT_GE(Contrast(EdgeOf(field), QApplication::palette().color(QPalette::Base)), 3.0);
   EXPECT_NE(EdgeOf(field), EdgeOf(shown));
   EXPECT_NE(field.grab().toImage().pixelColor(5, 5), shown.grab().toImage().pixelColor(5, 5));
+}
+
+// What most of a picture's dots have that nothing shines through.
+QColor LineOf(const char* picture) {
+  const QImage image = LoadPicture(QLatin1String(picture), 1.0).toImage();
+  std::map<QRgb, int> count;
+  for (int y = 0; y < image.height(); ++y)
+    for (int x = 0; x < image.width(); ++x)
+      if (image.pixelColor(x, y).alpha() == 255) ++count[image.pixel(x, y)];
+  QRgb most = 0;
+  for (const auto& [colour, dots] : count)
+    if (dots > count[most]) most = colour;
+  return QColor(most);
+}
+
+TEST_P(ColoursTest, PicturesStandOut) {
+  for (const char* picture : {"print", "save", "restart", "faults", "help", "back", "link_error",
+                              "box_information", "box_critical"})
+    EXPECT_GE(Contrast(LineOf(picture), QApplication::palette().color(QPalette::Window)), 3.0)
+        << picture;
 }
 
 INSTANTIATE_TEST_SUITE_P(, ColoursTest, testing::Values(Look::kLight, Look::kDark),

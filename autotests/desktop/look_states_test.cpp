@@ -50,6 +50,7 @@ class EveryState : public LookTest {
 
   void Walk(std::size_t language) {
     Speak(language);
+    places_.clear();
     walking_ = true;
     LookOut();
     frmZeltMain& main = program.session->main_form;
@@ -125,9 +126,22 @@ class EveryState : public LookTest {
   void Work(Form& form) {
     at_.insert(&form);
     Inspect(form);
+    Buttons(form);
     if (const auto work = at_work_.find(form.Name()); work != at_work_.end()) work->second();
     if (form.Visible()) form.Unload();
     at_.erase(&form);
+  }
+
+  // From step to step of the wizard a button stays where it is.
+  void Buttons(const Form& form) {
+    const QWidget* window = desktop.Window(form);
+    if (window->findChild<QWidget*>("lblStep") == nullptr) return;
+    for (const char* name : {"cmdPrev", "cmdClose"})
+      if (const auto* button = window->findChild<QWidget*>(name)) {
+        const QPoint place = button->mapTo(window, QPoint(0, 0));
+        const QPoint before = places_.try_emplace(name, place).first->second;
+        EXPECT_EQ(place, before) << form.Name() << " " << name;
+      }
   }
 
   template <typename Control>
@@ -318,6 +332,7 @@ class EveryState : public LookTest {
 
   std::map<std::string, std::function<void()>> at_work_;
   std::set<Form*> at_;
+  std::map<std::string, QPoint> places_;
   bool walking_ = false;
   const QMessageBox* inspected_ = nullptr;
   int variant_ = 0;

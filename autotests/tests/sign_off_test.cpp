@@ -19,7 +19,7 @@ const Calls kFlag = {"repaint",        "WriteMemory 2A:2", "StartRoutine 05:", "
                      "ClearAllFaults", "sleep 2000",       "FaultLock",        "FaultGetCount",
                      "FaultGetData",   "FaultUnlock",      "ResetECU",         "sleep 6000",
                      "FaultLock",      "FaultGetCount",    "FaultGetData",     "FaultUnlock"};
-const Calls kSave = {"sleep 2000", "save"};
+const Calls kSave = {"repaint", "sleep 2000", "save"};
 const Calls kPrint = {"print"};
 
 Calls Join(std::initializer_list<Calls> parts) {

@@ -64,7 +64,7 @@ class Plan {
 void DrawAir(const TrailerPlan& plan, Plan& drawing) {
   constexpr int kLeft = kBodyLeft + 4;
   constexpr int kInner = kBodyRight - kBodyLeft - 8;
-  drawing.Words(0, 0, kWidth, plan.demand.words);
+  drawing.Box(kMiddle - 125, 0, 250, kLineHeight, plan.demand.ground, plan.demand.words);
   drawing.Line(kLeft + 14, kLineHeight, 0, kBodyTop + 10 - kLineHeight, kSupplyRed);
   drawing.Line(kMiddle + 60, kLineHeight, 0, 64 - kLineHeight, kControlYellow);
   drawing.Round(kLeft, kBodyTop + 8, kInner - 26, kLineHeight + 2, plan.supply.ground,

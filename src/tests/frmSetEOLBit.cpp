@@ -27,7 +27,7 @@ void frmSetEOLBit::OnLoad() {
 
 void frmSetEOLBit::Set(std::int16_t bPass) {
   SetMousePointer(MousePointer::kHourglass);
-  // The pointer is the only sign of the ten seconds to come.
+  // The pointer is the only sign of the ten seconds to come, which the screen has told of before.
   GetDesktop().Repaint();
   StartEcuSession(parts_.link);
   SetEOLFlag(parts_, bPass);

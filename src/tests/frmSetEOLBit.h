@@ -16,6 +16,7 @@ class frmSetEOLBit : public Form {
 
   Label lblStatus{*this, "lblStatus"};
   TextBox txtStatus{*this, "txtStatus"};
+  Label lblWait{*this, "lblWait"};
   Button cmdSetStatusFlag{*this, "cmdSetStatusFlag"};
   Button cmdClearStatusFlag{*this, "cmdClearStatusFlag"};
   Button cmdClose{*this, "cmdClose"};

@@ -111,7 +111,11 @@ bool SignOffProcedure::SetFlag() {
 void SignOffProcedure::OfferReport() {
   if (Ask(Translated("All tests passed.  End-of-line bit set.") + kCrLf +
           Translated("Do you want to save the data?"))) {
+    TextBox& messages = parts_.main_form.txtError;
+    messages.SetText(Translated("Saving the data..."));
+    parts_.desktop.Repaint();
     parts_.flag.clock.Sleep(kBeforeSaving);
+    messages.SetText("  ");
     if (save_report) save_report();
   }
   if (Ask(Translated("Do you want to print the data?")) && print_report) print_report();

@@ -4,7 +4,6 @@
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QDialog>
-#include <QFile>
 #include <QGroupBox>
 #include <QKeyEvent>
 #include <QLabel>
@@ -22,6 +21,7 @@
 
 #include "adapters/qt/qt_colors.h"
 #include "adapters/qt/qt_grid_binding.h"
+#include "adapters/qt/qt_pictures.h"
 #include "adapters/qt/qt_text.h"
 #include "adapters/qt/qt_text_binding.h"
 #include "adapters/qt/qt_widget_binding.h"
@@ -235,7 +235,9 @@ class PictureBinding : public WidgetBinding {
     WidgetBinding::Mirror(changes);
     if (!(changes & Control::kContent) || label_ == nullptr) return;
     if (!picture_.Drawing().shapes.empty()) return label_->setPicture(Draw(picture_.Drawing()));
-    label_->setPixmap(picture_.Image().empty() ? design_ : Load(ToQString(picture_.Image())));
+    label_->setPixmap(picture_.Image().empty()
+                          ? design_
+                          : LoadPicture(ToQString(picture_.Image()), label_->devicePixelRatioF()));
   }
   bool TakesFocus() const override { return false; }
 
@@ -274,17 +276,6 @@ class PictureBinding : public WidgetBinding {
     painter.setFont(font);
     painter.setPen(TextColorOn(fill));
     painter.drawText(place, Qt::AlignCenter | Qt::TextDontClip, words);
-  }
-
-  QPixmap Load(const QString& name) const {
-    const QString path = QStringLiteral(":/pictures/") + name;
-    const QString fine = path + QStringLiteral("@2x.png");
-    if (label_->devicePixelRatioF() > 1.0 && QFile::exists(fine)) {
-      QPixmap pixmap(fine);
-      pixmap.setDevicePixelRatio(2.0);
-      return pixmap;
-    }
-    return QPixmap(path + QStringLiteral(".png"));
   }
 
   Picture& picture_;

@@ -6,6 +6,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QGuiApplication>
+#include <QLabel>
 #include <QListWidget>
 #include <QMessageBox>
 #include <QPointer>
@@ -13,6 +14,7 @@
 #include <QStringList>
 #include <QVBoxLayout>
 
+#include "adapters/qt/qt_pictures.h"
 #include "adapters/qt/qt_text.h"
 
 namespace lorimet {
@@ -31,20 +33,27 @@ constexpr ButtonRow kButtons[] = {
     {kBoxCancel, QMessageBox::Cancel, &MessageBox::cancel},
 };
 
-QMessageBox::Icon ToIcon(BoxIcon icon) {
-  switch (icon) {
-    case BoxIcon::kNone:
-      return QMessageBox::NoIcon;
-    case BoxIcon::kInformation:
-      return QMessageBox::Information;
-    case BoxIcon::kQuestion:
-      return QMessageBox::Question;
-    case BoxIcon::kWarning:
-      return QMessageBox::Warning;
-    case BoxIcon::kCritical:
-      return QMessageBox::Critical;
+struct IconRow {
+  BoxIcon icon;
+  QMessageBox::Icon kind;
+  const char* picture;
+};
+
+constexpr IconRow kIcons[] = {
+    {BoxIcon::kInformation, QMessageBox::Information, "box_information"},
+    {BoxIcon::kQuestion, QMessageBox::Question, "box_question"},
+    {BoxIcon::kWarning, QMessageBox::Warning, "box_warning"},
+    {BoxIcon::kCritical, QMessageBox::Critical, "box_critical"},
+};
+
+// The kind stays known to the window system and to screen readers; the picture is ours.
+void SetIcon(BoxIcon icon, QMessageBox& dialog) {
+  for (const IconRow& row : kIcons) {
+    if (row.icon != icon) continue;
+    dialog.setIcon(row.kind);
+    if (auto* label = dialog.findChild<QLabel*>(QStringLiteral("qt_msgboxex_icon_label")))
+      label->setPixmap(LoadPicture(QLatin1String(row.picture), dialog.devicePixelRatioF()));
   }
-  return QMessageBox::NoIcon;
 }
 
 // Adds the buttons and gives back the one that closing the box stands for: Cancel, else the last.
@@ -135,7 +144,7 @@ BoxButton RunMessageBox(const MessageBox& box, QWidget* parent) {
   dialog->setObjectName(QStringLiteral("msgBox"));
   dialog->setWindowModality(Qt::WindowModal);
   dialog->setTextFormat(Qt::PlainText);
-  dialog->setIcon(ToIcon(box.icon));
+  SetIcon(box.icon, *dialog);
   dialog->setWindowTitle(ToWidgetText(box.title));
   dialog->setText(ToWidgetText(box.text));
   BoxButton answer = AddButtons(box, *dialog);

@@ -22,6 +22,7 @@
 
 #include "adapters/qt/qt_binder.h"
 #include "adapters/qt/qt_keys.h"
+#include "adapters/qt/qt_pictures.h"
 #include "adapters/qt/qt_text.h"
 #include "platform/forms.h"
 
@@ -69,6 +70,7 @@ QtFormView::QtFormView(ViewHost& host, Form& form, QWidget* window)
   window_->setObjectName(ToQString(form.Name()));
   // The window's life is the form's; only the form ends it.
   window_->setAttribute(Qt::WA_DeleteOnClose, false);
+  AdaptPictures(*window_);
   BindControls();
   field_names_.Refresh();
   ImportForm();

@@ -10,7 +10,6 @@
 #include <QPalette>
 #include <QScreen>
 #include <QSplitter>
-#include <QStyle>
 #include <QTabWidget>
 #include <QTextBrowser>
 #include <QToolBar>
@@ -19,6 +18,7 @@
 #include <QVBoxLayout>
 #include <utility>
 
+#include "adapters/qt/qt_pictures.h"
 #include "adapters/qt/qt_text.h"
 
 namespace lorimet {
@@ -27,7 +27,7 @@ namespace {
 constexpr int kTargetRole = Qt::UserRole;
 constexpr QSize kWindowSize(900, 620);
 constexpr QSize kFrame(16, 48);  // what a window manager may put round a window
-constexpr int kSideWidth = 280;
+constexpr int kSideWidth = 330;
 
 // A list row with the title of the page and the words around what was found.
 QWidget* ResultRow(const HelpHit& hit) {
@@ -77,9 +77,9 @@ void HelpWindow::BuildTools() {
   tools->setObjectName(QStringLiteral("tbrHelp"));
   tools->setMovable(false);
   tools->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-  back_ = tools->addAction(style()->standardIcon(QStyle::SP_ArrowBack), QString());
-  forward_ = tools->addAction(style()->standardIcon(QStyle::SP_ArrowForward), QString());
-  home_ = tools->addAction(style()->standardIcon(QStyle::SP_DirHomeIcon), QString());
+  back_ = tools->addAction(LoadIcon(QStringLiteral("back")), QString());
+  forward_ = tools->addAction(LoadIcon(QStringLiteral("next")), QString());
+  home_ = tools->addAction(LoadIcon(QStringLiteral("home")), QString());
   back_->setObjectName(QStringLiteral("tbrHelp_back"));
   forward_->setObjectName(QStringLiteral("tbrHelp_forward"));
   home_->setObjectName(QStringLiteral("tbrHelp_home"));
@@ -105,6 +105,8 @@ void HelpWindow::BuildSides() {
     if (item != nullptr) page_->setSource(QUrl(item->data(0, kTargetRole).toString()));
   });
   results_->setWordWrap(true);
+  // A bar that comes with the rows would lie on their words.
+  results_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
   results_->setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
   connect(results_, &QListWidget::currentItemChanged, this, &HelpWindow::Choose);
   // What is selected has another ground, also while it is not current.

@@ -8,6 +8,7 @@
 #include <QTextCursor>
 #include <QTextDocumentFragment>
 #include <QTextEdit>
+#include <QTextOption>
 #include <QTimer>
 #include <QVariant>
 #include <algorithm>
@@ -143,6 +144,7 @@ class PageBinding : public TextBinding {
     QObject::connect(edit, &Edit::textChanged, site.lifetime,
                      [this, dispatch = site.dispatch] { dispatch([this] { Typed(); }); });
     if (runs_on_) FollowEnd();
+    if (edit->frameShape() == QFrame::NoFrame) Center();  // it heads a column
   }
 
   ControlDesign Design() const override {
@@ -169,6 +171,12 @@ class PageBinding : public TextBinding {
 
  private:
   static constexpr int kLookAgain = 100;  // ms
+
+  void Center() {
+    QTextOption option = edit_->document()->defaultTextOption();
+    option.setAlignment(Qt::AlignHCenter);
+    edit_->document()->setDefaultTextOption(option);
+  }
 
   void WriteLater() {
     if (std::exchange(waits_, true)) return;
