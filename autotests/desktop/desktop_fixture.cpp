@@ -26,6 +26,7 @@
 #include <QWindow>
 
 #include "adapters/qt/qt_style.h"
+#include "autotests/common/window_system.h"
 
 // How the toolkit itself asks for shortcuts before it delivers a key.
 QT_BEGIN_NAMESPACE
@@ -33,15 +34,6 @@ Q_GUI_EXPORT bool qt_sendShortcutOverrideEvent(QObject* object, ulong timestamp,
                                                Qt::KeyboardModifiers modifiers,
                                                const QString& text = QString(),
                                                bool autorepeat = false, ushort count = 1);
-// How the toolkit's platforms hand over what the window system tells.
-Q_GUI_EXPORT void qt_handleKeyEvent(QWindow* window, QEvent::Type type, int key,
-                                    Qt::KeyboardModifiers modifiers,
-                                    const QString& text = QString(), bool autorepeat = false,
-                                    ushort count = 1);
-Q_GUI_EXPORT void qt_handleMouseEvent(QWindow* window, const QPointF& local, const QPointF& global,
-                                      Qt::MouseButtons state, Qt::MouseButton button,
-                                      QEvent::Type type, Qt::KeyboardModifiers modifiers,
-                                      int timestamp);
 
 // The toolkit's friend that makes an event look as if it came from the window system.
 class QSpontaneKeyEvent {

@@ -46,15 +46,6 @@ class FoundConfigurationTest : public WizardFormTest {
   static bool Same(const ECUData& a, const ECUData& b) {
     return std::memcmp(&a, &b, sizeof a) == 0;
   }
-  void WriteToEcu() {
-    Last().Load();
-    for (int i = 0; i < 2; ++i) {
-      Last().txtTireSize[i].UserType("3250");
-      Last().txtNumTeeth[i].UserType("100");
-    }
-    Press(Last().cmdSaveToECU);
-    desktop.TakeBoxes();
-  }
 };
 
 TEST_F(FoundConfigurationTest, ComesBackBeforeAReadFromTheEcuWithoutACallMore) {
@@ -112,7 +103,7 @@ TEST_F(FoundConfigurationTest, FileThatTheEcuAcceptedStays) {
   OpenAndCloseFile("tipper_mechanical_4s2m");
   System().Load();
   Image().EOL1(19) = 0x2B;  // axle 3: second lift axle, flag, sensors e-f
-  WriteToEcu();
+  SaveToEcu();
   // Axles, type and suspension are the ECU's now; sensors and modulators are what they were.
   EXPECT_EQ(Ecu().nVehicleType.Load(), Image().EOL1(1) & 0x03);
   EXPECT_EQ(Ecu().nMechanicalSuspension.Load(), 1);
@@ -133,7 +124,7 @@ TEST_F(FoundConfigurationTest, SensorsAndModulatorsStayWhatTheLibraryFoundThroug
   FindTrailer();
   OpenAndCloseFile();  // 2S/1M
   System().Load();
-  WriteToEcu();
+  SaveToEcu();
   EXPECT_EQ(Ecu().bNumSensors.Load(), 4);
   EXPECT_EQ(Ecu().bNumModulators.Load(), 2);
 }
@@ -145,7 +136,7 @@ TEST_F(FoundConfigurationTest, FileThatTheEcuRefusedGivesWay) {
   OpenAndCloseFile("tipper_mechanical_4s2m");
   System().Load();
   link.always["WriteMemory"] = 1;
-  WriteToEcu();
+  SaveToEcu();
   EXPECT_EQ(Ecu().nMechanicalSuspension.Load(), 1);
   ReadFromEcu();
   EXPECT_EQ(Ecu().nMechanicalSuspension.Load(), 0);
@@ -159,7 +150,7 @@ TEST_F(FoundConfigurationTest, NumberOfAxlesFollowsTheChoiceOfTheSystemPage) {
   Image().EOL1.bNumBytes = 80;
   System().Load();
   System().optNumAxles[2].UserClick();
-  WriteToEcu();
+  SaveToEcu();
   EXPECT_EQ(Ecu().nNumAxles.Load(), 3);
 }
 
@@ -170,7 +161,7 @@ TEST_F(FoundConfigurationTest, RefusedWriteLeavesTheAxlesAlone) {
   System().Load();
   System().optNumAxles[2].UserClick();
   link.always["WriteMemory"] = 1;
-  WriteToEcu();
+  SaveToEcu();
   EXPECT_EQ(Ecu().nNumAxles.Load(), 2);
   EXPECT_EQ(Ecu().nAxleSensors[0].Load(), 2);
 }

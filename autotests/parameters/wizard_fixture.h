@@ -84,6 +84,16 @@ class WizardFormTest : public ProgramTest {
     program.support->dictionary.Open();
     program.support->dictionary.SetLanguage(language);
   }
+  // Fills what the last page insists on, and saves to the ECU.
+  void SaveToEcu() {
+    Last().Load();
+    for (int i = 0; i < 2; ++i) {
+      Last().txtTireSize[i].UserType("3250");
+      Last().txtNumTeeth[i].UserType("100");
+    }
+    Press(Last().cmdSaveToECU);
+    desktop.TakeBoxes();
+  }
   static MessageBox RangeBox(const std::string& text) {
     return PlainBox(text, "Range Limit Exceeded");
   }

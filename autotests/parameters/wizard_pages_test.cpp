@@ -825,12 +825,7 @@ class SavingTest : public WizardTest {
     System().optSLAC[cable].SetValue(true);
     Last().Load();
     Last().optOVGStatus[guard].SetValue(true);
-    for (int i = 0; i < 2; ++i) {
-      Last().txtTireSize[i].UserType("3260");
-      Last().txtNumTeeth[i].UserType("100");
-    }
-    Press(Last().cmdSaveToECU);
-    desktop.TakeBoxes();
+    SaveToEcu();
   }
 };
 

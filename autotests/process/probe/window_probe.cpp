@@ -41,15 +41,7 @@
 #include <QWindow>
 #include <algorithm>
 
-// The toolkit exports these for its own tests; they bring an event as the window system would.
-Q_GUI_EXPORT void qt_handleKeyEvent(QWindow* window, QEvent::Type type, int key,
-                                    Qt::KeyboardModifiers modifiers,
-                                    const QString& text = QString(), bool autorepeat = false,
-                                    ushort count = 1);
-Q_GUI_EXPORT void qt_handleMouseEvent(QWindow* window, const QPointF& local, const QPointF& global,
-                                      Qt::MouseButtons state, Qt::MouseButton button,
-                                      QEvent::Type type, Qt::KeyboardModifiers modifiers,
-                                      int timestamp);
+#include "autotests/common/window_system.h"
 
 namespace {
 
