@@ -855,5 +855,49 @@
         <source>The program works with the recorder&apos;s data.</source>
         <translation>El programa trabaja con los datos del registrador.</translation>
     </message>
+    <message>
+        <source>Control pressure sensor</source>
+        <translation>Sensor de presión de mando</translation>
+    </message>
+    <message>
+        <source>Supply pressure sensor</source>
+        <translation>Sensor de presión de alimentación</translation>
+    </message>
+    <message>
+        <source>Bellows pressure sensor</source>
+        <translation>Sensor de presión del fuelle</translation>
+    </message>
+    <message>
+        <source>Modulator</source>
+        <translation>Modulador</translation>
+    </message>
+    <message>
+        <source>Brake pressure sensor</source>
+        <translation>Sensor de presión de frenado</translation>
+    </message>
+    <message>
+        <source>Redundancy path</source>
+        <translation>Vía de redundancia</translation>
+    </message>
+    <message>
+        <source>Sensor cables exchanged</source>
+        <translation>Cables de sensores intercambiados</translation>
+    </message>
+    <message>
+        <source>Wheel sensor</source>
+        <translation>Sensor de rueda</translation>
+    </message>
+    <message>
+        <source>Wheel without brake</source>
+        <translation>Rueda sin freno</translation>
+    </message>
+    <message>
+        <source>Brake mode ignored</source>
+        <translation>Modo de frenado ignorado</translation>
+    </message>
+    <message>
+        <source>Load ignored</source>
+        <translation>Carga ignorada</translation>
+    </message>
 </context>
 </TS>

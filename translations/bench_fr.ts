@@ -855,5 +855,49 @@
         <source>The program works with the recorder&apos;s data.</source>
         <translation>Le programme travaille sur les données de l&apos;enregistreur.</translation>
     </message>
+    <message>
+        <source>Control pressure sensor</source>
+        <translation>Capteur de pression de commande</translation>
+    </message>
+    <message>
+        <source>Supply pressure sensor</source>
+        <translation>Capteur de pression d&apos;alimentation</translation>
+    </message>
+    <message>
+        <source>Bellows pressure sensor</source>
+        <translation>Capteur de pression du soufflet</translation>
+    </message>
+    <message>
+        <source>Modulator</source>
+        <translation>Modulateur</translation>
+    </message>
+    <message>
+        <source>Brake pressure sensor</source>
+        <translation>Capteur de pression de freinage</translation>
+    </message>
+    <message>
+        <source>Redundancy path</source>
+        <translation>Voie de redondance</translation>
+    </message>
+    <message>
+        <source>Sensor cables exchanged</source>
+        <translation>Câbles de capteurs intervertis</translation>
+    </message>
+    <message>
+        <source>Wheel sensor</source>
+        <translation>Capteur de roue</translation>
+    </message>
+    <message>
+        <source>Wheel without brake</source>
+        <translation>Roue sans frein</translation>
+    </message>
+    <message>
+        <source>Brake mode ignored</source>
+        <translation>Mode de freinage ignoré</translation>
+    </message>
+    <message>
+        <source>Load ignored</source>
+        <translation>Charge ignorée</translation>
+    </message>
 </context>
 </TS>

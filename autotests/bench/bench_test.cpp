@@ -180,6 +180,12 @@ TEST(Ready, IsTakenByTheTrailerEveryOne) {
     EXPECT_EQ(simulator::Link().Command(failure.command), "") << failure.command;
 }
 
+TEST(Ready, EveryDefectHasWords) {
+  for (const simulator::DefectFacts& facts : simulator::DefectTable())
+    EXPECT_NE(WordsOfDefect(facts.name), facts.name);
+  EXPECT_EQ(WordsOfDefect("rust"), "rust");
+}
+
 TEST(Ready, CompletesEveryCommandThatALivingTrailerTakes) {
   const std::vector<std::string> lines = Completions();
   EXPECT_TRUE(std::ranges::is_sorted(lines));

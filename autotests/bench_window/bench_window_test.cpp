@@ -198,6 +198,19 @@ TEST_F(BenchWindowTest, SaysThatThereIsNoTrailerAndFindsItByItself) {
   EXPECT_TRUE(There());
 }
 
+TEST_F(BenchWindowTest, WhatIsBrokenStandsThereInTheLanguageOfThePerson) {
+  StartTrailer();
+  Show("fr");
+  ASSERT_TRUE(There());
+  window_->Do("defect modulator H1 dead");
+  window_->Do("defect lamp dead");
+  const auto shown = [this] { return Find<QLabel>("lblDefects")->text(); };
+  EXPECT_TRUE(Eventually([&] { return shown().contains(QStringLiteral("Modulateur")); }));
+  EXPECT_TRUE(shown().contains(QStringLiteral(", "))) << shown().toStdString();
+  window_->Do("repair all");
+  EXPECT_TRUE(Eventually([&] { return shown().endsWith(QStringLiteral(": -")); }));
+}
+
 TEST_F(BenchWindowTest, ASecondBenchBringsTheFirstOneForward) {
   const QString meeting = Socket() + QStringLiteral(".bench");
   SingleBench second(meeting);

@@ -196,9 +196,9 @@ QWidget* BenchWindow::MakeCommandLine() {
 
 // The picture beside what a person does, or above it in a window that is narrow.
 void BenchWindow::Arrange() {
-  const bool beside =
-      width() >= scroll_->minimumWidth() + picture_->minimumSizeHint().width() + kBetween;
-  const bool below = beside && height() >= kHigh;
+  const int room = width() - scroll_->minimumWidth() - kBetween;
+  const bool beside = room >= picture_->minimumSizeHint().width();
+  const bool below = height() >= kHigh && room >= LeastBelow(0).width() + LeastBelow(1).width();
   if (arranged_ && beside == beside_ && below == below_picture_) return;
   arranged_ = true;
   beside_ = beside;
@@ -225,9 +225,12 @@ void BenchWindow::Arrange() {
   grid_->setRowStretch(2, beside ? 0 : 2);
 }
 
+QSize BenchWindow::LeastBelow(int part) const { return below_row_->itemAt(part)->minimumSize(); }
+
 // The widths follow the words of the language and the style.
 void BenchWindow::Fit() {
-  const int least = std::max(panel_->minimumSizeHint().width(), below_->minimumSizeHint().width());
+  const int least =
+      std::max({panel_->minimumSizeHint().width(), LeastBelow(0).width(), LeastBelow(1).width()});
   scroll_->setMinimumWidth(least + scroll_->verticalScrollBar()->sizeHint().width());
   const QMargins margins = grid_->contentsMargins();
   setMinimumSize(scroll_->minimumWidth() + margins.left() + margins.right(), kLow / 2);

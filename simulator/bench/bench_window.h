@@ -49,6 +49,8 @@ class BenchWindow : public QWidget {
   void MakeColumns();
   void Arrange();
   void Fit();
+  // Of the requests (0) or the command line (1).
+  QSize LeastBelow(int part) const;
   QWidget* MakeHead();
   QWidget* MakeRequests();
   QWidget* MakeCommandLine();

@@ -311,6 +311,15 @@ void ControlPanel::ShowTrailer() {
   trailer_->setCurrentIndex(sight_.scenario == "none" ? 0 : trailer_->findData(quoted));
 }
 
+QString ControlPanel::DefectsInWords() const {
+  if (sight_.defects.empty() || sight_.defects == "none") return QStringLiteral("-");
+  QStringList words;
+  const QString names = QString::fromStdString(sight_.defects);
+  for (const QString& name : names.split(QLatin1Char(' '), Qt::SkipEmptyParts))
+    words << texts_.Translate(WordsOfDefect(name.toStdString()));
+  return words.join(QStringLiteral(", "));
+}
+
 void ControlPanel::ShowTroubles() {
   const auto told = [this](const char* key, const std::string& names) {
     return texts_.Translate(key).arg(
@@ -320,7 +329,7 @@ void ControlPanel::ShowTroubles() {
     label->setText(text);
     label->setToolTip(text);
   };
-  show(defects_, told("Defects: %1", sight_.defects));
+  show(defects_, texts_.Translate("Defects: %1").arg(DefectsInWords()));
   show(failures_, told("Link failures: %1", sight_.failures));
   show(faults_, texts_.Translate("Faults in the ECU: %1").arg(sight_.faults));
 }

@@ -54,6 +54,7 @@ class ControlPanel : public QWidget {
   void Pump(double psi);
   void ShowTrailer();
   void ShowTroubles();
+  QString DefectsInWords() const;
   void Mark(Deed deed);
   void Follow(QSlider* slider, int value) const;
 

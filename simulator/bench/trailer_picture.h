@@ -18,7 +18,7 @@ namespace lorimet::bench {
 
 class TrailerPicture : public QWidget {
  public:
-  TrailerPicture(Texts& texts, QWidget* parent = nullptr);
+  explicit TrailerPicture(Texts& texts, QWidget* parent = nullptr);
 
   // there: a trailer can be seen at all.
   void Show(const Sight& sight, const Advice& advice, bool there);

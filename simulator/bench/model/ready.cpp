@@ -42,6 +42,34 @@ constexpr KnownTrailer kTrailers[] = {
     {"no_adapter", "No adapter"},
 };
 
+struct DefectWords {
+  std::string_view name;
+  const char* words;
+};
+
+constexpr DefectWords kDefectWords[] = {
+    {"supply_leak", "Reservoir leaks"},
+    {"lines_swapped", "Supply and control hoses exchanged"},
+    {"control_residual", "Residual control pressure"},
+    {"control_leak", "Control line leaks"},
+    {"control_sensor", "Control pressure sensor"},
+    {"supply_sensor", "Supply pressure sensor"},
+    {"bellows_sensor", "Bellows pressure sensor"},
+    {"bellows", "Bellows burst"},
+    {"modulator", "Modulator"},
+    {"pressure_sensor", "Brake pressure sensor"},
+    {"redundancy", "Redundancy path"},
+    {"brake_lines", "Brake lines crossed"},
+    {"wire", "Sensor cables exchanged"},
+    {"sensor", "Wheel sensor"},
+    {"wheel", "Wheel without brake"},
+    {"mode_ignored", "Brake mode ignored"},
+    {"load_ignored", "Load ignored"},
+    {"lamp", "Warning lamp dead"},
+    {"height_sensor", "Height sensor unplugged"},
+    {"stop_lights", "Stop lights dead"},
+};
+
 std::vector<fs::path> ScenarioFiles(const fs::path& folder) {
   std::vector<fs::path> files;
   std::error_code error;
@@ -103,6 +131,11 @@ const std::vector<Ready>& ReadyDefects() {
       {"Stop lights dead", "defect stop_lights dead"},
   };
   return defects;
+}
+
+std::string WordsOfDefect(std::string_view name) {
+  const auto* row = std::ranges::find(kDefectWords, name, &DefectWords::name);
+  return row == std::end(kDefectWords) ? std::string(name) : row->words;
 }
 
 const std::vector<Ready>& ReadyFailures() {

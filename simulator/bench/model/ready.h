@@ -21,6 +21,9 @@ struct Ready {
 // knows has its label, another one its name.
 std::vector<Ready> ReadyTrailers(const std::vector<std::filesystem::path>& folders);
 const std::vector<Ready>& ReadyDefects();
+// What a defect is, whatever its options say, in an English text that is the key of its
+// translation; the name itself where it is not known.
+std::string WordsOfDefect(std::string_view name);
 // Those in words, then every failure mode of the link by its name.
 const std::vector<Ready>& ReadyFailures();
 
