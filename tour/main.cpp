@@ -65,9 +65,7 @@ std::optional<Arguments> ArgumentsOf(const QStringList& words) {
       arguments.slow = true;
     else if (word == "--trailer" && i + 1 < words.size())
       arguments.commands.push_back(words[++i].toStdString());
-    else if (word.startsWith('-'))
-      return {};
-    else if (arguments.folder.isEmpty())
+    else if (arguments.folder.isEmpty() && !word.startsWith('-'))
       arguments.folder = QDir(word).absolutePath();
     else if (word == "en" || word == "fr" || word == "es")
       arguments.language = word;
