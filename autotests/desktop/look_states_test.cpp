@@ -3,6 +3,7 @@
 #include <QApplication>
 #include <QFileDialog>
 #include <QMessageBox>
+#include <QTemporaryDir>
 #include <QTimer>
 
 #include <functional>
@@ -101,8 +102,9 @@ class EveryState : public LookTest {
     if (window == nullptr) return;
     if (auto* box = qobject_cast<QMessageBox*>(window)) return OnBox(*box);
     if (Inspecting()) return;
-    if (const auto* chooser = qobject_cast<QFileDialog*>(window)) {
+    if (auto* chooser = qobject_cast<QFileDialog*>(window)) {
       auto* dialog = static_cast<QDialog*>(window);
+      chooser->setDirectory(folder_.path());
       return chooser->acceptMode() == QFileDialog::AcceptSave ? dialog->accept() : dialog->reject();
     }
     if (window->objectName() == "dlgChoose") {
@@ -333,6 +335,7 @@ class EveryState : public LookTest {
   std::map<std::string, std::function<void()>> at_work_;
   std::set<Form*> at_;
   std::map<std::string, QPoint> places_;
+  const QTemporaryDir folder_;  // takes what is saved
   bool walking_ = false;
   const QMessageBox* inspected_ = nullptr;
   int variant_ = 0;

@@ -126,6 +126,7 @@ void Inspection::ClippedWords() {
       for (int i = 0; i < head->count(); ++i)
         if (head->sectionSizeHint(i) > head->sectionSize(i))
           Complain(QString("%1: head %2 is clipped").arg(widget->objectName()).arg(i));
+      CrampedCells(*table);
     }
     if (needed.width() > size.width() || needed.height() > size.height() + 1)
       Complain(QString("%1: is clipped, %2x%3 of %4x%5")
@@ -134,6 +135,18 @@ void Inspection::ClippedWords() {
                    .arg(size.height())
                    .arg(needed.width())
                    .arg(needed.height()));
+  }
+}
+
+// A column that is as wide as its words has some room beside them.
+void Inspection::CrampedCells(const QTableWidget& table) {
+  constexpr int kRoom = 8;
+  for (int column = 0; column < table.columnCount(); ++column) {
+    if (table.horizontalHeader()->sectionResizeMode(column) == QHeaderView::Stretch) continue;
+    for (int row = 0; row < table.rowCount(); ++row)
+      if (const QString words = table.item(row, column)->text();
+          table.fontMetrics().horizontalAdvance(words) + kRoom > table.columnWidth(column))
+        Complain(QString("%1: \"%2\" is cramped").arg(table.objectName(), words));
   }
 }
 

@@ -7,7 +7,7 @@
 
 #include <functional>
 
-class QRect;
+class QTableWidget;
 class QWidget;
 
 namespace lorimet {
@@ -29,6 +29,7 @@ class Inspection {
  private:
   void Complain(const QString& complaint) { complaints_ << complaint; }
   void ClippedWords();
+  void CrampedCells(const QTableWidget& table);
   void ClippedTitle();
   void Doubles(const QStringList& captions, const QString& where);
   void Access();

@@ -64,9 +64,11 @@ class Plan {
 void DrawAir(const TrailerPlan& plan, Plan& drawing) {
   constexpr int kLeft = kBodyLeft + 4;
   constexpr int kInner = kBodyRight - kBodyLeft - 8;
-  drawing.Box(kMiddle - 125, 0, 250, kLineHeight, plan.demand.ground, plan.demand.words);
-  drawing.Line(kLeft + 14, kLineHeight, 0, kBodyTop + 10 - kLineHeight, kSupplyRed);
-  drawing.Line(kMiddle + 60, kLineHeight, 0, 64 - kLineHeight, kControlYellow);
+  constexpr int kTop = 4;  // below what stands above the plan
+  constexpr int kLines = kTop + kLineHeight;
+  drawing.Box(kMiddle - 125, kTop, 250, kLineHeight, plan.demand.ground, plan.demand.words);
+  drawing.Line(kLeft + 14, kLines, 0, kBodyTop + 10 - kLines, kSupplyRed);
+  drawing.Line(kMiddle + 60, kLines, 0, 64 - kLines, kControlYellow);
   drawing.Round(kLeft, kBodyTop + 8, kInner - 26, kLineHeight + 2, plan.supply.ground,
                 plan.supply.words);
   drawing.Box(kLeft, 64, kInner, kLineHeight, plan.side1.ground, plan.side1.words);

@@ -122,6 +122,7 @@ QLineEdit:focus, QPlainTextEdit:focus, QTextEdit:focus, QTableWidget:focus, QLis
 QTreeWidget:focus, QTextBrowser:focus { border: 2px solid @accent; }
 QLineEdit:focus { padding: 0 3px; }
 QTableWidget { alternate-background-color: @stripe; gridline-color: @line; }
+QTableWidget::item { padding: 0 5px; }
 QHeaderView::section {
   background-color: @bar;
   color: @words;
