@@ -43,6 +43,7 @@ class BenchWalkTest : public ProcessTest {
     std::optional<std::string> place;
     EXPECT_TRUE(Eventually([&] { return (place = run.Ask("where " + target)).has_value(); }))
         << target;
+    if (window == "frmBench") display_->Raise("Trailer Bench");
     if (place) display_->Click(*place);
   }
 

@@ -89,6 +89,10 @@ Display::~Display() {
   waitpid(server_, nullptr, 0);
 }
 
+void Display::Raise(const std::string& title) const {
+  Robot({"search", "--onlyvisible", "--name", title, "windowraise"});
+}
+
 void Display::Click(const std::string& place) const {
   const std::size_t blank = place.find(' ');
   Robot({"mousemove", place.substr(0, blank), place.substr(blank + 1), "click", "1"});

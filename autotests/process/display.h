@@ -20,6 +20,8 @@ class Display {
 
   // What DISPLAY names.
   const std::string& Name() const { return name_; }
+  // Lays the window with that title on top, as a window manager does with one that is clicked.
+  void Raise(const std::string& title) const;
   // A click with the left button; place: x and y with a blank between them.
   void Click(const std::string& place) const;
   // A key such as "Escape" to the window that has the focus.
