@@ -121,7 +121,8 @@ void frmZeltMain::ShowPlan() {
   plan.side1 = with_caption(lblBrake1Press, txtBrake1Press);
   plan.side2 = with_caption(lblBrake2Press, txtBrake2Press);
   plan.main_bellows = with_caption(lblMainBellows, txtMainBellows);
-  if (txtSteerBellows.Text() != kLiteralNoData)
+  // Few trailers have them; a cleared panel says so in the user's language.
+  if (txtSteerBellows.Text() != kLiteralNoData && txtSteerBellows.Text() != NoData())
     plan.steer_bellows = with_caption(lblSteerBellows, txtSteerBellows);
   picPlan.SetDrawing(DrawTrailerPlan(plan));
 }
