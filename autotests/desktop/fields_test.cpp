@@ -113,6 +113,30 @@ TEST_F(FieldsTest, BlanksThatFillAFieldUpAreNotShownAndStay) {
   EXPECT_EQ(program.parameters->load_sensing_page.txtManufacturer.Text(), "ACME Z");
 }
 
+TEST_F(FieldsTest, OtherBlanksBehindTheSameTextKeepTheUsersPlace) {
+  frmOVGParm2& page = program.parameters->load_sensing_page;
+  page.Show();
+  page.txtManufacturer.SetText("ACME  ");
+  Activate(page);
+  auto* field = Find<QLineEdit>(page, "txtManufacturer");
+  field->setCursorPosition(2);
+  page.txtManufacturer.SetText("ACME    ");
+  Pump();
+  EXPECT_EQ(field->cursorPosition(), 2);
+}
+
+TEST_F(FieldsTest, ACommaDoesNotGetIntoAFieldThatOnlyShows) {
+  frmOVGParm2& page = program.parameters->load_sensing_page;
+  page.Show();
+  Activate(page);
+  auto* field = Find<QLineEdit>(page, "txtBrakingPressUnladen_0");
+  field->setFocus();
+  field->setText("32");
+  field->setReadOnly(true);
+  Key(page, Qt::Key_Comma, Qt::NoModifier, ",");
+  EXPECT_EQ(field->text(), "32");
+}
+
 TEST_F(FieldsTest, ACommaIsThePointInFieldsOfNumbersAndACommaElsewhere) {
   frmOVGParm2& page = program.parameters->load_sensing_page;
   page.Show();

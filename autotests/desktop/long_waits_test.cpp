@@ -55,6 +55,7 @@ TEST_F(LongWaitsTest, TheMainWindowTellsThatTheFaultsAreRead) {
     ExpectTold({"Reading the faults from the ECU..."});
     EXPECT_EQ(Messages(), "before");
     program.faults->fault_list.cmdClearAll.UserClick();
+    EXPECT_EQ(program.faults->fault_list.lblWait.Caption(), "");
     program.faults->fault_list.Unload();
   });
   program.session->main_form.mnuDiagnostics[0].UserClick();
