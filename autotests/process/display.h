@@ -12,7 +12,7 @@ namespace lorimet {
 class Display {
  public:
   // A screen of 1366 x 768 without a window manager. Nothing, and a line that says so, where Xvfb
-  // or xdotool is not installed.
+  // or xdotool is not installed, and under the thread sanitizer.
   static std::unique_ptr<Display> Open(const std::string& output);
   ~Display();
   Display(const Display&) = delete;
