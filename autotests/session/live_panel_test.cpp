@@ -284,5 +284,13 @@ TEST_F(LivePanelTest, TheExportIsOpenedByAKnownOdometerForGood) {
   EXPECT_TRUE(Main().mnuODR[1].Enabled());
 }
 
+TEST_F(LivePanelTest, WordsOfAWaitGiveWayToTheLinksMessage) {
+  Main().txtError.SetText("The link has an error");
+  Main().TellWhile("Working", [this] { EXPECT_EQ(Main().txtError.Text(), "Working"); });
+  EXPECT_EQ(Main().txtError.Text(), "The link has an error");
+  Main().TellWhile("Working", [this] { Main().txtError.SetText(""); });
+  EXPECT_EQ(Main().txtError.Text(), "") << "the link was healthy again meanwhile";
+}
+
 }  // namespace
 }  // namespace lorimet::testing_support

@@ -17,19 +17,11 @@ FaultsPart::FaultsPart(const Ports& ports, SupportPart& support, SessionPart& se
   });
   fault_list.ecu_type = [&main_form] { return main_form.nECUType; };
   main_form.actions.show_faults = [this, &main_form, &dictionary = support.dictionary] {
-    LoadList(main_form, dictionary);
+    // The ECU is waited for before the list stands.
+    main_form.TellWhile(dictionary.Translate("Reading the faults from the ECU..."),
+                        [this] { fault_list.Load(); });
     fault_list.Show(Modality::kModal, &main_form);
   };
-}
-
-// The ECU is waited for before the list stands, so the main window tells of it.
-void FaultsPart::LoadList(frmZeltMain& main_form, const Dictionary& dictionary) {
-  const std::string before = main_form.txtError.Text();
-  const std::string words = dictionary.Translate("Reading the faults from the ECU...");
-  main_form.txtError.SetText(words);
-  main_form.GetDesktop().Repaint();
-  fault_list.Load();
-  if (main_form.txtError.Text() == words) main_form.txtError.SetText(before);
 }
 
 }  // namespace lorimet

@@ -7,8 +7,6 @@
 
 namespace lorimet {
 
-class Dictionary;
-class frmZeltMain;
 struct Ports;
 struct SessionPart;
 struct SupportPart;
@@ -19,9 +17,6 @@ struct FaultsPart {
   FaultTable fault_table;
   Faults faults;
   frmFaults fault_list;
-
- private:
-  void LoadList(frmZeltMain& main_form, const Dictionary& dictionary);
 };
 
 }  // namespace lorimet

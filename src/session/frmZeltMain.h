@@ -41,6 +41,9 @@ class frmZeltMain : public Form {
   void UpdateLiveData();
   // Blanks the live values when a connection ends.
   void ClearStatusPanel();
+  // Shows the words in the Message Center before and during the work; a message of the link that
+  // stood there comes back, and what comes meanwhile stays.
+  void TellWhile(const std::string& words, const std::function<void()>& work);
   // For a screen that runs long: takes the commands away and gives them back. Afterwards the
   // Utility menu stays grey, even where the chord shows it.
   void DisableMenuToolbarItems();

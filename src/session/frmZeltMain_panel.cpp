@@ -100,6 +100,14 @@ void frmZeltMain::UpdateLiveData() {
   GetDesktop().DoEvents();
 }
 
+void frmZeltMain::TellWhile(const std::string& words, const std::function<void()>& work) {
+  const std::string before = txtError.Text();
+  txtError.SetText(words);
+  GetDesktop().Repaint();
+  work();
+  if (txtError.Text() == words) txtError.SetText(before);
+}
+
 // The trailer from above, with what the fields show.
 void frmZeltMain::ShowPlan() {
   const ECUData& ecu = parts_.connection.records.ecu_data;

@@ -111,11 +111,8 @@ bool SignOffProcedure::SetFlag() {
 void SignOffProcedure::OfferReport() {
   if (Ask(Translated("All tests passed.  End-of-line bit set.") + kCrLf +
           Translated("Do you want to save the data?"))) {
-    TextBox& messages = parts_.main_form.txtError;
-    messages.SetText(Translated("Saving the data..."));
-    parts_.desktop.Repaint();
-    parts_.flag.clock.Sleep(kBeforeSaving);
-    messages.SetText("  ");
+    parts_.main_form.TellWhile(Translated("Saving the data..."),
+                               [this] { parts_.flag.clock.Sleep(kBeforeSaving); });
     if (save_report) save_report();
   }
   if (Ask(Translated("Do you want to print the data?")) && print_report) print_report();
